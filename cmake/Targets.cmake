@@ -1,0 +1,45 @@
+# The kinds of code as link targets. `rules` never sees Qt or SQLite: its targets link nothing but each other, so an
+# include of a Qt header there does not compile.
+
+add_library(penwright_flags INTERFACE)
+target_compile_options(penwright_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion)
+if(PENWRIGHT_WERROR)
+  target_compile_options(penwright_flags INTERFACE -Werror)
+endif()
+if(PENWRIGHT_SANITIZE)
+  target_compile_options(penwright_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                                                   -fno-omit-frame-pointer)
+  target_link_options(penwright_flags INTERFACE -fsanitize=address,undefined)
+endif()
+
+add_library(rules INTERFACE)
+add_library(windows INTERFACE)
+
+# Rules of one folder: the standard library only. Without sources the target exists and is empty.
+function(penwright_rules folder)
+  if(ARGN)
+    add_library(${folder}_rules STATIC ${ARGN})
+    target_include_directories(${folder}_rules PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${folder}_rules PRIVATE penwright_flags)
+  else()
+    add_library(${folder}_rules INTERFACE)
+    target_include_directories(${folder}_rules INTERFACE ${PROJECT_SOURCE_DIR}/src)
+  endif()
+  target_link_libraries(rules INTERFACE ${folder}_rules)
+endfunction()
+
+# One implementation of the platform interfaces.
+function(penwright_platform kind)
+  add_library(platform_${kind} STATIC ${ARGN})
+  target_include_directories(platform_${kind} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(platform_${kind} PRIVATE penwright_flags)
+endfunction()
+
+# Windows of one folder, with their forms; they see the rules and the Qt side of the platform.
+function(penwright_windows folder)
+  add_library(${folder}_windows STATIC ${ARGN})
+  set_target_properties(${folder}_windows PROPERTIES AUTOMOC ON AUTOUIC ON)
+  target_link_libraries(${folder}_windows PRIVATE penwright_flags PUBLIC rules platform_qt Qt6::Widgets)
+  target_precompile_headers(${folder}_windows PRIVATE <QtWidgets>)
+  target_link_libraries(windows INTERFACE ${folder}_windows)
+endfunction()

@@ -1,0 +1,148 @@
+#include "core/IesWriter.h"
+
+#include <algorithm>
+#include <iterator>
+#include <limits>
+
+#include "core/FileErrors.h"
+#include "core/NumberText.h"
+#include "platform/Dialogs.h"
+#include "platform/TextFiles.h"
+
+namespace penwright {
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+struct FoldRow {
+    std::string_view firstLine;
+    std::int16_t width;
+};
+
+constexpr FoldRow kFoldRows[]{{"IESNA91", 132}, {"IESNA:LM-63-1995", 132}, {"IESNA:LM-63-2002", 256}};
+constexpr std::int16_t kOldestFormatWidth = 132;
+
+std::int16_t narrowed(std::size_t length)
+{
+    if (length > static_cast<std::size_t>(std::numeric_limits<std::int16_t>::max()))
+        throw overflow();
+    return static_cast<std::int16_t>(length);
+}
+
+/// Numbers joined by single blanks.
+template <typename... Numbers>
+std::string joined(Numbers... numbers)
+{
+    std::string text;
+    ((text += (text.empty() ? "" : " ") + generalText(numbers)), ...);
+    return text;
+}
+
+}  // namespace
+
+std::int16_t foldWidth(std::string_view firstLine)
+{
+    const auto row = std::find_if(std::begin(kFoldRows), std::end(kFoldRows),
+                                  [firstLine](const FoldRow &r) { return r.firstLine == firstLine; });
+    return row == std::end(kFoldRows) ? kOldestFormatWidth : row->width;
+}
+
+void IesWriter::AppendIesPiece(std::string_view piece)
+{
+    const std::size_t lineEnd = piece.rfind(kLineEnd);
+    const std::int16_t together = narrowed(piece.size() + static_cast<std::size_t>(IesLineLength));
+    if (lineEnd != std::string_view::npos) {
+        IesText += piece;
+        // Counted from the carriage return, a line that has just begun is 1 long, so that a folded line carries one
+        // visible character less than the width. Readers of these files know them so.
+        IesLineLength = narrowed(piece.size() - lineEnd - 1);
+    } else if (together > IesLineWidth) {
+        IesText += kLineEnd;
+        IesText += piece;
+        IesLineLength = narrowed(piece.size() + 1);
+    } else {
+        IesText += piece;
+        IesLineLength = together;
+    }
+}
+
+void IesWriter::appendHeader(const PhotometricRecord &record)
+{
+    for (const std::string &line : record.Keywords)
+        AppendIesPiece(line + "\r\n");
+    if (!record.TiltIncl)
+        return AppendIesPiece("TILT=NONE\r\n");
+    AppendIesPiece("TILT=INCLUDE\r\n");
+    AppendIesPiece(generalText(record.LampToLuminaireGeometry) + "\r\n");
+    AppendIesPiece(generalText(record.NumTiltAngles) + "\r\n");
+    appendNumbers(record.TiltAngles, record.NumTiltAngles);
+    appendNumbers(record.TiltMultipliers, record.NumTiltAngles);
+}
+
+void IesWriter::appendNumbers(const OneBased<float> &numbers, int count)
+{
+    for (int i = 1; i <= count; ++i) {
+        AppendIesPiece(generalText(numbers(i)));
+        AppendIesPiece(i >= count ? "\r\n" : " ");
+    }
+}
+
+// The last row gets no line end here: writing the file ends it.
+void IesWriter::appendCandela(const PhotometricRecord &record)
+{
+    std::string number;
+    for (int h = 1; h <= record.NumHorzAngles; ++h) {
+        for (int v = 1; v <= record.NumVertAngles; ++v) {
+            number.clear();
+            appendGeneralText(number, record.Candela(h, v));
+            AppendIesPiece(number);
+            if (v < record.NumVertAngles)
+                AppendIesPiece(" ");
+        }
+        if (h < record.NumHorzAngles)
+            AppendIesPiece("\r\n");
+    }
+}
+
+void IesWriter::build(const PhotometricRecord &record)
+{
+    IesText.clear();
+    IesLineWidth = foldWidth(record.Keywords(1));
+    appendHeader(record);
+    AppendIesPiece(joined(record.NumLamps, record.LumensPerLamp, record.CandelaMultiplier, record.NumVertAngles,
+                          record.NumHorzAngles, record.PhotometricType, record.UnitsType, record.Width, record.Length,
+                          record.Height) +
+                   "\r\n");
+    AppendIesPiece(generalText(record.BallastFactor) + " 1 " + generalText(record.InputWatts) + "\r\n");
+    appendNumbers(record.VertAngles, record.NumVertAngles);
+    appendNumbers(record.HorAngles, record.NumHorzAngles);
+    appendCandela(record);
+}
+
+void IesWriter::write(const std::string &path)
+{
+    IesText += kLineEnd;
+    const int failure = m_files.replace(path, IesText);
+    IesText.resize(IesText.size() - kLineEnd.size());
+    if (failure != 0)
+        throw errorFromErrno(failure);
+}
+
+bool IesWriter::WriteIesFile(const PhotometricRecord &record)
+{
+    MessageBox question{"", kOkCancel, "Error saving " + record.Filename};
+    try {
+        build(record);
+        write(record.Filename);
+        return true;
+    } catch (const RunTimeError &error) {
+        question.text = writingQuestionText(error);
+    }
+    if (m_dialogs.show(question) != Answer::Ok)
+        return false;
+    // The text is not built again: what an error while building has left is what gets written.
+    write(record.Filename);
+    return true;
+}
+
+}  // namespace penwright

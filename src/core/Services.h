@@ -1,0 +1,22 @@
+#pragma once
+
+namespace penwright {
+
+class Dialogs;
+class EventWait;
+class HelpViewer;
+class HostEmbedding;
+class SettingsStore;
+class TextFiles;
+
+/// What the platform does for the program, made once at start-up and passed on by reference.
+struct Services {
+    SettingsStore &store;
+    TextFiles &files;
+    Dialogs &dialogs;
+    EventWait &wait;
+    HostEmbedding &window;
+    HelpViewer &help;
+};
+
+}  // namespace penwright

@@ -1,0 +1,15 @@
+#!/bin/sh
+# Builds and tests everything: with sanitizers under gcc and under clang, then the release build.
+#   ./test.sh            all three
+#   ./test.sh PRESET     one of them: test, test-clang, release, release-clang
+set -eu
+cd "$(dirname "$0")"
+. tools/prepare.sh
+install_packages
+
+for preset in ${1:-test test-clang release}; do
+    echo "== $preset"
+    configure "$preset" >/dev/null
+    cmake --build --preset "$preset" -- --quiet
+    ctest --preset "$preset" -j "$(nproc)"
+done
