@@ -3,6 +3,9 @@
 
 add_library(penwright_flags INTERFACE)
 target_compile_options(penwright_flags INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wno-sign-conversion)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(penwright_flags INTERFACE -Wno-restrict)  # false alarms of gcc 12 about std::string
+endif()
 if(PENWRIGHT_WERROR)
   target_compile_options(penwright_flags INTERFACE -Werror)
 endif()

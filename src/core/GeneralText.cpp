@@ -23,7 +23,7 @@ constexpr std::array<std::uint64_t, 19> kPowersOfTen = [] {
     return powers;
 }();
 
-/// The first power of ten that needs more than `digits` digits before the point.
+/// From here on a double takes the exponent form.
 constexpr double kLimitOfFastForm = 1e15;
 
 char *digitsOf(char *end, std::uint64_t number)
@@ -83,8 +83,8 @@ char *writeByLibrary(char *out, Number value, int digits)
 {
     char *end = std::to_chars(out, out + kMaxTextLength, value, std::chars_format::general, digits).ptr;
     for (char *place = out; place != end; ++place)
-        if (*place == 'e')
-            *place = 'E';
+        if (*place >= 'a' && *place <= 'z')
+            *place = static_cast<char>(*place - 'a' + 'A');
     return end;
 }
 

@@ -34,7 +34,7 @@ template <typename... Numbers>
 std::string joined(Numbers... numbers)
 {
     std::string text;
-    ((text += (text.empty() ? "" : " ") + generalText(numbers)), ...);
+    (text.append(text.empty() ? "" : " ").append(generalText(numbers)), ...);
     return text;
 }
 
@@ -130,10 +130,12 @@ void IesWriter::write(const std::string &path)
 
 bool IesWriter::WriteIesFile(const PhotometricRecord &record)
 {
-    MessageBox question{"", kOkCancel, "Error saving " + record.Filename};
+    // A host command may replace the record while the message is shown.
+    const std::string path = record.Filename;
+    MessageBox question{"", kOkCancel, "Error saving " + path};
     try {
         build(record);
-        write(record.Filename);
+        write(path);
         return true;
     } catch (const RunTimeError &error) {
         question.text = writingQuestionText(error);
@@ -141,7 +143,7 @@ bool IesWriter::WriteIesFile(const PhotometricRecord &record)
     if (m_dialogs.show(question) != Answer::Ok)
         return false;
     // The text is not built again: what an error while building has left is what gets written.
-    write(record.Filename);
+    write(path);
     return true;
 }
 

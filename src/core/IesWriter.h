@@ -24,6 +24,7 @@ public:
     /// Builds the text of `record` and writes it to its `Filename`. An error is told in one message with OK and Cancel.
     /// True: the file was written, at once or on the retry that OK asks for, which writes the text as it stands.
     /// False: the user chose Cancel, or the program is unloading. An error on the retry is raised to the caller.
+    /// `record` may go while the message is shown: the retry does not look at it again.
     bool WriteIesFile(const PhotometricRecord &record);
 
     /// Builds the text of `record` without writing it; errors 6 and 9 when its counts and arrays disagree.

@@ -27,7 +27,7 @@ void appendStoreText(std::string &text, double value);
 /// and at least one digit, optionally an exponent. Grouping, commas, currency, hex, "inf" and "nan" are none.
 bool isNumeric(std::string_view text);
 
-/// The number that a text begins with (blanks before it are skipped), 0 when there is none.
+/// The number that a text begins with (blanks before it are skipped), 0 when there is none; error 6 beyond a double.
 double leadingNumber(std::string_view text);
 
 /// The value of a numeric text; error 13 when it is not numeric.

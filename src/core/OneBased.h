@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <initializer_list>
+#include <utility>
 #include <vector>
 
 #include "platform/RunTimeError.h"

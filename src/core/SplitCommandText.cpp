@@ -19,29 +19,39 @@ OneBased<std::string> linesOf(std::string_view text)
     return lines;
 }
 
-/// The places of the first `most` commas of a line.
-std::vector<std::size_t> commasOf(std::string_view line, std::size_t most)
-{
-    std::vector<std::size_t> commas;
-    for (std::size_t place = line.find(','); place != std::string_view::npos && commas.size() < most;
-         place = line.find(',', place + 1))
-        commas.push_back(place);
-    return commas;
-}
-
 }  // namespace
+
+FieldTable::FieldTable(const OneBased<std::string> &lines)
+{
+    if (lines.empty())
+        return;
+    const std::string &last = lines(lines.size());
+    const auto cuts = std::count(last.begin(), last.end(), ',');
+    m_fieldCount = static_cast<int>(cuts) + 1;
+    for (const std::string &line : lines) {
+        m_lines.append({m_text.size(), m_commas.size()});
+        auto left = cuts;
+        for (std::size_t place = line.find(','); place != std::string::npos && left > 0; --left) {
+            m_commas.push_back(m_text.size() + place);
+            place = line.find(',', place + 1);
+        }
+        m_text += line;
+    }
+}
 
 std::string_view FieldTable::operator()(int line, int field) const
 {
-    const std::string_view text = m_lines(line);
+    const Line here = m_lines(line);
     if (field < 1 || field > m_fieldCount)
         throw subscriptOutOfRange();
-    const std::vector<std::size_t> &commas = m_commas(line);
-    const auto index = static_cast<std::size_t>(field) - 1;
-    if (index > commas.size())
+    const Line next = line < lines() ? m_lines(line + 1) : Line{m_text.size(), m_commas.size()};
+    const std::size_t before = static_cast<std::size_t>(field) - 1;  // commas of this line before the field
+    const std::size_t commas = next.commas - here.commas;
+    if (before > commas)
         return {};
-    const std::size_t start = index == 0 ? 0 : commas[index - 1] + 1;
-    return index == commas.size() ? text.substr(start) : text.substr(start, commas[index] - start);
+    const std::size_t start = before == 0 ? here.start : m_commas[here.commas + before - 1] + 1;
+    const std::size_t end = before == commas ? next.start : m_commas[here.commas + before];
+    return std::string_view(m_text).substr(start, end - start);
 }
 
 SplitText SplitCommandText(std::string_view text, bool skipTable)
@@ -49,14 +59,10 @@ SplitText SplitCommandText(std::string_view text, bool skipTable)
     SplitText split;
     split.lines = linesOf(text);
     split.lineCount = split.lines.size();
-    if (skipTable || split.lineCount == 0)
+    if (skipTable)
         return split;
-    const std::string &last = split.lines(split.lineCount);
-    split.fieldCount = static_cast<int>(std::count(last.begin(), last.end(), ',')) + 1;
-    split.table.m_fieldCount = split.fieldCount;
-    split.table.m_lines = split.lines;
-    for (const std::string &line : split.lines)
-        split.table.m_commas.append(commasOf(line, static_cast<std::size_t>(split.fieldCount) - 1));
+    split.table = FieldTable(split.lines);
+    split.fieldCount = split.table.fields();
     return split;
 }
 

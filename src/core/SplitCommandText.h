@@ -9,12 +9,15 @@
 
 namespace penwright {
 
-struct SplitText;
-
 /// The fields of a split text by (line, field), both counted from 1. Only what is there takes memory: a hostile text
 /// of many lines and many commas stays as large as it was.
 class FieldTable {
 public:
+    FieldTable() = default;
+
+    /// Cuts every line into as many fields as the last one has.
+    explicit FieldTable(const OneBased<std::string> &lines);
+
     int lines() const { return m_lines.size(); }
     int fields() const { return m_fieldCount; }
 
@@ -23,9 +26,15 @@ public:
     std::string_view operator()(int line, int field) const;
 
 private:
-    friend SplitText SplitCommandText(std::string_view text, bool skipTable);
-    OneBased<std::string> m_lines;
-    OneBased<std::vector<std::size_t>> m_commas;  ///< per line: places of the commas that cut it
+    /// Where a line stands in `m_text`, and how many of the commas in `m_commas` come before it.
+    struct Line {
+        std::size_t start;
+        std::size_t commas;
+    };
+
+    std::string m_text;                 ///< the lines one after the other
+    std::vector<std::size_t> m_commas;  ///< places in `m_text` of the commas that cut a line
+    OneBased<Line> m_lines;
     int m_fieldCount = 0;
 };
 

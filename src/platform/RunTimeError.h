@@ -3,6 +3,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace penwright {
 
@@ -13,8 +14,8 @@ inline constexpr std::string_view kToolName = "PenwrightPE";
 /// It stands on the floor that rules and platform share, because store and files report their failures with it too.
 class RunTimeError : public std::runtime_error {
 public:
-    explicit RunTimeError(int number, std::string description, std::string source = std::string(kToolName))
-        : std::runtime_error(std::move(description)), m_number(number), m_source(std::move(source))
+    explicit RunTimeError(int number, const std::string &description, std::string source = std::string(kToolName))
+        : std::runtime_error(description), m_number(number), m_source(std::move(source))
     {
     }
 

@@ -1,20 +1,27 @@
 #include "platform/posix/PosixTextFiles.h"
 
 #include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <climits>
-#include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 #include <memory>
+#include <optional>
 
 namespace penwright {
 namespace {
 
-constexpr mode_t kNewFileMode = 0666;
+constexpr mode_t kNewFileModes = 0666;
+constexpr mode_t kPrivateModes = 0600;
 constexpr mode_t kAnyoneMayWrite = 0222;
 constexpr mode_t kAllModes = 07777;
+constexpr int kMostLinks = 40;
+constexpr int kMostTemporaryNames = 100;
 
 FileCalls &systemCalls()
 {
@@ -22,66 +29,82 @@ FileCalls &systemCalls()
     return calls;
 }
 
-/// Where a path leads once all links are followed; the path itself where it leads nowhere yet.
-std::string targetOf(const std::string &path)
-{
-    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr), &std::free);
-    if (resolved)
-        return resolved.get();
-    // A link to a file that is yet to be made: the file is made where the link points.
-    char linked[PATH_MAX];
-    const ssize_t length = ::readlink(path.c_str(), linked, sizeof linked);
-    if (length <= 0 || length == static_cast<ssize_t>(sizeof linked))
-        return path;
-    const std::string goal(linked, static_cast<std::size_t>(length));
-    const std::size_t slash = path.rfind('/');
-    return goal.front() == '/' || slash == std::string::npos ? goal : path.substr(0, slash + 1) + goal;
-}
+/// While it lives, a pipe whose reader has gone and a file beyond the size limit are errors, not the end of the
+/// process.
+class SurvivableSignals {
+public:
+    SurvivableSignals()
+    {
+        sigemptyset(&m_signals);
+        sigaddset(&m_signals, SIGPIPE);
+        sigaddset(&m_signals, SIGXFSZ);
+        pthread_sigmask(SIG_BLOCK, &m_signals, &m_before);
+    }
+    SurvivableSignals(const SurvivableSignals &) = delete;
+    SurvivableSignals &operator=(const SurvivableSignals &) = delete;
+    ~SurvivableSignals()
+    {
+        const timespec noTime{};
+        while (sigtimedwait(&m_signals, nullptr, &noTime) > 0 || errno == EINTR) {
+        }
+        pthread_sigmask(SIG_SETMASK, &m_before, nullptr);
+    }
+
+private:
+    sigset_t m_signals;
+    sigset_t m_before;
+};
 
 std::string folderOf(const std::string &path)
 {
     const std::size_t slash = path.rfind('/');
-    return slash == std::string::npos ? "." : path.substr(0, slash + 1);
+    return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
 }
 
-std::string temporaryName(const std::string &target)
+/// Where a path leads once all links are followed, to a file that is yet to be made too.
+std::string targetOf(std::string path)
 {
-    static unsigned counter = 0;
-    return folderOf(target) + "/.penwright-" + std::to_string(::getpid()) + "-" + std::to_string(++counter) + ".tmp";
+    for (int link = 0; link < kMostLinks; ++link) {
+        const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr), &std::free);
+        if (resolved)
+            return resolved.get();
+        char linked[PATH_MAX];
+        const ssize_t length = ::readlink(path.c_str(), linked, sizeof linked);
+        if (length <= 0 || length == static_cast<ssize_t>(sizeof linked))
+            return path;
+        path = linked[0] == '/' ? "" : folderOf(path);
+        path.append(linked, static_cast<std::size_t>(length));
+    }
+    return path;
 }
 
-/// A folder that takes no new file, though the file itself may be writable.
-bool isClosedFolder(int error)
+/// Whether the folder, or a mount on the name, hinders the rename only: the file itself may still be written.
+bool hindersRenameOnly(int error)
 {
-    return error == EACCES || error == EPERM || error == EROFS;
+    return error == EACCES || error == EPERM || error == EROFS || error == EBUSY || error == EXDEV;
+}
+
+std::optional<std::string> contentOf(const std::string &path)
+{
+    std::ifstream in(path, std::ios::binary);
+    if (!in)
+        return std::nullopt;
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+/// Gives a new file the owner, group and modes of the old one, or as much of that as the system grants.
+int takeOver(int file, const struct stat &existing)
+{
+    mode_t modes = existing.st_mode & kAllModes;
+    if (::fchown(file, existing.st_uid, existing.st_gid) != 0) {
+        // A program that ran with its owner's rights must not run with ours.
+        modes &= ~static_cast<mode_t>(S_ISUID | S_ISGID);
+        [[maybe_unused]] const int group = ::fchown(file, static_cast<uid_t>(-1), existing.st_gid);
+    }
+    return ::fchmod(file, modes) == 0 ? 0 : errno;
 }
 
 }  // namespace
-
-int FileCalls::open(const char *path, int flags, mode_t mode)
-{
-    return ::open(path, flags, mode);
-}
-
-ssize_t FileCalls::write(int file, const void *data, std::size_t size)
-{
-    return ::write(file, data, size);
-}
-
-int FileCalls::fsync(int file)
-{
-    return ::fsync(file);
-}
-
-int FileCalls::close(int file)
-{
-    return ::close(file);
-}
-
-int FileCalls::rename(const char *from, const char *to)
-{
-    return std::rename(from, to);
-}
 
 PosixTextFiles::PosixTextFiles() : m_calls(systemCalls()) {}
 
@@ -89,8 +112,16 @@ PosixTextFiles::PosixTextFiles(FileCalls &calls) : m_calls(calls) {}
 
 int PosixTextFiles::replace(const std::string &path, std::string_view text)
 {
+    const SurvivableSignals guard;
+    return replaceAny(path, text);
+}
+
+int PosixTextFiles::replaceAny(const std::string &path, std::string_view text)
+{
     if (path.empty())
         return ENAMETOOLONG;
+    if (path.find('\0') != std::string::npos)
+        return EINVAL;
     const std::string target = targetOf(path);
     struct stat existing {};
     if (::stat(target.c_str(), &existing) != 0)
@@ -98,68 +129,108 @@ int PosixTextFiles::replace(const std::string &path, std::string_view text)
     if (S_ISDIR(existing.st_mode))
         return EISDIR;
     if (!S_ISREG(existing.st_mode))
-        return writeInPlace(target, text);
+        return writeInPlace(target, false, text);
+    return replaceExisting(target, existing, text);
+}
+
+int PosixTextFiles::replaceExisting(const std::string &target, const struct stat &existing, std::string_view text)
+{
     // A rename asks nobody about the file itself, and root is refused nothing: the modes speak for the owner.
     if ((existing.st_mode & kAnyoneMayWrite) == 0)
         return EROFS;
-    if (::access(target.c_str(), W_OK) != 0)
-        return errno;
+    if (const int error = askWritable(target))
+        return error;
     const int error = replaceByRename(target, &existing, text);
-    return isClosedFolder(error) ? writeInPlace(target, text) : error;
+    if (!hindersRenameOnly(error))
+        return error;
+    const std::optional<std::string> before = contentOf(target);
+    const int inPlaceError = writeInPlace(target, true, text);
+    if (inPlaceError != 0 && before)
+        writeInPlace(target, true, *before);
+    return inPlaceError;
+}
+
+/// What the system says of writing to the file: a running program is busy, a stranger's file denied.
+int PosixTextFiles::askWritable(const std::string &target)
+{
+    const int file = m_calls.open(target.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC, 0);
+    if (file < 0)
+        return errno;
+    m_calls.close(file);
+    return 0;
+}
+
+int PosixTextFiles::replaceByRename(const std::string &target, const struct stat *existing, std::string_view text)
+{
+    std::string temporary;
+    const std::string folder = folderOf(target);
+    // What stands in a private file is not shown to others on its way.
+    const int file = openTemporary(temporary, folder, existing ? kPrivateModes : kNewFileModes);
+    if (file < 0)
+        return errno;
+    int error = writeAll(file, text);
+    if (error == 0 && existing)
+        error = takeOver(file, *existing);
+    if (error == 0 && m_calls.fsync(file) != 0)
+        error = errno;
+    error = closed(file, error);
+    if (error == 0 && m_calls.rename(temporary.c_str(), target.c_str()) != 0)
+        error = errno;
+    if (error != 0)
+        ::unlink(temporary.c_str());
+    else
+        flushFolder(folder);
+    return error;
+}
+
+/// A name may be left over from a process of the same number that was killed while it wrote.
+int PosixTextFiles::openTemporary(std::string &name, const std::string &folder, mode_t modes)
+{
+    int file = -1;
+    for (int number = 1; number <= kMostTemporaryNames; ++number) {
+        name = folder + ".penwright-" + std::to_string(::getpid()) + "-" + std::to_string(number) + ".tmp";
+        file = m_calls.open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, modes);
+        if (file >= 0 || errno != EEXIST)
+            break;
+    }
+    return file;
+}
+
+// Opened without waiting, a pipe that nobody reads refuses at once. A regular file is cut to its size at the end only,
+// so that its blocks are still there should the old text have to be put back on a full disk.
+int PosixTextFiles::writeInPlace(const std::string &target, bool isRegular, std::string_view text)
+{
+    const int file = m_calls.open(target.c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC, 0);
+    if (file < 0)
+        return errno;
+    int error = writeAll(file, text);
+    if (error == 0 && isRegular && m_calls.truncate(file, static_cast<off_t>(text.size())) != 0)
+        error = errno;
+    // Pipes and most devices have nothing to flush and say EINVAL.
+    if (error == 0 && m_calls.fsync(file) != 0 && errno != EINVAL)
+        error = errno;
+    return closed(file, error);
 }
 
 int PosixTextFiles::writeAll(int file, std::string_view text)
 {
     while (!text.empty()) {
         const ssize_t written = m_calls.write(file, text.data(), text.size());
-        if (written < 0 && errno == EINTR)
-            continue;
-        if (written <= 0)
-            return written < 0 ? errno : EIO;
-        text.remove_prefix(static_cast<std::size_t>(written));
+        if (written > 0)
+            text.remove_prefix(static_cast<std::size_t>(written));
+        else if (written == 0 || (errno == EAGAIN && !m_calls.waitUntilWritable(file)))
+            return EIO;
+        else if (errno != EINTR && errno != EAGAIN)
+            return errno;
     }
     return 0;
 }
 
-int PosixTextFiles::replaceByRename(const std::string &target, const struct stat *existing, std::string_view text)
+/// Closes the file; the earlier error, or what closing tells.
+int PosixTextFiles::closed(int file, int error)
 {
-    const std::string temporary = temporaryName(target);
-    const int file = m_calls.open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kNewFileMode);
-    if (file < 0)
-        return errno;
-    int error = writeAll(file, text);
-    if (error == 0 && existing) {
-        // Where the owner cannot be kept the file belongs to whoever saved it; its modes are kept in any case.
-        [[maybe_unused]] const int owner = ::fchown(file, existing->st_uid, existing->st_gid);
-        if (::fchmod(file, existing->st_mode & kAllModes) != 0)
-            error = errno;
-    }
-    if (error == 0 && m_calls.fsync(file) != 0)
-        error = errno;
-    if (m_calls.close(file) != 0 && error == 0)
-        error = errno;
-    if (error == 0 && m_calls.rename(temporary.c_str(), target.c_str()) != 0)
-        error = errno;
-    if (error != 0)
-        ::unlink(temporary.c_str());
-    else
-        flushFolder(folderOf(target));
-    return error;
-}
-
-// The modes have been asked already; a pipe that nobody reads refuses at once instead of waiting for a reader.
-int PosixTextFiles::writeInPlace(const std::string &target, std::string_view text)
-{
-    const int file = m_calls.open(target.c_str(), O_WRONLY | O_TRUNC | O_NONBLOCK | O_CLOEXEC, 0);
-    if (file < 0)
-        return errno;
-    ::fcntl(file, F_SETFL, ::fcntl(file, F_GETFL) & ~O_NONBLOCK);
-    int error = writeAll(file, text);
-    if (error == 0 && m_calls.fsync(file) != 0 && errno != EINVAL && errno != EROFS)
-        error = errno;
-    if (m_calls.close(file) != 0 && error == 0)
-        error = errno;
-    return error;
+    const bool hasFailed = m_calls.close(file) != 0 && errno != EINTR;
+    return error == 0 && hasFailed ? errno : error;
 }
 
 // The name lies safely on disk only with its folder; where folders cannot be flushed the file is good all the same.

@@ -1,28 +1,16 @@
 #pragma once
 
-#include <sys/stat.h>
-#include <sys/types.h>
-
-#include <cstddef>
-
+#include "platform/posix/FileCalls.h"
 #include "platform/TextFiles.h"
+
+struct stat;
 
 namespace penwright {
 
-/// The system calls that writing a file needs, each as the system has it: -1 with errno set on failure.
-class FileCalls {
-public:
-    virtual ~FileCalls() = default;
-    virtual int open(const char *path, int flags, mode_t mode);
-    virtual ssize_t write(int file, const void *data, std::size_t size);
-    virtual int fsync(int file);
-    virtual int close(int file);
-    virtual int rename(const char *from, const char *to);
-};
-
-/// Files by way of a temporary one beside the target, flushed to disk and renamed over it. Links are followed, modes
-/// and owner of an existing file kept. Devices and pipes, and files in a folder that takes no new ones, are written in
-/// place.
+/// Files by way of a temporary one beside the target, flushed to disk and renamed over it. Symbolic links are followed;
+/// modes, and the owner where the system lets us, of an existing file are kept. Pipes and devices are written in place
+/// (one that takes nothing for ten seconds is EIO), and so is a file whose folder takes no new one: a failure there
+/// puts the old text back as far as the disk allows.
 class PosixTextFiles : public TextFiles {
 public:
     PosixTextFiles();
@@ -31,9 +19,14 @@ public:
     int replace(const std::string &path, std::string_view text) override;
 
 private:
+    int replaceAny(const std::string &path, std::string_view text);
+    int replaceExisting(const std::string &target, const struct stat &existing, std::string_view text);
     int replaceByRename(const std::string &target, const struct stat *existing, std::string_view text);
-    int writeInPlace(const std::string &target, std::string_view text);
+    int writeInPlace(const std::string &target, bool isRegular, std::string_view text);
+    int openTemporary(std::string &name, const std::string &folder, mode_t modes);
+    int askWritable(const std::string &target);
     int writeAll(int file, std::string_view text);
+    int closed(int file, int error);
     void flushFolder(const std::string &folder);
 
     FileCalls &m_calls;

@@ -53,8 +53,9 @@ TEST(GeneralText, isWhatCPrintsForValuesOfEveryKind)
             return;
         ASSERT_EQ(generalText(value), printed(value, 15));
         const auto single = static_cast<float>(value);
-        if (std::isfinite(single))
+        if (std::isfinite(single)) {
             ASSERT_EQ(generalText(single), printed(single, 7));
+        }
         ++checked;
     };
     for (int i = 0; i < 40000; ++i) {

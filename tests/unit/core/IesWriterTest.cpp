@@ -226,6 +226,17 @@ TEST_F(Writer, retryWritesTheSameTextAgain)
               "OK to Retry, Cancel to quit.\n");
 }
 
+// A host command that arrives meanwhile may put other records in its place.
+TEST_F(Writer, retryDoesNotLookAtTheRecordAgain)
+{
+    files.failures = {ENOSPC};
+    dialogs.onShow = [this](const MessageBox &) { record = PhotometricRecord(); };
+    EXPECT_TRUE(writer.WriteIesFile(record));
+    ASSERT_EQ(files.written.size(), 2u);
+    EXPECT_EQ(files.written[1].first, "small.ies");
+    EXPECT_EQ(files.written[1].second, smallText);
+}
+
 TEST_F(Writer, cancelAndDismissalWriteNothingMore)
 {
     for (const Answer answer : {Answer::Cancel, Answer::Dismissed}) {

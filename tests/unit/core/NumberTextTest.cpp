@@ -78,6 +78,27 @@ TEST(NumberText, whatNoDoubleHoldsIsNoNumberAndOverflows)
     }
 }
 
+// The sign of the exponent alone does not tell which side of the range a number has left.
+TEST(NumberText, digitsAndExponentTogetherDecideBetweenTooLargeAndTooSmall)
+{
+    const std::string zeros(400, '0');
+    EXPECT_TRUE(isNumeric("0." + zeros + "1e+10"));
+    EXPECT_EQ(leadingNumber("-." + zeros + "1e+10"), 0);
+    EXPECT_FALSE(isNumeric("1" + zeros + "e-10"));
+    EXPECT_EQ(leadingNumber("1" + zeros + "e-400"), 1);
+    EXPECT_TRUE(isNumeric("1e-99999999999999999999"));
+    EXPECT_FALSE(isNumeric("1e99999999999999999999"));
+    EXPECT_EQ(leadingNumber("0e99999999999999999999"), 0);
+}
+
+TEST(NumberText, textsOfMillionsOfDigitsAreRead)
+{
+    const std::string digits(10000000, '9');
+    EXPECT_FALSE(isNumeric(digits));
+    EXPECT_EQ(leadingNumber("." + digits), 1);
+    EXPECT_EQ(leadingNumber("7x" + digits), 7);
+}
+
 TEST(NumberText, singlesAreNarrowedToNearest)
 {
     EXPECT_EQ(toSingle("0.1"), 0.1F);

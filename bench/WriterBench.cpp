@@ -1,0 +1,92 @@
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <random>
+
+#include "core/IesWriter.h"
+#include "platform/Dialogs.h"
+#include "platform/TextFiles.h"
+
+namespace {
+
+using namespace penwright;
+
+class NoFiles : public TextFiles {
+public:
+    int replace(const std::string &, std::string_view) override { return 0; }
+};
+
+class NoDialogs : public Dialogs {
+public:
+    Answer show(const MessageBox &) override { return Answer::Cancel; }
+    std::optional<std::string> chooseSaveName(const SaveNameQuestion &) override { return std::nullopt; }
+};
+
+/// A square table of candela values as the pages leave them: singles widened to doubles.
+PhotometricRecord squareRecord(int side)
+{
+    PhotometricRecord record;
+    record.Keywords = {"IESNA:LM-63-2002"};
+    record.NumVertAngles = record.NumHorzAngles = static_cast<std::int16_t>(side);
+    record.VertAngles.reset(side);
+    record.HorAngles.reset(side);
+    record.Candela.reset(side, side);
+    std::mt19937 random(1);
+    for (int h = 1; h <= side; ++h)
+        for (int v = 1; v <= side; ++v)
+            record.Candela(h, v) = static_cast<float>(random() % 10000000) / 1000.0F;
+    return record;
+}
+
+/// The bar: std::to_chars alone over the same values, its text thrown away.
+template <typename... Form>
+void toChars(const PhotometricRecord &record, Form... form)
+{
+    std::array<char, 64> buffer;
+    for (int h = 1; h <= record.NumHorzAngles; ++h)
+        for (int v = 1; v <= record.NumVertAngles; ++v) {
+            const char *end =
+                std::to_chars(buffer.data(), buffer.data() + buffer.size(), record.Candela(h, v), form...).ptr;
+            benchmark::DoNotOptimize(end);
+            benchmark::ClobberMemory();
+        }
+}
+
+template <typename Work>
+double seconds(const Work &work)
+{
+    const auto start = std::chrono::steady_clock::now();
+    work();
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// Writer and bars in turns. The counters are the writer's best time over the best of the shortest form, which is the
+/// goal's measure (at most 1.6), and over the best of the fifteen-digit form, which is the text that files hold.
+void BM_writerAgainstToChars(benchmark::State &state)
+{
+    const PhotometricRecord record = squareRecord(static_cast<int>(state.range(0)));
+    NoFiles files;
+    NoDialogs dialogs;
+    IesWriter writer(files, dialogs);
+    double writing = 1e9;
+    double shortest = 1e9;
+    double general = 1e9;
+    for ([[maybe_unused]] auto _ : state) {
+        const double turn = seconds([&] { writer.build(record); });
+        benchmark::DoNotOptimize(writer.text().data());
+        writing = std::min(writing, turn);
+        shortest = std::min(shortest, seconds([&] { toChars(record); }));
+        general = std::min(general, seconds([&] { toChars(record, std::chars_format::general, 15); }));
+        state.SetIterationTime(turn);
+    }
+    state.counters["to_shortest"] = writing / shortest;
+    state.counters["to_general15"] = writing / general;
+}
+BENCHMARK(BM_writerAgainstToChars)->Arg(100)->Arg(1000)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();

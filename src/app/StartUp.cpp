@@ -1,0 +1,89 @@
+#include "app/StartUp.h"
+
+#include <cstdio>
+#include <memory>
+#include <QApplication>
+
+#include "app/Tool.h"
+#include "core/CommandLine.h"
+#include "core/NumberText.h"
+#include "hostlink/HostPost.h"
+
+namespace penwright {
+namespace {
+
+constexpr const char *kFullText =
+    "There is already the maximum number of photometric files open. Please close some before creating a new one.";
+constexpr const char *kRefusalText =
+    "This 'tool' can not be used directly. Must be called from Lumentor32 or Quellux32.";
+
+/// Shows a message whose reader may as well sit at a terminal.
+void showAndPrint(Dialogs &dialogs, const MessageBox &box)
+{
+    std::fprintf(stderr, "%s\n", box.text.c_str());
+    dialogs.show(box);
+}
+
+void readSettings(StartupState &start, SettingsStore &store)
+{
+    start.SleepInterval =
+        toSingle(leadingNumber(store.read(start.SettingsApp, start.SettingsApp, "SleepIntervalDE", "0.3")));
+}
+
+void openWizard(Tool &tool)
+{
+    StartupState &start = tool.state().start;
+    const auto host = static_cast<std::uint32_t>(start.HostWindow);
+    WizardWindow &window = tool.loadWindow();
+    window.startDeathTimer();
+    // The window is a source of the host link under the topic InstanceTag; here all commands travel through the store.
+    window.setWindowTitle(QString::fromStdString(start.ToolName));
+    tool.embedding().watchHost(host);
+    // Unconditionally, and overwriting what the first call returned: an embedded window's former parent is its host.
+    start.PreviousParent = tool.embedding().SetParent(host);
+    start.DesignWidth = window.width() * kTwipsPerLogicalPixel;
+    start.DesignHeight = window.height() * kTwipsPerLogicalPixel;
+}
+
+int run(Tool &tool, const std::string &commandLine, const std::string &executableFolder)
+{
+    ToolState &state = tool.state();
+    StartupState &start = state.start;
+    state.PhotFiles.clear();
+    state.CandelaWorkRecord.clear();
+    readSettings(start, tool.services().store);
+    start.HelpFilePath = executableFolder + "/Lumentor_PE-HTML.chm";
+    takeCommandLine(commandLine, start);
+    if (start.OpenFileCount >= kMaxFiles) {
+        showAndPrint(tool.services().dialogs, {kFullText});
+        if (!tool.closing().isClosing())
+            HostPost(start, tool.services()).postCommand("ReturnClose,");
+        return 1;
+    }
+    state.PhotFiles.reset(1);
+    if (start.HostWindow == 0) {
+        showAndPrint(tool.services().dialogs,
+                     {kRefusalText + commandLine, kExclamation + kSystemModal, start.ToolName});
+        return 1;
+    }
+    openWizard(tool);
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int runTool(const std::string &commandLine, const std::string &executableFolder)
+{
+    try {
+        Tool tool;
+        return run(tool, commandLine, executableFolder);
+    } catch (const RunTimeError &error) {
+        const Closing closing;
+        QtDialogs dialogs(closing);
+        showAndPrint(dialogs,
+                     {"died in sub Main. reason: #" + std::to_string(error.number()) + " Msg:" + error.description()});
+        return 1;
+    }
+}
+
+}  // namespace penwright

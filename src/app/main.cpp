@@ -1,0 +1,33 @@
+#include <filesystem>
+#include <QApplication>
+#include <string>
+#include <system_error>
+
+#include "app/StartUp.h"
+#include "platform/qt/Display.h"
+
+namespace {
+
+/// All arguments joined by single blanks, taken before the toolkit strips options of its own.
+std::string commandLineOf(int argc, char **argv)
+{
+    std::string text;
+    for (int i = 1; i < argc; ++i)
+        text.append(i > 1 ? " " : "").append(argv[i]);
+    return text;
+}
+
+}  // namespace
+
+int main(int argc, char **argv)
+{
+    const std::string commandLine = commandLineOf(argc, argv);
+    std::error_code ignored;
+    const std::string folder = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string();
+    if (!penwright::prepareDisplay())
+        return 1;
+    int nameAlone = 1;
+    QApplication app(nameAlone, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return penwright::runTool(commandLine, folder);
+}

@@ -1,0 +1,129 @@
+#include "hostbench/FilePanel.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSaveFile>
+#include <QVBoxLayout>
+
+#include "core/StartupState.h"
+#include "hostbench/TwoLineDelegate.h"
+
+namespace penwright {
+
+namespace {
+
+bool writeFile(const QString &path, const PhotometricRecord &record, QString &reason)
+{
+    try {
+        QSaveFile file(path);
+        const bool isWritten = file.open(QIODevice::WriteOnly) &&
+                               file.write(QByteArray::fromStdString(iesFileText(record))) >= 0 && file.commit();
+        reason = file.errorString();
+        return isWritten;
+    } catch (const RunTimeError &error) {
+        reason = QString::fromStdString(error.description());
+        return false;
+    }
+}
+
+}  // namespace
+
+FilePanel::FilePanel(HeldFiles &files, QWidget *parent) : QWidget(parent), m_files(files)
+{
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    auto *heading = new QHBoxLayout;
+    auto *title = new QLabel(tr("Files"));
+    title->setProperty("heading", true);
+    m_count = new QLabel;
+    m_count->setProperty("quiet", true);
+    heading->addWidget(title);
+    heading->addStretch();
+    heading->addWidget(m_count);
+    layout->addLayout(heading);
+
+    m_list = new QListWidget;
+    m_list->setObjectName("fileList");
+    m_list->setAccessibleName(tr("Files that the host holds"));
+    m_list->setItemDelegate(new TwoLineDelegate(m_list));
+    m_list->setTextElideMode(Qt::ElideMiddle);
+    layout->addWidget(m_list);
+
+    auto *buttons = new QHBoxLayout;
+    m_save = new QPushButton(tr("Save As..."));
+    m_save->setObjectName("saveAs");
+    m_remove = new QPushButton(tr("Remove"));
+    m_remove->setObjectName("remove");
+    buttons->addWidget(m_save);
+    buttons->addWidget(m_remove);
+    layout->addLayout(buttons);
+
+    connect(m_list, &QListWidget::currentRowChanged, this, &FilePanel::enableButtons);
+    connect(m_list, &QListWidget::currentRowChanged, this, &FilePanel::selectionChanged);
+    connect(m_save, &QPushButton::clicked, this, &FilePanel::saveSelected);
+    connect(m_remove, &QPushButton::clicked, this, &FilePanel::removeSelected);
+    showFiles(-1);
+}
+
+void FilePanel::showFiles(int selected)
+{
+    {
+        const QSignalBlocker blocker(m_list);
+        m_list->clear();
+        for (int place = 0; place < m_files.count(); ++place) {
+            const QString path = QString::fromStdString(m_files.at(place).record.Filename);
+            const bool isSaved = m_files.at(place).isSaved;
+            auto *item = new QListWidgetItem(isSaved ? QFileInfo(path).fileName() : path, m_list);
+            item->setData(TwoLineDelegate::kSecondLine, isSaved ? QFileInfo(path).path() : tr("Not saved yet"));
+            item->setToolTip(path);
+        }
+        m_list->setCurrentRow(selected);
+    }
+    m_count->setText(tr("%1 of %2").arg(m_files.count()).arg(kMaxFiles));
+    enableButtons();
+    emit selectionChanged();
+}
+
+int FilePanel::selected() const
+{
+    return m_list->currentRow();
+}
+
+void FilePanel::enableButtons()
+{
+    m_save->setEnabled(selected() >= 0 && !m_files.at(selected()).isSaved);
+    m_remove->setEnabled(selected() >= 0);
+}
+
+void FilePanel::saveSelected()
+{
+    const int place = selected();
+    QFileDialog dialog(this, tr("Save Photometric File As"), {}, tr("IES files (*.ies *.IES)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setDefaultSuffix("ies");
+    if (dialog.exec() != QDialog::Accepted || place >= m_files.count())
+        return;
+    const QString path = dialog.selectedFiles().value(0);
+    QString reason;
+    if (!writeFile(path, m_files.at(place).record, reason)) {
+        QMessageBox::warning(this, tr("Save Photometric File As"), tr("%1 was not saved: %2").arg(path, reason));
+        return;
+    }
+    m_files.setSaved(place, path.toStdString());
+    showFiles(place);
+}
+
+void FilePanel::removeSelected()
+{
+    const int place = selected();
+    m_files.remove(place);
+    showFiles(std::min(place, m_files.count() - 1));
+}
+
+}  // namespace penwright

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "hostbench/FilePanel.h"
+#include "hostbench/hostlib/HeldFiles.h"
+#include "hostbench/ToolTab.h"
+
+class QPlainTextEdit;
+class QPushButton;
+class QTabWidget;
+
+namespace penwright {
+
+class LinkLog;
+
+/// The stand-in host's window: the files it holds, the text of the one selected, a tab for each tool that runs, and the
+/// log of the link. Closing it closes the tools first.
+class HostWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    /// `toolProgram` is the executable that "New Photometric File..." starts.
+    HostWindow(SettingsStore &store, QString toolProgram, QWidget *parent = nullptr);
+    ~HostWindow() override;
+
+    /// Starts one more tool in a tab of its own; the tab lives until the tool has ended.
+    ToolTab *startTool();
+
+    /// The number of tools that run.
+    int toolCount() const { return static_cast<int>(m_tools.size()); }
+
+    const HeldFiles &files() const { return m_files; }
+
+    /// Adds a file as if a tool had brought it, and selects it. False when the list is full.
+    bool addFile(HeldFile file);
+
+    /// Puts the selected file into the store of the tool whose tab is shown and sends "DATACHANGED".
+    void sendDataChanged();
+
+signals:
+    /// A command of a tool has been taken and done, its record with it.
+    void commandDone(penwright::ToolTab *tab, const penwright::ToolCommand &command);
+
+    /// The tool's process is gone; its tab is about to go.
+    void toolEnded(penwright::ToolTab *tab);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    QWidget *makeToolBar();
+    QPushButton *addButton(class QHBoxLayout *row, const char *name, const QString &caption, const QString &tip);
+    QWidget *makeCentre();
+    void connectButtons();
+    void storeSelected(ToolTab *tab);
+    void sendDeleteFile();
+    void take(ToolTab *tab, const ToolCommand &command);
+    void takeRecord(ToolTab *tab, bool isSaved);
+    void removeTool(ToolTab *tab);
+    void closeTools();
+    void note(ToolTab *tab, const QString &text);
+    void showSelectedText();
+    void enableButtons();
+    ToolTab *shownTool() const;
+
+    SettingsStore &m_store;
+    QString m_toolProgram;
+    HeldFiles m_files;
+    QList<ToolTab *> m_tools;
+    int m_started = 0;
+    bool m_isClosing = false;
+
+    FilePanel *m_panel = nullptr;
+    QTabWidget *m_tabs = nullptr;
+    QPlainTextEdit *m_text = nullptr;
+    LinkLog *m_log = nullptr;
+    QPushButton *m_new = nullptr;
+    QPushButton *m_dataChanged = nullptr;
+    QPushButton *m_deleteFile = nullptr;
+    QPushButton *m_close = nullptr;
+};
+
+}  // namespace penwright

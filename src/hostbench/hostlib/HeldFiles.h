@@ -1,0 +1,39 @@
+#pragma once
+
+#include <vector>
+
+#include "core/PhotometricRecord.h"
+
+namespace penwright {
+
+/// A photometric file that a host holds.
+struct HeldFile {
+    PhotometricRecord record;
+    bool isSaved = false;  ///< on disk under its name
+};
+
+/// The files that a host holds, at most 25, in the order in which they came. Places are counted from 0.
+class HeldFiles {
+public:
+    int count() const { return static_cast<int>(m_files.size()); }
+    bool isFull() const;
+
+    const HeldFile &at(int place) const { return m_files.at(static_cast<std::size_t>(place)); }
+
+    /// Adds a file and returns its place. A saved file takes the place of one of the same name, as it did on disk; an
+    /// unnamed file never does. -1 when the list is full: the file is not added.
+    int add(HeldFile file);
+
+    /// Marks the file as saved on disk under `filename`.
+    void setSaved(int place, const std::string &filename);
+
+    void remove(int place) { m_files.erase(m_files.begin() + place); }
+
+private:
+    std::vector<HeldFile> m_files;
+};
+
+/// The text of the record's IES file as it stands on disk; error 6 or 9 when its counts and arrays disagree.
+std::string iesFileText(const PhotometricRecord &record);
+
+}  // namespace penwright

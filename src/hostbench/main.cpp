@@ -1,0 +1,117 @@
+#include <xcb/xcb.h>
+
+#include <cstdio>
+#include <QApplication>
+#include <QDir>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include "hostbench/HostWindow.h"
+#include "hostbench/Walk.h"
+#include "platform/RunTimeError.h"
+#include "platform/sqlite/SqliteSettingsStore.h"
+
+namespace {
+
+constexpr const char *kUsage =
+    "usage: hostbench [--new | --walk FOLDER]\n"
+    "  --new          start with one tool running\n"
+    "  --walk FOLDER  need no user: make one file and a picture of each page in FOLDER\n";
+
+struct Options {
+    bool isUnderstood = true;
+    bool startsTool = false;
+    QString walkFolder;
+};
+
+Options optionsFrom(const QStringList &arguments)
+{
+    Options options;
+    if (arguments == QStringList{"--new"})
+        options.startsTool = true;
+    else if (arguments.size() == 2 && arguments[0] == "--walk" && !arguments[1].isEmpty())
+        options.walkFolder = QDir::cleanPath(QDir::current().absoluteFilePath(arguments[1]));
+    else
+        options.isUnderstood = arguments.isEmpty();
+    return options;
+}
+
+QStringList argumentsOf(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+int fail(const QString &reason)
+{
+    std::fprintf(stderr, "hostbench: %s\n", qPrintable(reason));
+    return 1;
+}
+
+/// The toolkit aborts without a display; this is asked before it starts.
+bool canOpenDisplay()
+{
+    if (!qgetenv("QT_QPA_PLATFORM").startsWith("xcb"))
+        return true;
+    xcb_connection_t *display = xcb_connect(nullptr, nullptr);
+    const bool isOpen = !xcb_connection_has_error(display);
+    xcb_disconnect(display);
+    return isOpen;
+}
+
+int walk(penwright::HostWindow &window, const QString &folder)
+{
+    if (QGuiApplication::platformName() != "xcb")
+        return fail("the walk needs an X11 display");
+    penwright::Walk path(window, folder);
+    const QString failure = path.run();
+    if (!failure.isEmpty())
+        return fail(failure);
+    std::printf("The walk made one file and a picture of each page:\n");
+    for (const QString &left : path.left())
+        std::printf("  %s\n", qPrintable(left));
+    return 0;
+}
+
+int runHost(QApplication &application, const Options &options)
+{
+    penwright::SqliteSettingsStore store(penwright::SqliteSettingsStore::userPath());
+    penwright::HostWindow window(store, QCoreApplication::applicationDirPath() + "/PenwrightPE");
+    if (!options.walkFolder.isEmpty())
+        return walk(window, options.walkFolder);
+    window.show();
+    // Started from the event loop, so that the window is there when the tool moves in.
+    if (options.startsTool)
+        QTimer::singleShot(0, &window, &penwright::HostWindow::startTool);
+    return application.exec();
+}
+
+}  // namespace
+
+int main(int argc, char **argv)
+{
+    const Options options = optionsFrom(argumentsOf(argc, argv));
+    if (!options.isUnderstood) {
+        std::fputs(kUsage, stderr);
+        return 1;
+    }
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+    if (!canOpenDisplay())
+        return fail(QStringLiteral("cannot open the X display \"%1\"").arg(qEnvironmentVariable("DISPLAY")));
+
+    // The walk has a settings store of its own, tool included: the user's is not touched.
+    const QTemporaryDir walkSettings;
+    if (!options.walkFolder.isEmpty())
+        qputenv("XDG_CONFIG_HOME", QFile::encodeName(walkSettings.path()));
+
+    QApplication application(argc, argv);
+    QApplication::setStyle("Fusion");
+    try {
+        return runHost(application, options);
+    } catch (const penwright::RunTimeError &error) {
+        return fail(QString::fromStdString(error.description()));
+    }
+}

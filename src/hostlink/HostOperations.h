@@ -1,0 +1,38 @@
+#pragma once
+
+#include "core/Services.h"
+#include "core/ToolState.h"
+#include "hostlink/CommandLog.h"
+#include "hostlink/ExchangeStore.h"
+#include "hostlink/HostPost.h"
+
+namespace penwright {
+
+/// The window's further host operations. No control, timer or command leads to them: hosts of other tools of the family
+/// use them, and they are kept working for the day when one of this tool does.
+class HostOperations {
+public:
+    HostOperations(ToolState &state, const Services &services, CommandLog &log);
+
+    /// Stores the working record and posts "SendUpdatedDataClose,"; a message box when there is none to store. Error of
+    /// the store when it cannot be written.
+    void sendUpdated();
+
+    /// The same with "SendSavedDataClose,".
+    void sendSaved();
+
+    /// Asks the host for fresh records with "RefreshData" and loads them into the working records. A failure is one
+    /// line in the log and changes nothing.
+    void refresh();
+
+private:
+    void send(std::string_view word);
+
+    ToolState &m_state;
+    Services m_services;
+    CommandLog &m_log;
+    ExchangeStore m_store;
+    HostPost m_post;
+};
+
+}  // namespace penwright

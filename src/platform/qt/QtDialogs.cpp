@@ -1,0 +1,115 @@
+#include "platform/qt/QtDialogs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+#include "platform/qt/Closing.h"
+
+namespace penwright {
+namespace {
+
+QMessageBox::Icon iconOf(int flags)
+{
+    // Information comes first: a box that asks for information and critical together shows the information icon.
+    if (flags & kInformation)
+        return QMessageBox::Information;
+    if ((flags & kExclamation) == kExclamation)
+        return QMessageBox::Warning;
+    return flags & kCritical ? QMessageBox::Critical : QMessageBox::NoIcon;
+}
+
+void setButtons(QMessageBox &box, int flags)
+{
+    if (flags & kYesNo) {
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes);
+    } else if (flags & kOkCancel) {
+        box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
+        box.setDefaultButton(QMessageBox::Ok);
+    } else {
+        box.setStandardButtons(QMessageBox::Ok);
+    }
+}
+
+Answer answerOf(int button)
+{
+    switch (button) {
+        case QMessageBox::Ok:
+            return Answer::Ok;
+        case QMessageBox::Cancel:
+            return Answer::Cancel;
+        case QMessageBox::Yes:
+            return Answer::Yes;
+        case QMessageBox::No:
+            return Answer::No;
+        default:
+            return Answer::Dismissed;
+    }
+}
+
+/// "Pictures|*.a;*.b" as the toolkit writes it: "Pictures (*.a *.b)".
+QString nameFilter(const std::string &filter)
+{
+    const QString text = QString::fromStdString(filter);
+    return text.section('|', 0, 0) + " (" + text.section('|', 1).replace(';', ' ') + ")";
+}
+
+/// A dialog blocks every window of the program unless it is told to block the one it stands over.
+void blockParentAlone(QDialog &dialog)
+{
+    if (dialog.parentWidget())
+        dialog.setWindowModality(Qt::WindowModal);
+}
+
+}  // namespace
+
+QWidget *QtDialogs::dialogParent() const
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    return modal ? modal : m_owner;
+}
+
+Answer QtDialogs::show(const MessageBox &box)
+{
+    if (m_closing.isClosing())
+        return Answer::Dismissed;
+    QMessageBox message(dialogParent());
+    message.setTextFormat(Qt::PlainText);
+    message.setWindowTitle(QString::fromStdString(box.title));
+    message.setText(QString::fromStdString(box.text));
+    message.setIcon(iconOf(box.flags));
+    setButtons(message, box.flags);
+    if (!(box.flags & kSystemModal))
+        blockParentAlone(message);
+    const Answer answer = answerOf(message.exec());
+    return m_closing.isClosing() ? Answer::Dismissed : answer;
+}
+
+std::optional<std::string> QtDialogs::chooseSaveName(const SaveNameQuestion &question)
+{
+    if (m_closing.isClosing())
+        return std::nullopt;
+    const QString folder = m_lastFolder.empty() ? QDir::homePath() : QString::fromStdString(m_lastFolder);
+    QFileDialog dialog(dialogParent(), QString::fromStdString(question.title), folder);
+    dialog.setObjectName("commonDialog");
+    dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite |
+                      QFileDialog::HideNameFilterDetails);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setNameFilter(nameFilter(question.filter));
+    dialog.setDefaultSuffix(QString::fromStdString(question.defaultSuffix));
+    blockParentAlone(dialog);
+    if (dialog.exec() != QDialog::Accepted || m_closing.isClosing())
+        return std::nullopt;
+    // Where no name was given the toolkit answers with the folder.
+    const QFileInfo chosen(dialog.selectedFiles().value(0));
+    if (chosen.isDir())
+        return std::string();
+    m_lastFolder = chosen.absolutePath().toStdString();
+    return chosen.filePath().toStdString();
+}
+
+}  // namespace penwright

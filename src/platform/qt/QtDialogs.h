@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "platform/Dialogs.h"
+
+class QWidget;
+
+namespace penwright {
+
+class Closing;
+
+/// Message boxes and the toolkit's own save dialog, modal over the wizard. They block the wizard alone, so that a help
+/// window stays usable; a system-modal box, or one without an owner, blocks every window of the program.
+class QtDialogs : public Dialogs {
+public:
+    explicit QtDialogs(const Closing &closing) : m_closing(closing) {}
+
+    /// The window over which dialogs open; without one they stand for themselves.
+    void setOwner(QWidget *owner) { m_owner = owner; }
+
+    /// Escape answers No where there is one, else Cancel, else OK; Enter the first button.
+    Answer show(const MessageBox &box) override;
+
+    /// Starts in the user's home, later in the folder of the name chosen last. The dialog is called `commonDialog`.
+    std::optional<std::string> chooseSaveName(const SaveNameQuestion &question) override;
+
+private:
+    QWidget *dialogParent() const;
+
+    const Closing &m_closing;
+    QWidget *m_owner = nullptr;
+    std::string m_lastFolder;
+};
+
+}  // namespace penwright

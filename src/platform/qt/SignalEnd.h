@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QObject>
+
+class QSocketNotifier;
+
+namespace penwright {
+
+class Closing;
+
+/// Turns SIGTERM, SIGINT and SIGHUP into the one closing flag.
+class SignalEnd : public QObject {
+    Q_OBJECT
+
+public:
+    explicit SignalEnd(Closing &closing);
+    ~SignalEnd() override;
+
+private:
+    int m_pipe[2] = {-1, -1};
+    QSocketNotifier *m_notifier = nullptr;
+};
+
+}  // namespace penwright

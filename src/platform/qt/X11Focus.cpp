@@ -1,0 +1,123 @@
+#include "platform/qt/X11Focus.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QTimer>
+#include <QWidget>
+#include <QWindow>
+
+namespace penwright {
+namespace {
+
+using namespace std::chrono_literals;
+
+void activateModal()
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    if (!modal)
+        return;
+    modal->raise();
+    modal->activateWindow();
+    // Where the X focus never left the dialog, the display reports no change that would correct the toolkit's belief.
+    QApplication::setActiveWindow(modal);
+}
+
+}  // namespace
+
+ForeignWindows::ForeignWindows() = default;
+ForeignWindows::~ForeignWindows() = default;
+
+QWindow *ForeignWindows::of(x11::WindowId window)
+{
+    std::unique_ptr<QWindow> &foreign = m_windows[window];
+    if (!foreign)
+        foreign.reset(QWindow::fromWinId(window));
+    return foreign.get();
+}
+
+X11Focus::X11Focus(QWidget &window, ForeignWindows &foreign) : m_window(&window), m_foreign(foreign)
+{
+    qApp->installEventFilter(this);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &X11Focus::onFocusWindow);
+}
+
+void X11Focus::setHost(x11::WindowId host)
+{
+    m_host = host;
+    m_takeWhenExposed = false;
+    // A dialog blocks the windows it shares a top-level window with; for the wizard that leads through its host.
+    const x11::WindowId top = host ? x11::topLevelOf(host) : 0;
+    if (top && top != host)
+        m_foreign.of(host)->setTransientParent(m_foreign.of(top));
+}
+
+void X11Focus::take()
+{
+    if (!m_host || !m_window || !m_window->isVisible() || QApplication::activeModalWidget())
+        return;
+    const auto self = static_cast<x11::WindowId>(m_window->winId());
+    m_takeWhenExposed = !x11::isViewable(self);
+    x11::focus(self);
+    // Where the X focus never left the wizard, the display reports nothing that would tell the toolkit so.
+    if (!m_takeWhenExposed)
+        m_window->activateWindow();
+}
+
+bool X11Focus::eventFilter(QObject *object, QEvent *event)
+{
+    if (!m_host || !m_window)
+        return false;
+    if (object == m_window || object == m_window->windowHandle())
+        onOwnWindow(event->type());
+    else if (object->isWidgetType() && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
+        auto *dialog = static_cast<QWidget *>(object);
+        if (dialog->isWindow() && dialog->windowType() == Qt::Dialog && dialog->windowHandle())
+            onDialog(*dialog, event->type());
+    }
+    return false;
+}
+
+void X11Focus::onOwnWindow(QEvent::Type type)
+{
+    // Each comes to the widget, to its native window or to both; to take the focus twice is to take it once.
+    if (type == QEvent::MouseButtonPress)
+        take();
+    else if (type == QEvent::Show)
+        QTimer::singleShot(0, this, &X11Focus::take);
+    else if (type == QEvent::Expose && m_takeWhenExposed)
+        take();
+}
+
+void X11Focus::onDialog(QWidget &dialog, QEvent::Type type)
+{
+    if (type == QEvent::Show) {
+        dialog.windowHandle()->setTransientParent(m_foreign.of(x11::topLevelOf(m_host)));
+        return;
+    }
+    m_contested.setRemainingTime(1s);
+    QTimer::singleShot(0, this, [this] {
+        activateModal();
+        take();
+    });
+}
+
+void X11Focus::onFocusWindow(QWindow *focused)
+{
+    if (!m_host || !m_window)
+        return;
+    // A click on the blocked wizard still makes the toolkit believe that the wizard is active.
+    if (focused == m_window->windowHandle() && QApplication::activeModalWidget())
+        QTimer::singleShot(0, this, activateModal);
+    // A window manager that notices late that a dialog is gone gives the focus to the host after it was taken here.
+    else if (!focused && !m_contested.hasExpired() && hasHostTakenIt())
+        take();
+}
+
+// A user who clicks on the host means it, and still holds the button when the focus goes.
+bool X11Focus::hasHostTakenIt() const
+{
+    const x11::WindowId holder = x11::focused();
+    return holder != 0 && x11::topLevelOf(holder) == x11::topLevelOf(m_host) && !x11::isButtonHeld();
+}
+
+}  // namespace penwright

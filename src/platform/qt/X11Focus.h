@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QDeadlineTimer>
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include <map>
+#include <memory>
+
+#include "platform/qt/X11Window.h"
+
+class QWindow;
+
+namespace penwright {
+
+/// The toolkit's stand-ins for windows of other processes, one for each number. The stand-in that an own window was
+/// made a child of owns that window: it must outlive it.
+class ForeignWindows {
+public:
+    ForeignWindows();
+    ~ForeignWindows();
+    QWindow *of(x11::WindowId window);
+
+private:
+    std::map<x11::WindowId, std::unique_ptr<QWindow>> m_windows;
+};
+
+/// Keyboard focus and stacking of a window that is embedded in another process's. For such a window the toolkit only
+/// believes that it is active: the X focus is moved here, on a mouse press, when the window is shown and when a dialog
+/// ends. Dialogs get the host's top-level window as their transient parent, so that they stay above it.
+class X11Focus : public QObject {
+public:
+    X11Focus(QWidget &window, ForeignWindows &foreign);
+
+    /// The window that the wizard is embedded in, 0 while it is in none: then everything here rests.
+    void setHost(x11::WindowId host);
+
+    /// Takes the focus unless a dialog is open or the wizard is not shown. A wizard whose host is not on the screen
+    /// takes it once it is.
+    void take();
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    void onOwnWindow(QEvent::Type type);
+    void onDialog(QWidget &dialog, QEvent::Type type);
+    void onFocusWindow(QWindow *focused);
+    bool hasHostTakenIt() const;
+
+    QPointer<QWidget> m_window;  ///< events still pass through here while it is being destroyed
+    ForeignWindows &m_foreign;
+    x11::WindowId m_host = 0;
+    bool m_takeWhenExposed = false;
+    QDeadlineTimer m_contested;  ///< until then a window manager may hand the focus of an ended dialog to the host
+};
+
+}  // namespace penwright

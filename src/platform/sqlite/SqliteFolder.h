@@ -1,0 +1,28 @@
+#pragma once
+
+#include <sys/stat.h>
+
+#include <string>
+
+namespace penwright {
+
+/// While it lives, new files and folders are for their owner alone.
+class PrivateModes {
+public:
+    PrivateModes() : m_before(umask(077)) {}
+    PrivateModes(const PrivateModes &) = delete;
+    PrivateModes &operator=(const PrivateModes &) = delete;
+    ~PrivateModes() { umask(m_before); }
+
+private:
+    mode_t m_before;
+};
+
+/// Makes the folder of the file at `path`, with the folders above it. A failure is RunTimeError 70, 75, 61 or 76 and
+/// names the file.
+void makeFolderOf(const std::string &path);
+
+/// The user's configuration folder: $XDG_CONFIG_HOME where it is absolute, else ".config" in the home folder.
+std::string userConfigFolder();
+
+}  // namespace penwright

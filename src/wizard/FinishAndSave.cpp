@@ -1,0 +1,89 @@
+#include "wizard/FinishAndSave.h"
+
+#include "core/FileErrors.h"
+#include "platform/Dialogs.h"
+
+namespace penwright {
+namespace {
+
+const SaveNameQuestion kQuestion{"Save New Photometric file As...", "IES files (*.ies)|*.ies;*.IES", "ies"};
+
+/// An unnamed file is said to lie here, whatever the platform: hosts compare the text.
+constexpr const char *kUnnamedDirectory = "C:\\";
+
+}  // namespace
+
+std::string directoryOf(std::string_view path)
+{
+    const std::size_t last = path.find_last_of("\\/");
+    return std::string(last == std::string_view::npos ? std::string_view() : path.substr(0, last + 1));
+}
+
+FinishAndSave::FinishAndSave(ToolState &state, const Services &services)
+    : m_state(state),
+      m_services(services),
+      m_writer(services.files, services.dialogs),
+      m_store(state, services),
+      m_post(state.start, services)
+{
+}
+
+FinishEnd FinishAndSave::SaveNewFile(bool saveAs, const std::string &title)
+{
+    try {
+        if (saveAs)
+            return saveUnderChosenName() ? handOver("SendNewDataClose,") : FinishEnd::NotFinished;
+        PhotometricRecord &record = m_state.PhotFiles(1);
+        record.Filename = "new_file_" + std::to_string(m_state.start.OpenFileCount + 1);
+        record.Directory = kUnnamedDirectory;
+        return handOver("SendNewDataClose*,");
+    } catch (const RunTimeError &error) {
+        m_services.dialogs.show({error.description(), kOkOnly, title});
+        return FinishEnd::NotFinished;
+    }
+}
+
+bool FinishAndSave::saveUnderChosenName()
+{
+    for (;;) {
+        const std::optional<std::string> name = m_services.dialogs.chooseSaveName(kQuestion);
+        if (!name)
+            return false;
+        if (name->empty())
+            continue;
+        m_state.PhotFiles(1).Filename = *name;
+        m_state.PhotFiles(1).Directory = directoryOf(*name);
+        // A copy: "DATACHANGED" may replace the array while a message box is open.
+        const PhotometricRecord record = m_state.PhotFiles(1);
+        try {
+            if (!m_writer.WriteIesFile(record))
+                continue;
+        } catch (const RunTimeError &error) {
+            m_services.dialogs.show({writingQuestionText(error), kOkOnly, "Error saving " + record.Filename});
+            return false;
+        }
+        m_state.PhotFiles(1) = record;  // what was written is what the host gets
+        return true;
+    }
+}
+
+FinishEnd FinishAndSave::handOver(std::string_view word)
+{
+    if (m_state.start.HostWindow == 0)
+        return FinishEnd::NotFinished;
+    const std::int16_t stored = m_store.SaveRecordsToStore(1, 1, 1);
+    if (m_services.wait.isUnloading())
+        return FinishEnd::NotFinished;
+    m_post.postCommand(stored > 0 ? word : "ReturnClose,");
+    switch (m_post.lastEnd()) {
+        case WaitEnd::Done:
+            return FinishEnd::Taken;
+        case WaitEnd::TimedOut:
+            return FinishEnd::NotTaken;
+        case WaitEnd::Cancelled:
+            break;
+    }
+    return FinishEnd::NotFinished;
+}
+
+}  // namespace penwright

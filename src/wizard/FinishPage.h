@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+
+#include "wizard/FinishAndSave.h"
+#include "wizard/PageFrame.h"
+
+namespace Ui {
+class FinishPage;
+}
+
+namespace penwright {
+
+/// Page 6: hands the new file to the host, unnamed or saved under a chosen name. The page stays until the host closes
+/// the tool.
+class FinishPage : public PageFrame {
+    Q_OBJECT
+
+public:
+    explicit FinishPage(const PageContext &context);
+    ~FinishPage() override;
+
+private:
+    void cmdUnname_Click();
+    void cmdSaveAs_Click();
+    void cmdBack80_Click();
+
+    void finish(bool saveAs);
+
+    std::unique_ptr<Ui::FinishPage> m_form;
+    FinishAndSave m_finish;
+};
+
+}  // namespace penwright

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <exception>
+#include <string>
+#include <string_view>
+
+#include "platform/Dialogs.h"
+
+namespace penwright {
+
+/// Runs the body of an event handler, which no exception may leave: an error is told in one message with `title`.
+template <typename Body>
+void guardHandler(Dialogs &dialogs, std::string_view title, const Body &body)
+{
+    try {
+        body();
+    } catch (const std::exception &error) {
+        dialogs.show({.text = error.what(), .flags = kOkOnly, .title = std::string(title)});
+    }
+}
+
+}  // namespace penwright

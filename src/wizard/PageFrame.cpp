@@ -1,0 +1,140 @@
+#include "wizard/PageFrame.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+#include "wizard/HandlerGuard.h"
+#include "wizard/QuietLabel.h"
+
+namespace penwright {
+namespace {
+
+const PageRow &rowOf(int index)
+{
+    return kPages.at(static_cast<std::size_t>(index));
+}
+
+QString fromView(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QLabel *makeHeading(const QString &text)
+{
+    auto *heading = new QLabel(text);
+    QFont font = heading->font();
+    font.setPointSizeF(font.pointSizeF() * 1.4);
+    font.setWeight(QFont::DemiBold);
+    heading->setFont(font);
+    heading->setWordWrap(true);
+    return heading;
+}
+
+QWidget *makeLine()
+{
+    auto *line = new QWidget;
+    line->setFixedHeight(1);
+    line->setBackgroundRole(QPalette::Mid);
+    line->setAutoFillBackground(true);
+    return line;
+}
+
+bool takesFocus(const QWidget &widget, const QWidget &page)
+{
+    return (widget.focusPolicy() & Qt::TabFocus) && widget.isEnabled() && widget.isVisibleTo(&page);
+}
+
+}  // namespace
+
+PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_context(context)
+{
+    setObjectName("nfra" + QString::number(index));
+    setAccessibleName(caption());
+    m_formArea = new QWidget;
+    m_buttons = new QHBoxLayout;
+    m_buttons->setSpacing(8);
+    m_buttons->addStretch();
+
+    auto *layout = new QVBoxLayout(this);
+    layout->setContentsMargins(28, 22, 28, 20);
+    layout->setSpacing(14);
+    layout->addWidget(makeHeading(caption()));
+    layout->addWidget(makeLine());
+    layout->addWidget(m_formArea, 1);
+    layout->addWidget(makeLine());
+    layout->addLayout(m_buttons);
+}
+
+QString PageFrame::caption() const
+{
+    return fromView(rowOf(m_index).caption);
+}
+
+void PageFrame::focusFirstField()
+{
+    QWidget *widget = m_formArea->nextInFocusChain();
+    while (widget != m_formArea && !(m_formArea->isAncestorOf(widget) && takesFocus(*widget, *this)))
+        widget = widget->nextInFocusChain();
+    (widget == m_formArea ? m_next : widget)->setFocus(Qt::OtherFocusReason);
+}
+
+void PageFrame::showValuesComeFromHost()
+{
+    auto *label = new QuietLabel("The values of this page come from the record that the host hands over.");
+    label->setWordWrap(true);
+    auto *layout = new QVBoxLayout(m_formArea);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(label, 0, Qt::AlignTop);
+}
+
+void PageFrame::addButtons(const Handler &next, const Handler &back)
+{
+    const PageRow &row = rowOf(m_index);
+    const QString number = QString::number(row.number);
+    addButton(fromView(row.cancelButton), "Cancel", [this] { navigator().ConfirmCancel(); });
+    addButton("cmdHelp" + number, "Help", [this, id = row.helpId] { navigator().ShowHelp(id); });
+    m_buttons->addSpacing(16);
+    m_next = addButton("cmdNext" + number, "Next >", next);
+    QPushButton *backButton = addButton("cmdBack" + number, "< Back", back);
+    // Captions carry no "&". A button's own shortcut would hold its click back while it shows itself pressed.
+    connect(new QShortcut(QKeySequence("Alt+N"), this), &QShortcut::activated, m_next, &QPushButton::click);
+    connect(new QShortcut(QKeySequence("Alt+B"), this), &QShortcut::activated, backButton, &QPushButton::click);
+}
+
+QPushButton *PageFrame::addButton(const QString &name, const QString &text, const Handler &handler)
+{
+    auto *button = new QPushButton(text);
+    button->setObjectName(name);
+    button->setAutoDefault(true);  // so that Enter presses the button that has the focus
+    button->setMinimumWidth(92);
+    m_buttons->addWidget(button);
+    if (handler)
+        onClick(button, handler);
+    else
+        button->setEnabled(false);
+    return button;
+}
+
+void PageFrame::onClick(QAbstractButton *button, const Handler &handler)
+{
+    connect(button, &QAbstractButton::clicked, this, [this, handler] {
+        if (!navigator().isBusy())
+            guardHandler(services().dialogs, caption().toStdString(), handler);
+    });
+}
+
+void PageFrame::keyPressEvent(QKeyEvent *event)
+{
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && qobject_cast<QLineEdit *>(focusWidget()))
+        m_next->click();
+    else
+        QFrame::keyPressEvent(event);
+}
+
+}  // namespace penwright

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <QFrame>
+
+#include <functional>
+
+#include "core/Services.h"
+#include "core/ToolState.h"
+#include "wizard/PageTable.h"
+
+class QAbstractButton;
+class QPushButton;
+
+namespace penwright {
+
+/// What a page asks of the wizard window.
+class Navigator {
+public:
+    virtual ~Navigator() = default;
+
+    /// Hides all frames and shows the frame of an index from 0 to 5 under its caption; any other index shows none and
+    /// leaves the caption.
+    virtual void ShowPage(int index) = 0;
+
+    /// Asks whether to cancel; Yes unloads the window. A tool that is not embedded ends whatever the answer.
+    virtual void ConfirmCancel() = 0;
+
+    /// Opens the help file at a context id.
+    virtual void ShowHelp(int contextId) = 0;
+
+    /// Whether a post waits, a dialog is open or the window unloads, so that a button pressed by other means than keys
+    /// and clicks is refused.
+    virtual bool isBusy() const = 0;
+};
+
+/// What every page works with. What it refers to outlives the page.
+struct PageContext {
+    ToolState &state;
+    const Services &services;
+    Navigator &navigator;
+};
+
+/// One page of the wizard: its caption at the top, the space for its form, and the row of four buttons.
+class PageFrame : public QFrame {
+    Q_OBJECT
+
+public:
+    using Handler = std::function<void()>;
+
+    PageFrame(int index, const PageContext &context);
+
+    int index() const { return m_index; }
+    QString caption() const;
+
+    /// Runs once, when the wizard window loads; raises the errors of the store.
+    virtual void load() {}
+
+    /// Puts the focus on the first field of the form that takes it, on the Next button where there is none.
+    void focusFirstField();
+
+protected:
+    /// The widget that takes the page's form.
+    QWidget *formArea() const { return m_formArea; }
+
+    /// Puts one quiet line into the form of a page on which nothing is typed.
+    void showValuesComeFromHost();
+
+    /// Adds the row of buttons, last of all so that the tab order ends with it. A button without a handler leads
+    /// nowhere and is disabled.
+    void addButtons(const Handler &next, const Handler &back);
+
+    /// Has `handler` run at each click on a button, unless the wizard is busy; its errors are told under the caption.
+    void onClick(QAbstractButton *button, const Handler &handler);
+
+    ToolState &state() const { return m_context.state; }
+    const Services &services() const { return m_context.services; }
+    Navigator &navigator() const { return m_context.navigator; }
+
+    /// Enter in a text box presses Next.
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    QPushButton *addButton(const QString &name, const QString &text, const Handler &handler);
+
+    int m_index;
+    PageContext m_context;
+    QWidget *m_formArea = nullptr;
+    class QHBoxLayout *m_buttons = nullptr;
+    QPushButton *m_next = nullptr;
+};
+
+}  // namespace penwright

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QDialog>
+
+#include <string_view>
+
+#include "wizard/WarningList.h"
+
+class QPlainTextEdit;
+
+namespace penwright {
+
+class Closing;
+
+/// The dialog `dlgWarn`: the list of what is missing or wrong on a page. Closing it only hides it; the list survives
+/// until the next Clear.
+class WarningDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    WarningDialog(const Closing &closing, QWidget *parent);
+
+    WarningList &list() { return m_list; }
+
+    void Add(std::string_view entry) { m_list.Add(entry); }
+    void Clear() { m_list.Clear(); }
+
+    /// Whether nothing has been added since the last Clear.
+    bool Clean() const { return m_list.Clean(); }
+
+    /// Shows the whole list and returns when the user has closed it; at once, unshown, while the window unloads.
+    void showModal();
+
+private:
+    const Closing &m_closing;
+    WarningList m_list;
+    QPlainTextEdit *m_text = nullptr;
+};
+
+}  // namespace penwright

@@ -1,0 +1,253 @@
+#include "wizard/WizardWindow.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollArea>
+#include <QTextCursor>
+#include <QTimer>
+
+#include "hostlink/HostPost.h"
+#include "platform/Dialogs.h"
+#include "platform/HelpViewer.h"
+#include "platform/HostEmbedding.h"
+#include "platform/qt/Closing.h"
+#include "platform/qt/QtEventWait.h"
+#include "platform/qt/X11Embedding.h"
+#include "wizard/HandlerGuard.h"
+#include "wizard/WarningDialog.h"
+
+namespace penwright {
+namespace {
+
+constexpr QSize kDesignSize{720, 560};
+constexpr int kPollInterval = 100;
+constexpr int kDeathInterval = 10000;
+
+}  // namespace
+
+WizardWindow::WizardWindow(ToolState &state, const Services &services, const WindowServices &window)
+    : m_state(state),
+      m_services(services),
+      m_window(window),
+      m_link(state, services, *this),
+      m_operations(state, services, m_link.log())
+{
+    setObjectName("frmSample");
+    setWindowTitle("New Photometric File");
+    resize(kDesignSize);
+    makeLayout();
+    makeHiddenBoxes();
+    m_dlgWarn = new WarningDialog(m_window.closing, this);
+    m_tmrDataExchange = makeTimer("tmrDataExchange", kPollInterval);
+    connect(m_tmrDataExchange, &QTimer::timeout, this, &WizardWindow::tmrDataExchange_Timer);
+    m_tmrDeath = makeTimer("tmrDeath", kDeathInterval);  // its tick does nothing
+    connect(&m_window.closing, &Closing::unwound, this, &WizardWindow::unload);
+}
+
+void WizardWindow::makeLayout()
+{
+    m_stack = new QWidget;
+    auto *stack = new QGridLayout(m_stack);
+    stack->setContentsMargins(0, 0, 0, 0);
+    auto *scroll = new QScrollArea;
+    scroll->setWidget(m_stack);
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setFocusPolicy(Qt::NoFocus);
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(scroll);
+}
+
+void WizardWindow::makeHiddenBoxes()
+{
+    const auto hide = [this](QWidget *box, const char *name) {
+        box->setParent(this);
+        box->setObjectName(name);
+        box->hide();
+    };
+    hide(new QLineEdit, "txtNewFilename");
+    hide(new QLineEdit, "txtIESFile");
+    m_txtCmds = new QPlainTextEdit;
+    m_txtFiles = new QPlainTextEdit;
+    for (QPlainTextEdit *box : {m_txtCmds, m_txtFiles}) {
+        box->setReadOnly(true);
+        box->setUndoRedoEnabled(false);
+        box->setLineWrapMode(QPlainTextEdit::NoWrap);
+    }
+    m_txtCmds->setMaximumBlockCount(CommandLog::kMostEntries + 1);  // the last one is empty, behind the last line end
+    hide(m_txtCmds, "txtCmds");
+    hide(m_txtFiles, "txtFiles");
+}
+
+QTimer *WizardWindow::makeTimer(const char *name, int interval)
+{
+    auto *timer = new QTimer(this);
+    timer->setObjectName(name);
+    timer->setInterval(interval);
+    return timer;
+}
+
+void WizardWindow::setPages(const std::array<PageFrame *, kPageCount> &pages, std::function<void()> clearCandelaState)
+{
+    m_pages = pages;
+    m_clearCandelaState = std::move(clearCandelaState);
+    for (PageFrame *page : m_pages) {
+        page->hide();
+        static_cast<QGridLayout *>(m_stack->layout())->addWidget(page, 0, 0);
+    }
+}
+
+void WizardWindow::load()
+{
+    // A child window has no frame of its own here, so that there is no style bit to set for it.
+    if (m_state.start.EmbedInHost)
+        m_state.start.PreviousParent =
+            m_services.window.SetParent(static_cast<std::uint32_t>(m_state.start.HostWindow));
+    for (PageFrame *page : m_pages)
+        page->load();
+    m_tmrDataExchange->start();
+}
+
+void WizardWindow::startDeathTimer()
+{
+    m_tmrDeath->start();
+}
+
+void WizardWindow::ShowPage(int index)
+{
+    // A menu left open would hang over the page that follows.
+    if (QWidget *popup = QApplication::activePopupWidget())
+        popup->close();
+    for (PageFrame *page : m_pages)
+        page->hide();
+    m_shownPage = kPageCount;
+    if (index < 0 || index >= kPageCount)
+        return;
+    m_shownPage = index;
+    PageFrame *page = m_pages[static_cast<std::size_t>(index)];
+    page->show();
+    setWindowTitle(page->caption());
+    page->focusFirstField();
+}
+
+void WizardWindow::ConfirmCancel()
+{
+    const Answer answer = m_services.dialogs.show({.text = "Changes will be lost. Are you sure you want to cancel?",
+                                                   .flags = kYesNo + kExclamation,
+                                                   .title = "Canceling New File Wizard"});
+    if (answer == Answer::Dismissed)
+        return;
+    if (answer == Answer::Yes)
+        beginUnload();
+    else if (!m_state.start.EmbedInHost)
+        QCoreApplication::exit(0);  // No ends a tool that is not embedded all the same, on purpose, and unloads nothing
+}
+
+void WizardWindow::ShowHelp(int contextId)
+{
+    m_services.help.showTopic(m_state.start.HelpFilePath, contextId);
+}
+
+bool WizardWindow::isBusy() const
+{
+    return m_window.wait.isWaiting() || QApplication::activeModalWidget() || isUnloading();
+}
+
+void WizardWindow::StartWizard()
+{
+    m_clearCandelaState();
+    ShowPage(kLampPage);
+    show();
+    m_window.embedding.takeFocus();
+}
+
+void WizardWindow::stopDeathTimer()
+{
+    m_tmrDeath->stop();
+}
+
+void WizardWindow::beginUnload()
+{
+    m_window.closing.begin();
+}
+
+bool WizardWindow::isUnloading() const
+{
+    return m_window.closing.isClosing();
+}
+
+void WizardWindow::showLog()
+{
+    // Only what is new is added: the whole log may hold megabytes, and a command comes with every tick.
+    const CommandLog &log = m_link.log();
+    QTextCursor end(m_txtCmds->document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(QString::fromStdString(log.latest(log.appended() - m_shownEntries)));
+    m_shownEntries = log.appended();
+    m_txtFiles->setPlainText(QString::fromStdString(m_link.log().txtFiles()));
+}
+
+void WizardWindow::cmdHelp_Click()
+{
+    ShowHelp(kPages[kDistributionPage].helpId);
+}
+
+void WizardWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        askCancelLater();
+    else if (event->key() == Qt::Key_F1 && m_shownPage < kPageCount && !isBusy())
+        guarded([this] { ShowHelp(kPages[static_cast<std::size_t>(m_shownPage)].helpId); });
+    else
+        QWidget::keyPressEvent(event);
+}
+
+void WizardWindow::closeEvent(QCloseEvent *event)
+{
+    event->ignore();
+    askCancelLater();
+}
+
+void WizardWindow::askCancelLater()
+{
+    // From the event loop, so that the key event is off the stack while the question is open.
+    const auto ask = [this] {
+        if (!isBusy())
+            guarded([this] { ConfirmCancel(); });
+    };
+    QMetaObject::invokeMethod(this, ask, Qt::QueuedConnection);
+}
+
+void WizardWindow::tmrDataExchange_Timer()
+{
+    // A timer does not fire while its own slot is on the stack, and a command may open what blocks for long.
+    const auto execute = [this] { guarded([this] { m_link.execute(); }); };
+    guarded([&] {
+        if (m_link.poll())
+            QMetaObject::invokeMethod(this, execute, Qt::QueuedConnection);
+    });
+}
+
+void WizardWindow::unload()
+{
+    try {
+        if (!m_window.closing.isHostGone())
+            HostPost(m_state.start, m_services).postCommand("CloseRemove,");
+    } catch (const RunTimeError &) {  // an unload is never refused, and nobody is left to tell
+    }
+    if (m_state.start.EmbedInHost)
+        m_window.embedding.giveBack(m_state.start.PreviousParent);
+    QCoreApplication::exit(0);
+}
+
+void WizardWindow::guarded(const std::function<void()> &body)
+{
+    guardHandler(m_services.dialogs, windowTitle().toStdString(), body);
+}
+
+}  // namespace penwright

@@ -1,0 +1,113 @@
+#pragma once
+
+#include <QWidget>
+
+#include <array>
+#include <cstdint>
+#include <functional>
+
+#include "core/Services.h"
+#include "core/ToolState.h"
+#include "hostlink/CommandLink.h"
+#include "hostlink/HostOperations.h"
+#include "wizard/PageFrame.h"
+
+class QLineEdit;
+class QPlainTextEdit;
+class QTimer;
+
+namespace penwright {
+
+class Closing;
+class QtEventWait;
+class WarningDialog;
+class X11Embedding;
+
+/// The toolkit's side of the platform, as far as the window itself works with it.
+struct WindowServices {
+    Closing &closing;
+    X11Embedding &embedding;
+    const QtEventWait &wait;
+};
+
+/// The wizard's one window `frmSample`: six page frames on top of each other, at most one of them shown, and the hidden
+/// boxes and timers of the host link.
+class WizardWindow : public QWidget, public Navigator, public LinkedWindow {
+    Q_OBJECT
+
+public:
+    WizardWindow(ToolState &state, const Services &services, const WindowServices &window);
+
+    PageContext pageContext() { return {m_state, m_services, *this}; }
+
+    /// Takes the six pages in the order of the page table, and what StartWizard runs to clear the candela page's state.
+    void setPages(const std::array<PageFrame *, kPageCount> &pages, std::function<void()> clearCandelaState);
+
+    /// The window load handler, run once by start-up: moves into the host when it is to be embedded, loads the pages
+    /// and starts to poll for commands. Raises the errors of the store.
+    void load();
+
+    /// Starts `tmrDeath`, which "START" stops.
+    void startDeathTimer();
+
+    void ShowPage(int index) override;
+    void ConfirmCancel() override;
+    void ShowHelp(int contextId) override;
+    bool isBusy() const override;
+
+    /// Shows page 1 and the window, not modal, and takes the keyboard focus.
+    void StartWizard() override;
+    void stopDeathTimer() override;
+    void beginUnload() override;
+    bool isUnloading() const override;
+    void showLog() override;
+
+    /// One more help handler, which no control leads to: it opens the topic of page 4.
+    void cmdHelp_Click();
+
+    /// Returns false and does nothing else.
+    bool ReDo() { return false; }
+
+    /// The form's state variable: 0 from the creation on.
+    std::int16_t formState() const { return m_formState; }
+
+    WarningDialog &dlgWarn() { return *m_dlgWarn; }
+    CommandLink &link() { return m_link; }
+    HostOperations &operations() { return m_operations; }
+
+protected:
+    /// Escape asks the cancel question, F1 is the page's Help button. Open lists, editors and menus take theirs first.
+    void keyPressEvent(QKeyEvent *event) override;
+
+    /// The window's own close button asks the cancel question.
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    void makeLayout();
+    void makeHiddenBoxes();
+    QTimer *makeTimer(const char *name, int interval);
+    void tmrDataExchange_Timer();
+    void askCancelLater();
+    void unload();
+    void guarded(const std::function<void()> &body);
+
+    ToolState &m_state;
+    Services m_services;
+    WindowServices m_window;
+    CommandLink m_link;
+    HostOperations m_operations;
+    std::array<PageFrame *, kPageCount> m_pages{};
+    std::function<void()> m_clearCandelaState;
+    int m_shownPage = kPageCount;  ///< index of the page shown, kPageCount for none
+    std::int16_t m_formState = 0;
+    std::size_t m_shownEntries = 0;  ///< entries of the log that `txtCmds` has been given
+
+    QWidget *m_stack = nullptr;
+    WarningDialog *m_dlgWarn = nullptr;
+    QTimer *m_tmrDataExchange = nullptr;
+    QTimer *m_tmrDeath = nullptr;
+    QPlainTextEdit *m_txtCmds = nullptr;
+    QPlainTextEdit *m_txtFiles = nullptr;
+};
+
+}  // namespace penwright

@@ -1,0 +1,232 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <QImage>
+#include <set>
+
+#include "hostbench/hostlib/HeldFiles.h"
+#include "hostbench/SampleLuminaire.h"
+#include "platform/sqlite/SqliteSettingsStore.h"
+#include "support/Process.h"
+#include "support/TempFolder.h"
+
+namespace penwright {
+namespace {
+
+namespace fs = std::filesystem;
+using test::Process;
+
+/// A display with room for the host's window at twice its size, with or without a window manager.
+class Screen {
+public:
+    explicit Screen(bool isManaged)
+        : m_server({"Xvfb", "-displayfd", "1", "-screen", "0", "2600x1800x24", "-nolisten", "tcp", "-noreset"})
+    {
+        m_name = ":" + m_server.readLine().value_or("no display");
+        if (!isManaged)
+            return;
+        m_manager = std::make_unique<Process>(std::vector<std::string>{"openbox"}, display());
+        const auto manages = [this] {
+            return Process({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}, display()).readAll().find("window id") !=
+                   std::string::npos;
+        };
+        if (!test::waitUntil(manages, std::chrono::seconds(20)))
+            throw std::runtime_error("openbox does not start");
+    }
+
+    const std::string &name() const { return m_name; }
+
+private:
+    Process::Environment display() const { return {{"DISPLAY", m_name}}; }
+
+    Process m_server;
+    std::string m_name;
+    std::unique_ptr<Process> m_manager;
+};
+
+Process::Environment environment(const std::string &display, const fs::path &home, int scale = 1)
+{
+    return {{"DISPLAY", display},
+            {"QT_QPA_PLATFORM", ""},
+            {"QT_SCALE_FACTOR", std::to_string(scale)},
+            {"LSAN_OPTIONS", "print_suppressions=0:suppressions=" LEAK_SUPPRESSIONS},
+            {"HOME", home.string()},
+            {"XDG_RUNTIME_DIR", home.string()},
+            {"XDG_CONFIG_HOME", (home / "config").string()}};
+}
+
+/// The state letter in /proc of a process of ours, 'Z' for one that has ended and nobody has asked about, 0 for none.
+char stateOf(pid_t pid)
+{
+    std::ifstream in("/proc/" + std::to_string(pid) + "/stat");
+    const std::string text((std::istreambuf_iterator<char>(in)), {});
+    const auto end = text.rfind(')');
+    return end == std::string::npos || end + 2 >= text.size() ? '\0' : text[end + 2];
+}
+
+bool isRunning(pid_t pid)
+{
+    const char state = stateOf(pid);
+    return state != 0 && state != 'Z' && state != 'X';
+}
+
+std::set<pid_t> childrenOf(pid_t pid)
+{
+    const std::string folder = "/proc/" + std::to_string(pid);
+    std::ifstream in(folder + "/task/" + std::to_string(pid) + "/children");
+    return {std::istream_iterator<pid_t>(in), {}};
+}
+
+/// Whether the tool of a host has taken the commands sent to it so far.
+bool hasTakenCommands(const fs::path &home, pid_t host, int tag)
+{
+    SqliteSettingsStore store((home / "config" / "Lumentor" / "settings.sqlite3").string());
+    const std::string section = "Host_" + std::to_string(host) + "_" + std::to_string(tag);
+    const auto values = store.readAll("Lumentor_PE", section);
+    const std::string inbox = "PenwrightPE|" + std::to_string(tag);
+    return std::any_of(values.begin(), values.end(),
+                       [&](const Setting &value) { return value.name == inbox && value.data.empty(); });
+}
+
+struct WalkCase {
+    bool isManaged;
+    int scale;
+};
+
+void PrintTo(const WalkCase &row, std::ostream *out)
+{
+    *out << (row.isManaged ? "openbox" : "no manager") << " at scale " << row.scale;
+}
+
+class WalkTest : public testing::TestWithParam<WalkCase> {};
+
+void checkPictures(const fs::path &folder, int scale)
+{
+    std::vector<QImage> seen;
+    for (int page = 1; page <= 6; ++page) {
+        const QImage image(QString::fromStdString((folder / ("page-" + std::to_string(page) + ".png")).string()));
+        EXPECT_EQ(image.size(), QSize(1240, 860) * scale) << "page " << page;
+        std::set<QRgb> colours;
+        for (int y = 0; y < image.height(); y += 5)
+            for (int x = 0; x < image.width(); x += 5)
+                colours.insert(image.pixel(x, y));
+        EXPECT_GT(colours.size(), 20U) << "page " << page;
+        for (const QImage &other : seen)
+            EXPECT_NE(image, other) << "page " << page;
+        seen.push_back(image);
+    }
+}
+
+TEST_P(WalkTest, leavesTheFileAndAPictureOfEachPage)
+{
+    const Screen screen(GetParam().isManaged);
+    const test::TempFolder home;
+    const fs::path folder = home.path() / "left here";
+    Process host({HOSTBENCH, "--walk", folder.string()}, environment(screen.name(), home.path(), GetParam().scale),
+                 Process::Errors::Joined);
+    const std::string output = host.readAll(std::chrono::seconds(90));
+    EXPECT_EQ(host.waitForEnd(), 0) << output;
+    EXPECT_NE(output.find((folder / "luminaire.ies").string()), std::string::npos) << output;
+    EXPECT_NE(output.find((folder / "page-6.png").string()), std::string::npos) << output;
+    EXPECT_EQ(test::contentOf(folder / "luminaire.ies"), test::contentOf(EXPECTED_FILE));
+    checkPictures(folder, GetParam().scale);
+    EXPECT_FALSE(fs::exists(home.path() / "config")) << "the user's own settings were touched";
+}
+
+INSTANTIATE_TEST_SUITE_P(Displays, WalkTest,
+                         testing::Values(WalkCase{false, 1}, WalkCase{false, 2}, WalkCase{true, 1}, WalkCase{true, 2}),
+                         [](const auto &row) {
+                             return std::string(row.param.isManaged ? "Openbox" : "NoManager") + "Scale" +
+                                    std::to_string(row.param.scale);
+                         });
+
+TEST(Walk, namesTheStepThatFailsAndEnds)
+{
+    const Screen screen(false);
+    const test::TempFolder home;
+    fs::copy_file(HOSTBENCH, home.path() / "hostbench");
+    Process host({home.file("hostbench"), "--walk", home.file("left")}, environment(screen.name(), home.path()),
+                 Process::Errors::Joined);
+    EXPECT_EQ(host.readAll(), "hostbench: the walk failed at \"start the tool\": the tool has ended\n");
+    EXPECT_EQ(host.waitForEnd(), 1);
+}
+
+TEST(Walk, aToolThatShowsNothingIsGivenUp)
+{
+    const Screen screen(false);
+    const test::TempFolder home;
+    fs::copy_file(HOSTBENCH, home.path() / "hostbench");
+    fs::copy_file(FAKE_TOOL, home.path() / "PenwrightPE");
+    Process::Environment silent = environment(screen.name(), home.path());
+    silent.insert(silent.end(), {{"FAKE_TOOL", "silence"}, {"FAKE_TOOL_LOG", home.file("log")}});
+    Process host({home.file("hostbench"), "--walk", home.file("left")}, silent, Process::Errors::Joined);
+    const std::string output = host.readAll(std::chrono::seconds(70));
+    EXPECT_EQ(output.rfind("hostbench: the walk failed at \"start the tool\": the keyboard focus is in ", 0), 0U)
+        << output;
+    EXPECT_EQ(host.waitForEnd(), 1);
+}
+
+TEST(Walk, aFolderThatCannotBeMadeIsNamed)
+{
+    const Screen screen(false);
+    const test::TempFolder home;
+    std::ofstream(home.file("a file")) << "in the way";
+    Process host({HOSTBENCH, "--walk", home.file("a file") + "/left"}, environment(screen.name(), home.path()),
+                 Process::Errors::Joined);
+    EXPECT_EQ(host.readAll(), "hostbench: the walk failed at \"prepare the folder\": cannot make the folder " +
+                                  home.file("a file") + "/left\n");
+    EXPECT_EQ(host.waitForEnd(), 1);
+}
+
+TEST(HostBench, withoutADisplayItSaysSo)
+{
+    const test::TempFolder home;
+    for (const auto &arguments :
+         {std::vector<std::string>{HOSTBENCH}, {HOSTBENCH, "--new"}, {HOSTBENCH, "--walk", home.file("left")}}) {
+        Process host(arguments, environment(":no-display", home.path()), Process::Errors::Joined);
+        EXPECT_EQ(host.readAll(), "hostbench: cannot open the X display \":no-display\"\n");
+        EXPECT_EQ(host.waitForEnd(), 1);
+    }
+    EXPECT_FALSE(fs::exists(home.path() / "left"));
+}
+
+TEST(HostBench, unknownOptionsGetTheUsage)
+{
+    const test::TempFolder home;
+    Process host({HOSTBENCH, "--walk"}, environment(":no-display", home.path()), Process::Errors::Joined);
+    EXPECT_EQ(host.readAll().substr(0, 6), "usage:");
+    EXPECT_EQ(host.waitForEnd(), 1);
+}
+
+/// `hostbench --new` with its one tool, which has taken "START".
+class HostWithTool : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(test::waitUntil([this] { return childrenOf(m_host.pid()).size() == 1; }, std::chrono::seconds(20)));
+        m_tool = *childrenOf(m_host.pid()).begin();
+        ASSERT_TRUE(test::waitUntil([this] { return hasTakenCommands(m_home.path(), m_host.pid(), 1); },
+                                    std::chrono::seconds(20)));
+    }
+
+    Screen m_screen{false};
+    test::TempFolder m_home;
+    Process m_host{{HOSTBENCH, "--new"}, environment(m_screen.name(), m_home.path())};
+    pid_t m_tool = -1;
+};
+
+TEST_F(HostWithTool, killingTheToolLeavesTheHostAlive)
+{
+    kill(m_tool, SIGKILL);
+    EXPECT_TRUE(test::waitUntil([this] { return childrenOf(m_host.pid()).empty(); }));
+    EXPECT_TRUE(isRunning(m_host.pid()));
+}
+
+TEST_F(HostWithTool, killingTheHostEndsTheTool)
+{
+    m_host.signal(SIGKILL);
+    EXPECT_TRUE(test::waitUntil([this] { return !isRunning(m_tool); }));
+}
+
+}  // namespace
+}  // namespace penwright

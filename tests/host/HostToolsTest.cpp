@@ -1,0 +1,152 @@
+// The real tool in the host's window, on a display of its own.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <QApplication>
+#include <QPushButton>
+#include <QTest>
+#include <QTreeWidget>
+
+#include "hostbench/HostWindow.h"
+#include "hostbench/SampleLuminaire.h"
+#include "hostbench/XDisplay.h"
+#include "platform/sqlite/SqliteSettingsStore.h"
+#include "support/Xvfb.h"
+
+namespace penwright {
+namespace {
+
+const QString kFirstPage = "New Photometric file: (1 of 6) General Info";
+const QString kLastPage = "New Photometric file: (6 of 6) Complete!";
+
+class HostToolsTest : public testing::Test {
+protected:
+    HostToolsTest()
+    {
+        m_window.show();
+        m_window.activateWindow();
+    }
+
+    static bool waitFor(const std::function<bool()> &condition) { return QTest::qWaitFor(condition, 20'000); }
+
+    /// The wizard's window in a tab, 0 while there is none.
+    std::uint32_t wizardIn(ToolTab *tab) const
+    {
+        const auto children = m_display.children(tab->area().windowNumber());
+        return children.empty() ? 0 : children.front();
+    }
+
+    bool shows(ToolTab *tab, const QString &caption) const { return m_display.title(wizardIn(tab)) == caption; }
+
+    ToolTab *startAndShow()
+    {
+        ToolTab *tab = m_window.startTool();
+        EXPECT_TRUE(waitFor([&] { return m_display.focusedTitle() == kFirstPage && shows(tab, kFirstPage); }));
+        return tab;
+    }
+
+    /// Alt+N until the last page of the wizard that has the focus.
+    bool walkToLastPage()
+    {
+        for (int page = 1; page <= 6; ++page) {
+            const QString before = m_display.focusedTitle();
+            if (before == kLastPage)
+                return true;
+            m_display.pressKey('n', kKeyAlt);
+            if (!waitFor([&] { return m_display.focusedTitle() != before; }))
+                return false;
+        }
+        return false;
+    }
+
+    bool waitForToolCount(int count)
+    {
+        return waitFor([&] { return m_window.toolCount() == count; });
+    }
+
+    SqliteSettingsStore m_store{SqliteSettingsStore::userPath()};
+    HostWindow m_window{m_store, PENWRIGHT};
+    XDisplay m_display;
+};
+
+TEST_F(HostToolsTest, theWizardFillsItsPlaceToThePixel)
+{
+    ToolTab *tab = startAndShow();
+    const auto fills = [&] { return m_display.size(wizardIn(tab)) == tab->area().pixels(); };
+    EXPECT_TRUE(waitFor(fills));
+    const QSize before = tab->area().pixels();
+    for (int step = 1; step <= 7; step += 2) {
+        m_window.resize(m_window.size() - QSize(step, step));
+        EXPECT_TRUE(waitFor(fills));
+    }
+    EXPECT_NE(tab->area().pixels(), before);
+}
+
+TEST_F(HostToolsTest, twoToolsRunSideBySideAndEndByThemselves)
+{
+    ToolTab *one = startAndShow();
+    ToolTab *two = startAndShow();
+    EXPECT_TRUE(shows(one, kFirstPage));
+    EXPECT_NE(one->run().processId(), two->run().processId());
+    m_display.pressKey('n', kKeyAlt);
+    EXPECT_TRUE(waitFor([&] { return !shows(two, kFirstPage); }));
+    EXPECT_TRUE(shows(one, kFirstPage));
+    m_window.findChild<QPushButton *>("sendClose")->click();
+    EXPECT_TRUE(waitForToolCount(1));
+    EXPECT_TRUE(shows(one, kFirstPage));
+    one->run().link().sendClose();
+    EXPECT_TRUE(waitForToolCount(0));
+}
+
+TEST_F(HostToolsTest, anUnnamedFileComesBackAndIsHeld)
+{
+    startAndShow();
+    m_window.addFile({sampleLuminaire(), false});
+    m_window.sendDataChanged();
+    ASSERT_TRUE(walkToLastPage());
+    m_display.pressKey(kKeySpace);
+    ASSERT_TRUE(waitForToolCount(0));
+    ASSERT_EQ(m_window.files().count(), 2);
+    EXPECT_EQ(m_window.files().at(1).record.Filename, "new_file_1");
+    EXPECT_FALSE(m_window.files().at(1).isSaved);
+}
+
+TEST_F(HostToolsTest, withTwentyFiveFilesTheToolRefuses)
+{
+    for (int i = 0; i < 25; ++i)
+        m_window.addFile({sampleLuminaire(), false});
+    m_window.startTool();
+    ASSERT_TRUE(waitFor([&] { return m_display.focusedTitle() == "PenwrightPE"; }));
+    m_display.pressKey(kKeyReturn);
+    EXPECT_TRUE(waitForToolCount(0));
+    const auto *log = m_window.findChild<QTreeWidget *>("linkLog");
+    EXPECT_EQ(log->findItems("ReturnClose,PenwrightPE,1", Qt::MatchExactly, 3).size(), 1);
+    EXPECT_EQ(log->findItems("Ended with status 1", Qt::MatchExactly, 3).size(), 1);
+    EXPECT_EQ(m_window.files().count(), 25);
+}
+
+TEST_F(HostToolsTest, closingTheWindowEndsTheTools)
+{
+    startAndShow();
+    startAndShow();
+    m_window.close();
+    EXPECT_TRUE(waitFor([&] { return !m_window.isVisible(); }));
+    const auto *log = m_window.findChild<QTreeWidget *>("linkLog");
+    EXPECT_EQ(log->findItems("Ended with status 0", Qt::MatchExactly, 3).size(), 2);
+}
+
+}  // namespace
+}  // namespace penwright
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    using penwright::test::Xvfb;
+    const bool isManaged = qEnvironmentVariable("PENWRIGHT_TEST_MANAGER") == "openbox";
+    const Xvfb display(isManaged ? Xvfb::Manager::Openbox : Xvfb::Manager::None);
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("LSAN_OPTIONS", "print_suppressions=0:suppressions=" LEAK_SUPPRESSIONS);
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,320 @@
+#include "hostbench/HostWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <QApplication>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTest>
+#include <QTreeWidget>
+
+#include "hostbench/SampleLuminaire.h"
+#include "platform/sqlite/SqliteSettingsStore.h"
+#include "support/TempFolder.h"
+
+/// Texts in failures are printed to be read.
+void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << qPrintable(text) << '"';
+}
+
+namespace penwright {
+namespace {
+
+/// The host's window with tools that are told what to do, over a store of its own.
+class HostWindowTest : public testing::Test {
+protected:
+    HostWindowTest()
+    {
+        qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(m_folder.path().string()));
+        qputenv("FAKE_TOOL_LOG", QByteArray::fromStdString(m_folder.file("log")));
+        behave("wait");
+        m_store = std::make_unique<SqliteSettingsStore>(SqliteSettingsStore::userPath());
+        open(FAKE_TOOL);
+    }
+
+    void open(const QString &program)
+    {
+        m_window = std::make_unique<HostWindow>(*m_store, program);
+        m_window->show();
+    }
+
+    static void behave(const QByteArray &behaviour) { qputenv("FAKE_TOOL", behaviour); }
+
+    /// What the tools have noted so far: their command lines and the commands they took.
+    QStringList noted() const
+    {
+        if (!std::filesystem::exists(m_folder.file("log")))
+            return {};
+        return QString::fromStdString(test::contentOf(m_folder.file("log"))).split('\n', Qt::SkipEmptyParts);
+    }
+
+    bool waitNoted(const QString &line) const
+    {
+        return QTest::qWaitFor([&] { return noted().contains(line); }, 20'000);
+    }
+
+    bool waitForNoTools() const
+    {
+        return QTest::qWaitFor([&] { return m_window->toolCount() == 0; }, 20'000);
+    }
+
+    QPushButton *button(const char *name) const { return m_window->findChild<QPushButton *>(name); }
+
+    QStringList logged() const
+    {
+        QStringList texts;
+        const auto *log = m_window->findChild<QTreeWidget *>("linkLog");
+        for (int i = 0; i < log->topLevelItemCount(); ++i)
+            texts.append(log->topLevelItem(i)->text(3));
+        return texts;
+    }
+
+    test::TempFolder m_folder;
+    std::unique_ptr<SqliteSettingsStore> m_store;
+    std::unique_ptr<HostWindow> m_window;
+};
+
+QString moveTo(ToolTab *tab)
+{
+    const QSize size = tab->area().pixels();
+    return QStringLiteral("MOVEWIN,0,0,%1,%2").arg(size.width()).arg(size.height());
+}
+
+TEST_F(HostWindowTest, aToolGetsItsPlaceAndThenIsShown)
+{
+    ToolTab *tab = m_window->startTool();
+    ASSERT_TRUE(waitNoted("START"));
+    const ToolAddress &address = tab->run().link().address();
+    EXPECT_EQ(noted()[0], QStringLiteral("%1,1,HostInbox,1,0,%2")
+                              .arg(tab->area().windowNumber())
+                              .arg(QString::fromStdString(address.section)));
+    EXPECT_LT(noted().indexOf(moveTo(tab)), noted().indexOf("START"));
+    EXPECT_GT(noted().indexOf(moveTo(tab)), 0);
+}
+
+TEST_F(HostWindowTest, aToolFollowsTheSizeOfItsPlace)
+{
+    ToolTab *tab = m_window->startTool();
+    ASSERT_TRUE(waitNoted("START"));
+    const QString before = moveTo(tab);
+    m_window->resize(m_window->size() - QSize(101, 53));
+    EXPECT_NE(moveTo(tab), before);
+    EXPECT_TRUE(waitNoted(moveTo(tab)));
+}
+
+struct FinishCase {
+    const char *word;
+    int files;
+    bool isSaved;
+};
+
+void PrintTo(const FinishCase &row, std::ostream *out)
+{
+    *out << row.word;
+}
+
+class HostWindowFinish : public HostWindowTest, public testing::WithParamInterface<FinishCase> {};
+
+TEST_P(HostWindowFinish, takesWhatTheToolBringsAndClosesIt)
+{
+    behave(GetParam().word);
+    m_window->startTool();
+    ASSERT_TRUE(waitForNoTools());
+    EXPECT_TRUE(noted().contains("CLOSE"));
+    ASSERT_EQ(m_window->files().count(), GetParam().files);
+    const bool isSaved = GetParam().files > 0 && m_window->files().at(0).isSaved;
+    EXPECT_EQ(isSaved, GetParam().isSaved);
+    EXPECT_TRUE(logged().contains("CloseRemove,PenwrightPE,1"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Words, HostWindowFinish,
+                         testing::ValuesIn(std::vector<FinishCase>{{"SendNewDataClose", 1, true},
+                                                                   {"SendNewDataClose*", 1, false},
+                                                                   {"SendUpdatedDataClose", 1, false},
+                                                                   {"SendSavedDataClose", 1, true},
+                                                                   {"ReturnClose", 0, false}}),
+                         [](const auto &row) {
+                             std::string name = row.param.word;
+                             if (name.back() == '*')
+                                 name.replace(name.size() - 1, 1, "Unnamed");
+                             return name;
+                         });
+
+TEST_F(HostWindowTest, theTextOfTheFileBroughtIsShown)
+{
+    behave("SendNewDataClose");
+    m_window->startTool();
+    ASSERT_TRUE(waitForNoTools());
+    const auto *text = m_window->findChild<QPlainTextEdit *>("fileText");
+    EXPECT_TRUE(text->toPlainText().startsWith("IESNA:LM-63-2002\nTILT=NONE\n")) << qPrintable(text->toPlainText());
+    EXPECT_TRUE(text->isVisible());
+}
+
+TEST_F(HostWindowTest, anUnnamedFileCanBeSavedLater)
+{
+    m_window->addFile({sampleLuminaire(), false});
+    EXPECT_TRUE(button("saveAs")->isEnabled());
+    m_window->addFile({sampleLuminaire(), true});
+    EXPECT_FALSE(button("saveAs")->isEnabled());
+}
+
+TEST_F(HostWindowTest, aToolThatDiesTakesOnlyItsTabWithIt)
+{
+    m_window->startTool();
+    ASSERT_TRUE(waitNoted("START"));
+    behave("die");
+    m_window->startTool();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return m_window->toolCount() == 1; }, 20'000));
+    EXPECT_TRUE(logged().contains("Died"));
+    EXPECT_TRUE(m_window->isVisible());
+}
+
+TEST_F(HostWindowTest, whatADyingToolHandedOverIsTaken)
+{
+    behave("last words");
+    m_window->startTool();
+    ASSERT_TRUE(waitForNoTools());
+    ASSERT_EQ(m_window->files().count(), 1);
+    EXPECT_EQ(m_window->files().at(0).record.Filename, "/tmp/last words.ies");
+}
+
+TEST_F(HostWindowTest, aToolThatIsNotThereLeavesALine)
+{
+    open("/nowhere/PenwrightPE");
+    m_window->startTool();
+    ASSERT_TRUE(waitForNoTools());
+    EXPECT_TRUE(logged().last().startsWith("Could not be started: ")) << qPrintable(logged().last());
+}
+
+TEST_F(HostWindowTest, rubbishIsTakenAndIgnored)
+{
+    behave("rubbish");
+    m_window->startTool();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return logged().count("Not a command of a tool; ignored") == 3; }, 20'000));
+    EXPECT_EQ(m_window->toolCount(), 1);
+    for (const QString &text : logged())
+        EXPECT_LE(text.size(), 301);
+}
+
+TEST_F(HostWindowTest, twoToolsRunSideBySide)
+{
+    behave("SendNewDataClose");
+    ToolTab *one = m_window->startTool();
+    ToolTab *two = m_window->startTool();
+    EXPECT_NE(one->run().link().address().tag, two->run().link().address().tag);
+    EXPECT_NE(one->run().link().address().section, two->run().link().address().section);
+    EXPECT_NE(one->area().windowNumber(), two->area().windowNumber());
+    ASSERT_TRUE(waitForNoTools());
+    EXPECT_EQ(m_window->files().count(), 2);
+}
+
+TEST_F(HostWindowTest, aRunningToolCountsAsAFile)
+{
+    for (int i = 0; i < 23; ++i)
+        m_window->addFile({sampleLuminaire(), false});
+    EXPECT_EQ(m_window->startTool()->run().link().address().openFiles, 23);
+    EXPECT_EQ(m_window->startTool()->run().link().address().openFiles, 24);
+    EXPECT_EQ(m_window->startTool()->run().link().address().openFiles, 25);
+}
+
+TEST_F(HostWindowTest, dataChangedHandsOverTheSelectedFile)
+{
+    PhotometricRecord record = sampleLuminaire();
+    record.Filename = "the other";
+    m_window->addFile({sampleLuminaire(), false});
+    m_window->addFile({record, false});
+    ToolTab *tab = m_window->startTool();
+    ASSERT_TRUE(waitNoted("START"));
+    button("sendDataChanged")->click();
+    ASSERT_TRUE(waitNoted("DATACHANGED"));
+    const auto stored = tab->run().link().loadRecords();
+    ASSERT_EQ(stored.size(), 1U);
+    EXPECT_EQ(iesFileText(stored[0].record), iesFileText(record));
+    EXPECT_EQ(stored[0].record.Filename, "the other");
+}
+
+TEST_F(HostWindowTest, freshRecordsAreThereBeforeTheRequestIsTaken)
+{
+    behave("RefreshData");
+    m_window->addFile({sampleLuminaire(), false});
+    m_window->startTool();
+    EXPECT_TRUE(waitNoted("then Filename1 is sample luminaire"));
+}
+
+TEST_F(HostWindowTest, deleteFileNamesTheSelectedFile)
+{
+    m_window->addFile({sampleLuminaire(), false});
+    m_window->startTool();
+    ASSERT_TRUE(waitNoted("START"));
+    button("sendDeleteFile")->click();
+    EXPECT_TRUE(waitNoted("DELETEFILE,sample luminaire"));
+}
+
+TEST_F(HostWindowTest, closeEndsTheToolShown)
+{
+    m_window->startTool();
+    m_window->startTool();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return noted().count("START") == 2; }, 20'000));
+    button("sendClose")->click();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return m_window->toolCount() == 1; }, 20'000));
+    EXPECT_TRUE(logged().contains("CloseRemove,PenwrightPE,2"));
+    EXPECT_FALSE(logged().contains("CloseRemove,PenwrightPE,1"));
+}
+
+TEST_F(HostWindowTest, nothingCanBeSentWithoutATool)
+{
+    m_window->addFile({sampleLuminaire(), false});
+    EXPECT_FALSE(button("sendClose")->isEnabled());
+    EXPECT_FALSE(button("sendDataChanged")->isEnabled());
+    EXPECT_FALSE(button("sendDeleteFile")->isEnabled());
+    m_window->startTool();
+    EXPECT_TRUE(button("sendClose")->isEnabled());
+    EXPECT_TRUE(button("sendDataChanged")->isEnabled());
+    EXPECT_TRUE(button("sendDeleteFile")->isEnabled());
+}
+
+TEST_F(HostWindowTest, nothingOfAToolStaysInTheStore)
+{
+    behave("SendNewDataClose");
+    const std::string section = m_window->startTool()->run().link().address().section;
+    ASSERT_TRUE(waitForNoTools());
+    EXPECT_TRUE(m_store->readAll("Lumentor_PE", section).empty());
+}
+
+TEST_F(HostWindowTest, closingTheWindowClosesItsToolsFirst)
+{
+    m_window->startTool();
+    m_window->startTool();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return noted().count("START") == 2; }, 20'000));
+    EXPECT_FALSE(m_window->close());
+    EXPECT_TRUE(m_window->isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_window->isVisible(); }, 20'000));
+    EXPECT_EQ(noted().count("CLOSE"), 2);
+    EXPECT_EQ(logged().count("Ended with status 0"), 2);
+}
+
+TEST_F(HostWindowTest, aToolThatDoesNotCloseDoesNotKeepTheWindow)
+{
+    behave("silence");
+    m_window->startTool();
+    ASSERT_TRUE(waitNoted("START"));
+    m_window->close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_window->isVisible(); }, 20'000));
+    EXPECT_TRUE(logged().contains("Died"));
+}
+
+}  // namespace
+}  // namespace penwright
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

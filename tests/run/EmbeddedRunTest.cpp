@@ -1,0 +1,246 @@
+#include "hostlink/RecordText.h"
+#include "run/Desktop.h"
+#include "run/RunTest.h"
+#include "x11/DisplayQuery.h"
+#include "x11/HostProcess.h"
+
+namespace penwright::test {
+namespace {
+
+const std::vector<std::string> kCaptions{
+    "New Photometric file: (1 of 6) General Info",
+    "New Photometric file: (2 of 6) Lamp Tilt Info",
+    "New Photometric file: (3 of 6) Descriptive Information",
+    "New Photometric file: (4 of 6) Photometric Distribution",
+    "New Photometric file: (5 of 6) Candela Values",
+    "New Photometric file: (6 of 6) Complete!",
+};
+
+PhotometricRecord smallRecord()
+{
+    PhotometricRecord record;
+    record.Filename = "from the host.ies";
+    record.Keywords = {"IESNA:LM-63-2002", "[TEST] 1"};
+    record.NumLamps = 1;
+    record.LumensPerLamp = 1000;
+    record.CandelaMultiplier = 1;
+    record.NumVertAngles = 2;
+    record.NumHorzAngles = 1;
+    record.PhotometricType = kTypeC;
+    record.UnitsType = kMeters;
+    record.Width = 0.5F;
+    record.BallastFactor = 1;
+    record.InputWatts = 42;
+    record.VertAngles = {0, 90};
+    record.HorAngles = {0};
+    record.Candela.reset(1, 2);
+    record.Candela(1, 1) = 1234.5;
+    record.Candela(1, 2) = 0.25;
+    return record;
+}
+
+/// The tool in the window of a host process on a real display.
+class EmbeddedRun : public RunTest {
+protected:
+    void startIn(const std::string &embed = "1")
+    {
+        start({std::to_string(host.window()) + "," + embed + ",HostBox,7,3,Sec"}, "xcb");
+        send("anything");
+    }
+    void startWizard()
+    {
+        startIn();
+        send("START");
+        ASSERT_TRUE(waitUntil([this] { return display.isViewable(wizard()) && display.focus() == wizard(); }));
+    }
+
+    /// The wizard's window: the host's only child.
+    std::uint32_t wizard()
+    {
+        const auto children = display.childrenOf(host.window());
+        return children.size() == 1 ? children[0] : 0;
+    }
+    std::string caption()
+    {
+        std::string name = xdotool({"getwindowname", std::to_string(wizard())});
+        return name.substr(0, name.find('\n'));
+    }
+    bool shows(int page)
+    {
+        return waitUntil([&] { return caption() == kCaptions.at(page); });
+    }
+    void sendRecord(const PhotometricRecord &record)
+    {
+        writeRecordTexts(record,
+                         [this](std::string_view word, std::string text) { write(recordValueName(word, 1), text); });
+        send("DATACHANGED");
+    }
+    void walkToTheEnd()
+    {
+        ASSERT_TRUE(shows(0));
+        for (const int page : {2, 3, 4, 5}) {
+            typeKeys({"alt+n"});
+            ASSERT_TRUE(shows(page));
+        }
+    }
+    PhotometricRecord storedRecord()
+    {
+        const ReadRecord read = readRecordTexts(
+            [this](std::string_view word) { return store().read("Lumentor_PE", "Sec", recordValueName(word, 1)); });
+        EXPECT_EQ(read.problem, "");
+        return read.record;
+    }
+
+    DisplayQuery display;
+    HostProcess host;
+};
+
+TEST_F(EmbeddedRun, windowIsTheHostsHiddenChildUntilStart)
+{
+    startIn();
+    ASSERT_NE(wizard(), 0u);
+    EXPECT_EQ(caption(), "PenwrightPE");
+    EXPECT_FALSE(display.isMapped(wizard()));
+    send("START");
+    EXPECT_TRUE(waitUntil([this] { return display.isViewable(wizard()); }));
+    EXPECT_TRUE(shows(0));
+    send("CLOSE");
+    expectUnloaded();
+    EXPECT_EQ(tool().readAll(), "");
+}
+
+TEST_F(EmbeddedRun, isAChildOfTheHostEvenWhenItIsNotToBeEmbedded)
+{
+    startIn("0");
+    EXPECT_NE(wizard(), 0u);
+}
+
+TEST_F(EmbeddedRun, movesToExactPixelsAndBackToTheDesignSize)
+{
+    startWizard();
+    send("MOVEWIN,11,23,533,477");
+    EXPECT_TRUE(waitUntil([this] { return display.geometryOf(wizard()) == Rectangle{11, 23, 533, 477}; }));
+    send("movewin,10,20,0,0");
+    EXPECT_TRUE(waitUntil([this] { return display.geometryOf(wizard()) == Rectangle{10, 20, 720, 560}; }));
+    send("MOVEWIN,3,4,-1,9");
+    EXPECT_TRUE(waitUntil([this] { return display.geometryOf(wizard()) == Rectangle{3, 4, 720, 560}; }));
+    send("MOVEWIN,10,20,300");
+    send("MOVEWIN,5,6,200,150");
+    EXPECT_TRUE(waitUntil([this] { return display.geometryOf(wizard()) == Rectangle{5, 6, 200, 150}; }));
+}
+
+TEST_F(EmbeddedRun, placeBeforeStartIsKept)
+{
+    startIn();
+    send("MOVEWIN,11,23,533,477");
+    send("START");
+    ASSERT_TRUE(waitUntil([this] { return display.isViewable(wizard()); }));
+    EXPECT_EQ(display.geometryOf(wizard()), (Rectangle{11, 23, 533, 477}));
+}
+
+TEST_F(EmbeddedRun, wholePathFromTheHostsRecordToTheFileHandedOver)
+{
+    startWizard();
+    const PhotometricRecord sent = smallRecord();
+    sendRecord(sent);
+    walkToTheEnd();
+    typeKeys({"space"});
+    EXPECT_EQ(take(), "SendNewDataClose*,PenwrightPE,7");
+    PhotometricRecord expected = sent;
+    expected.Filename = "new_file_4";
+    EXPECT_EQ(storedRecord(), expected);
+    EXPECT_FALSE(tool().hasEnded());
+    send("CLOSE");
+    expectUnloaded();
+}
+
+TEST_F(EmbeddedRun, halfARecordLeavesWhatWasThere)
+{
+    startWizard();
+    const PhotometricRecord sent = smallRecord();
+    sendRecord(sent);
+    write("Candela1", "1");
+    send("DATACHANGED");
+    walkToTheEnd();
+    typeKeys({"space"});
+    EXPECT_EQ(take(), "SendNewDataClose*,PenwrightPE,7");
+    EXPECT_EQ(storedRecord().Candela, sent.Candela);
+    send("CLOSE");
+    expectUnloaded();
+}
+
+TEST_F(EmbeddedRun, savedFileIsOnDiskUnderTheTypedName)
+{
+    startWizard();
+    sendRecord(smallRecord());
+    walkToTheEnd();
+    typeKeys({"Tab", "space"});
+    const std::string window = windowTitled("Save New Photometric file As...");
+    ASSERT_NE(window, "");
+    ASSERT_TRUE(waitUntil([&] { return std::to_string(display.focus()) == window; }));
+    const TempFolder folder;
+    xdotool({"type", "--delay", "1", folder.file("lamp.ies")});
+    typeKeys({"Return"});
+    EXPECT_EQ(take(), "SendNewDataClose,PenwrightPE,7");
+    EXPECT_EQ(contentOf(folder.file("lamp.ies")).substr(0, 16), "IESNA:LM-63-2002");
+    EXPECT_EQ(storedRecord().Filename, folder.file("lamp.ies"));
+    send("CLOSE");
+    expectUnloaded();
+}
+
+TEST_F(EmbeddedRun, escapeAndYesUnload)
+{
+    startWizard();
+    typeKeys({"Escape"});
+    ASSERT_TRUE(pressIn("Canceling New File Wizard", {"y"}));
+    expectUnloaded();
+}
+
+TEST_F(EmbeddedRun, escapeAndNoGoOn)
+{
+    startWizard();
+    typeKeys({"Escape"});
+    ASSERT_TRUE(pressIn("Canceling New File Wizard", {"n"}));
+    ASSERT_TRUE(waitUntil([this] { return display.focus() == wizard(); }));
+    typeKeys({"alt+n"});
+    EXPECT_TRUE(shows(2));
+    EXPECT_EQ(hostInbox(), "");
+}
+
+TEST_F(EmbeddedRun, noEndsAToolThatIsNotEmbeddedUntold)
+{
+    startIn("0");
+    send("START");
+    ASSERT_TRUE(waitUntil([this] { return display.focus() == wizard(); }));
+    typeKeys({"Escape"});
+    ASSERT_TRUE(pressIn("Canceling New File Wizard", {"n"}));
+    EXPECT_EQ(tool().waitForEnd(), 0);
+    EXPECT_EQ(hostInbox(), "");
+}
+
+TEST_F(EmbeddedRun, closeEndsItUnderAMessage)
+{
+    startWizard();
+    typeKeys({"F1"});
+    ASSERT_NE(windowTitled("PenwrightPE"), "");
+    send("CLOSE");
+    expectUnloaded();
+}
+
+TEST_F(EmbeddedRun, hostThatDiesTakesTheToolWithIt)
+{
+    startWizard();
+    host.kill();
+    EXPECT_EQ(tool().waitForEnd(), 0);
+    EXPECT_EQ(hostInbox(), "");
+}
+
+TEST_F(EmbeddedRun, hostThatDiesBeforeStartTakesTheToolWithIt)
+{
+    startIn();
+    host.obey("destroy");
+    EXPECT_EQ(tool().waitForEnd(), 0);
+}
+
+}  // namespace
+}  // namespace penwright::test

@@ -1,0 +1,168 @@
+#include <unistd.h>
+#include <filesystem>
+#include <fstream>
+
+#include "run/Desktop.h"
+#include "run/RunTest.h"
+
+namespace penwright::test {
+namespace {
+
+const std::string kNotDirectly = "This 'tool' can not be used directly. Must be called from Lumentor32 or Quellux32.";
+const std::string kFull =
+    "There is already the maximum number of photometric files open. Please close some before creating a new one.";
+
+struct Refused {
+    std::vector<std::string> arguments;
+    std::string shown;  ///< the command line text, as it stands behind the refusal
+};
+
+void PrintTo(const Refused &refused, std::ostream *out)
+{
+    *out << '"' << refused.shown << '"';
+}
+
+class WithoutHost : public RunTest, public testing::WithParamInterface<Refused> {};
+
+INSTANTIATE_TEST_SUITE_P(CommandLines, WithoutHost,
+                         testing::Values(Refused{{}, ""}, Refused{{"123,1,HostBox,7,24"}, "123,1,HostBox,7,24"},
+                                         Refused{{"123,1,HostBox,7,24,Sec,x"}, "123,1,HostBox,7,24,Sec,x"},
+                                         Refused{{"abc,1,HostBox,7,24,Sec"}, "abc,1,HostBox,7,24,Sec"},
+                                         Refused{{"123,1,HostBox,7,24,Sec\r\n1,2"}, "123,1,HostBox,7,24,Sec\r\n1,2"},
+                                         Refused{{"-platform", "x11", "--help"}, "-platform x11 --help"}));
+
+TEST_P(WithoutHost, isRefusedInABoxAndOnStderr)
+{
+    start(GetParam().arguments, "xcb");
+    ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
+    EXPECT_EQ(tool().waitForEnd(), 1);
+    EXPECT_EQ(tool().readAll(), kNotDirectly + GetParam().shown + "\n");
+}
+
+class TooMany : public RunTest {};
+
+TEST_F(TooMany, filesAreRefusedAndTheHostIsTold)
+{
+    start({"123,1,HostBox,7,25,Sec"}, "xcb");
+    ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
+    EXPECT_EQ(take(), "ReturnClose,PenwrightPE,7");
+    EXPECT_EQ(tool().waitForEnd(), 1);
+    EXPECT_EQ(tool().readAll(), kFull + "\n");
+}
+
+TEST_F(TooMany, fieldsOfTwoLinesAreThoseOfTheFirst)
+{
+    start({"123,1,HostBox,7,25,Sec\r\n123,1,OtherBox,8,3,Other"}, "xcb");
+    ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
+    EXPECT_EQ(take(), "ReturnClose,PenwrightPE,7");
+    EXPECT_EQ(tool().waitForEnd(), 1);
+}
+
+TEST_F(TooMany, hostThatTakesNothingIsWaitedForThreeSeconds)
+{
+    start({"0,1,HostBox,7,25,Sec"}, "xcb");
+    ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
+    ASSERT_TRUE(waitUntil([this] { return !hostInbox().empty(); }));
+    const auto posted = std::chrono::steady_clock::now();
+    EXPECT_EQ(tool().waitForEnd(), 1);
+    EXPECT_GT(std::chrono::steady_clock::now() - posted, 2500ms);
+    EXPECT_EQ(hostInbox(), "ReturnClose,PenwrightPE,7");
+}
+
+TEST_F(TooMany, signalDismissesTheMessageAndNothingIsPosted)
+{
+    start({"123,1,HostBox,7,25,Sec"}, "xcb");
+    ASSERT_NE(windowTitled("PenwrightPE"), "");
+    tool().signal(SIGTERM);
+    EXPECT_EQ(tool().waitForEnd(), 1);
+    EXPECT_EQ(hostInbox(), "");
+}
+
+/// The fatal error exit: one message, status 1.
+class Fatal : public RunTest {
+protected:
+    void expectDied(const std::string &message)
+    {
+        ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
+        EXPECT_EQ(tool().waitForEnd(), 1);
+        const std::string output = tool().readAll();
+        EXPECT_NE(output.find(message), std::string::npos) << output;
+    }
+    void makeFolder() { std::filesystem::create_directories(config() + "/Lumentor"); }
+};
+
+TEST_F(Fatal, numberBeyondItsFieldOverflows)
+{
+    start({"99999999999,1,HostBox,7,3,Sec"}, "xcb");
+    expectDied("died in sub Main. reason: #6 Msg:Overflow\n");
+}
+
+TEST_F(Fatal, storeThatIsNoDatabaseIsNamedAndLeftAsItIs)
+{
+    makeFolder();
+    const std::string text(5000, 'x');
+    std::ofstream(storePath()) << text;
+    start({"123,1,HostBox,7,3,Sec"}, "xcb");
+    expectDied("died in sub Main. reason: #13 Msg:" + storePath());
+    EXPECT_EQ(contentOf(storePath()), text);
+}
+
+TEST_F(Fatal, storeOfANewerVersionIsNamedAndLeftAsItIs)
+{
+    makeFolder();
+    {
+        SqliteSettingsStore made(storePath());
+        made.write("a", "b", "c", "d");
+    }
+    {
+        std::fstream file(storePath(), std::ios::in | std::ios::out | std::ios::binary);
+        file.seekp(60);  // the four bytes of `user_version`
+        file.write("\0\0\0\2", 4);
+    }
+    const std::string before = contentOf(storePath());
+    start({"123,1,HostBox,7,3,Sec"}, "xcb");
+    expectDied("died in sub Main. reason: #13 Msg:" + storePath());
+    EXPECT_EQ(contentOf(storePath()), before);
+}
+
+TEST_F(Fatal, storeThatIsAFolderIsNamed)
+{
+    std::filesystem::create_directories(storePath());
+    start({"123,1,HostBox,7,3,Sec"}, "xcb");
+    expectDied("died in sub Main. reason: #");
+    EXPECT_TRUE(std::filesystem::is_directory(storePath()));
+}
+
+TEST_F(Fatal, storeInAFolderThatIsAFileIsNamed)
+{
+    std::ofstream(config()) << "not a folder";
+    start({"123,1,HostBox,7,3,Sec"}, "xcb");
+    expectDied("died in sub Main. reason: #76 Msg:" + storePath());
+    EXPECT_EQ(contentOf(config()), "not a folder");
+}
+
+TEST_F(Fatal, storeInAFolderThatMayNotBeReadIsNamed)
+{
+    makeFolder();
+    const std::filesystem::path folder = std::filesystem::path(storePath()).parent_path();
+    std::filesystem::permissions(folder, std::filesystem::perms::none);
+    // For root every folder is open, so that another user has to try.
+    std::vector<std::string> asSomebody;
+    if (geteuid() == 0)
+        asSomebody = {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"};
+    start({"123,1,HostBox,7,3,Sec"}, "xcb", asSomebody);
+    expectDied("died in sub Main. reason: #70 Msg:" + storePath());
+    std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
+}
+
+class NoDisplay : public RunTest {};
+
+TEST_F(NoDisplay, isOneLineAndStatusOne)
+{
+    start({"123,1,HostBox,7,3,Sec"}, "xcb", {"env", "-u", "DISPLAY"});
+    EXPECT_EQ(tool().waitForEnd(), 1);
+    EXPECT_EQ(tool().readAll(), "PenwrightPE: there is no X display: DISPLAY is not set.\n");
+}
+
+}  // namespace
+}  // namespace penwright::test

@@ -1,0 +1,114 @@
+#include "store/InjectedCall.h"
+#include "store/StoreTest.h"
+
+namespace penwright::test {
+namespace {
+
+using PeekTest = StoreTest;
+
+TEST_F(PeekTest, missingValueIsEmpty)
+{
+    EXPECT_EQ(peek("nothing"), "");
+    EXPECT_EQ(take("nothing"), "");
+    EXPECT_EQ(read("nothing"), "(none)");
+}
+
+TEST_F(PeekTest, seesItsOwnWritesAndThoseOfOthers)
+{
+    write("a", "1");
+    EXPECT_EQ(peek("a"), "1");
+    write("a", "2");
+    EXPECT_EQ(peek("a"), "2");
+    Peer peer(path);
+    peer.sql("UPDATE setting SET data = '3' WHERE name = 'a'");
+    EXPECT_EQ(peek("a"), "3");
+    peer.sql("DELETE FROM setting");
+    EXPECT_EQ(peek("a"), "");
+    store().transact([this] { write("a", "4"); });
+    EXPECT_EQ(peek("a"), "4");
+    store().removeSection("Lumentor_PE", "Sec");
+    EXPECT_EQ(peek("a"), "");
+}
+
+TEST_F(PeekTest, valuesOfOneNameInTwoSectionsAreTwo)
+{
+    store().write("ab", "c", "n", "1");
+    store().write("a", "bc", "n", "2");
+    EXPECT_EQ(store().peek("ab", "c", "n"), "1");
+    EXPECT_EQ(store().peek("a", "bc", "n"), "2");
+    EXPECT_EQ(store().peek("a", "b", "cn"), "");
+}
+
+TEST_F(PeekTest, whatATransactionWroteAndUndidIsNotSeenAfterwards)
+{
+    write("a", "before");
+    EXPECT_NE(errorOf([this] {
+                  store().transact([this] {
+                      write("a", "within");
+                      EXPECT_EQ(peek("a"), "within");
+                      EXPECT_EQ(take("a"), "") << "an inbox is not emptied within another's transaction";
+                      throw overflow();
+                  });
+              }),
+              "no error");
+    EXPECT_EQ(peek("a"), "before");
+}
+
+TEST_F(PeekTest, takingEmptiesOnce)
+{
+    write("a", "command");
+    EXPECT_EQ(take("a"), "command");
+    EXPECT_EQ(take("a"), "");
+    EXPECT_EQ(read("a"), "");
+}
+
+int g_reads = 0;
+using ReadCall = ssize_t (*)(int, void *, size_t, off_t);
+ReadCall g_realRead = nullptr;
+
+ssize_t countedRead(int file, void *bytes, size_t count, off_t place)
+{
+    ++g_reads;
+    return g_realRead(file, bytes, count, place);
+}
+
+// With its page cache too small for the table, a query would have to read the file.
+TEST_F(PeekTest, tickThatFindsNothingNewReadsNothing)
+{
+    write("a", "");
+    peek("a");
+    sqlite3_vfs *vfs = sqlite3_vfs_find(nullptr);
+    for (const char *name : {"pread", "pread64"}) {
+        g_realRead = reinterpret_cast<ReadCall>(vfs->xGetSystemCall(vfs, name));
+        if (!g_realRead)
+            continue;
+        const InjectedCall counted(name, &countedRead);
+        g_reads = 0;
+        for (int tick = 0; tick < 1000; ++tick)
+            ASSERT_EQ(peek("a"), "");
+        EXPECT_EQ(g_reads, 0) << name;
+    }
+}
+
+ssize_t failingRead(int, void *, size_t, off_t)
+{
+    errno = EIO;
+    return -1;
+}
+
+TEST_F(PeekTest, storeThatCannotBeReadIsNothingAndTheNextLookTells)
+{
+    write("a", "");
+    Peer(path).sql("UPDATE setting SET data = 'command'");
+    {
+        const InjectedCall first("pread", &failingRead), second("pread64", &failingRead);
+        EXPECT_EQ(peek("a"), std::nullopt);
+        EXPECT_EQ(take("a"), "");
+        EXPECT_NE(errorOf([this] { read("a"); }), "no error");
+    }
+    EXPECT_EQ(peek("a"), "command");
+    EXPECT_EQ(take("a"), "command");
+}
+
+}  // namespace
+}  // namespace penwright::test

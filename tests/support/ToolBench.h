@@ -1,0 +1,104 @@
+#pragma once
+
+#include <deque>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/Services.h"
+#include "core/ToolState.h"
+#include "platform/HelpViewer.h"
+#include "platform/HostEmbedding.h"
+#include "platform/sqlite/SqliteSettingsStore.h"
+#include "platform/TextFiles.h"
+#include "support/FakeDialogs.h"
+#include "support/FakeEventWait.h"
+#include "support/TempFolder.h"
+
+namespace penwright::test {
+
+/// Files that are only noted, in their order, each as path and text; failures are taken from a queue of errno values.
+struct FakeTextFiles : TextFiles {
+    int replace(const std::string &path, std::string_view text) override
+    {
+        written.emplace_back(path, text);
+        if (failures.empty())
+            return 0;
+        const int failure = failures.front();
+        failures.pop_front();
+        return failure;
+    }
+    std::vector<std::pair<std::string, std::string>> written;
+    std::deque<int> failures;
+};
+
+/// A window among the display's windows that keeps a transcript of what was done to it.
+struct FakeEmbedding : HostEmbedding {
+    std::uint32_t SetParent(std::uint32_t parent) override
+    {
+        transcript += "parent " + std::to_string(parent) + "\n";
+        return 0;
+    }
+    void MoveWindow(int x, int y, PixelSize to) override
+    {
+        transcript += "move " + std::to_string(x) + " " + std::to_string(y) + " " + std::to_string(to.width) + " " +
+                      std::to_string(to.height) + "\n";
+    }
+    void raise() override { transcript += "raise\n"; }
+    bool isShown() const override { return shown; }
+    PixelSize size() const override { return current; }
+    double twipsPerPixel() const override { return twips; }
+
+    std::string transcript;
+    bool shown = false;
+    PixelSize current{700, 500};
+    double twips = 15;
+};
+
+struct FakeHelp : HelpViewer {
+    void showTopic(const std::string &, int) override {}
+};
+
+/// A store that cannot be used, as one whose disk has filled up.
+struct FullStore : SettingsStore {
+    [[noreturn]] static void fail() { throw RunTimeError(61, "/the/store: database or disk is full"); }
+    std::string read(std::string_view, std::string_view, std::string_view, std::string_view) override { fail(); }
+    std::vector<Setting> readAll(std::string_view, std::string_view) override { fail(); }
+    void write(std::string_view, std::string_view, std::string_view, std::string_view) override { fail(); }
+    void remove(std::string_view, std::string_view, std::string_view) override { fail(); }
+    void removeSection(std::string_view, std::string_view) override { fail(); }
+    void transact(const std::function<void()> &) override { fail(); }
+    std::optional<std::string> peek(std::string_view, std::string_view, std::string_view) override { return {}; }
+    std::string take(std::string_view, std::string_view, std::string_view) override { return {}; }
+};
+
+/// What start-up has made once a host has started the tool, over a store of its own: instance 7, section "Sec", inbox
+/// "HostBox", three files open, slot 1 new.
+struct ToolBench {
+    ToolBench()
+    {
+        state.start.HostWindow = 123;
+        state.start.HostInbox = "HostBox";
+        state.start.InstanceTag = "7";
+        state.start.OpenFileCount = 3;
+        state.start.ExchangeSection = "Sec";
+        state.PhotFiles.reset(1);
+    }
+
+    std::string value(const std::string &name) { return store.read("Lumentor_PE", "Sec", name, "(none)"); }
+    void setValue(const std::string &name, std::string_view data) { store.write("Lumentor_PE", "Sec", name, data); }
+
+    TempFolder folder;
+    SqliteSettingsStore store{folder.file("Lumentor/settings.sqlite3")};
+    FullStore fullStore;
+    ToolState state;
+    FakeTextFiles files;
+    FakeDialogs dialogs;
+    FakeEventWait wait;
+    FakeEmbedding window;
+    FakeHelp help;
+    Services services{store, files, dialogs, wait, window, help};
+    Services brokenServices{fullStore, files, dialogs, wait, window, help};
+};
+
+}  // namespace penwright::test

@@ -1,0 +1,149 @@
+#include "widgets/WizardTest.h"
+
+namespace penwright::test {
+namespace {
+
+struct UnitsCase {
+    std::optional<std::string> setting;
+    bool isFeet;
+};
+
+class Units : public WizardTest, public testing::WithParamInterface<UnitsCase> {};
+
+INSTANTIATE_TEST_SUITE_P(Settings, Units,
+                         testing::Values(UnitsCase{std::nullopt, true}, UnitsCase{"0", true}, UnitsCase{"1", false},
+                                         UnitsCase{"", false}, UnitsCase{" 0", false}, UnitsCase{"0.0", false},
+                                         UnitsCase{"feet", false}));
+
+TEST_P(Units, comeFromTheUsersSettingAndAreNotWritten)
+{
+    if (GetParam().setting)
+        store.write("Lumentor32", "Lumentor32", "InputUnits", *GetParam().setting);
+    loadWindow();
+    EXPECT_EQ(find<QRadioButton>("rdoFeet")->isChecked(), GetParam().isFeet);
+    EXPECT_EQ(find<QRadioButton>("rdoMeters")->isChecked(), !GetParam().isFeet);
+    EXPECT_EQ(store.readAll("Lumentor32", "Lumentor32").size(), GetParam().setting ? 1u : 0u);
+}
+
+class Load : public WizardTest {};
+
+TEST_F(Load, windowIsNamedHiddenAndShowsNoPage)
+{
+    loadWindow();
+    EXPECT_EQ(window->objectName(), "frmSample");
+    EXPECT_EQ(caption(), "New Photometric File");
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(shownPage(), -1);
+    EXPECT_EQ(window->size(), QSize(720, 560));
+    EXPECT_EQ(window->formState(), 0);
+    EXPECT_FALSE(window->ReDo());
+}
+
+TEST_F(Load, embeddedWindowMovesIntoTheHostAndKeepsItsFormerParent)
+{
+    loadWindow();
+    EXPECT_EQ(place.parents, std::vector<std::uint32_t>{123});
+    EXPECT_EQ(state.start.PreviousParent, 4711u);
+}
+
+TEST_F(Load, windowThatIsNotEmbeddedStaysWhereItIs)
+{
+    state.start.EmbedInHost = false;
+    loadWindow();
+    EXPECT_TRUE(place.parents.empty());
+    EXPECT_EQ(state.start.PreviousParent, 0u);
+}
+
+TEST_F(Load, shapesAreListedAndNoneIsSelected)
+{
+    loadWindow();
+    const auto *shapes = find<QComboBox>("lmpCmbShape");
+    std::string listed;
+    for (int i = 0; i < shapes->count(); ++i)
+        listed += std::to_string(i) + " " + shapes->itemText(i).toStdString() + "\n";
+    EXPECT_EQ(listed,
+              "0 Point\n1 Rectangle\n2 Rectangle w/ Luminous Sides\n3 Circle\n4 Ellipse\n5 Vertical Cylinder\n"
+              "6 Vertical Ellipsoidal Cylinder\n7 Sphere\n8 Ellipsoidal Spheroid\n"
+              "9 Horz Cylinder along Photometric Horz.\n10 Horz Ellipsoidal Cylinder along Photometric Horz.\n"
+              "11 Horz Cylinder Perpendicular to Photometric Horz.\n"
+              "12 Horz Ellipsoidal Cylinder Perpendicular to Photometric Horz.\n"
+              "13 Vertical Circle Facing Photometric Horizontal\n14 Vertical Ellipse Facing Photometric Horizontal\n");
+    EXPECT_EQ(shapes->currentIndex(), -1);
+}
+
+TEST_F(Load, wheelChangesNoClosedList)
+{
+    startWizard();
+    auto *shapes = find<QComboBox>("lmpCmbShape");
+    shapes->setCurrentIndex(3);
+    QWheelEvent wheel(QPointF(5, 5), shapes->mapToGlobal(QPointF(5, 5)), QPoint(), QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(shapes, &wheel);
+    EXPECT_EQ(shapes->currentIndex(), 3);
+}
+
+TEST_F(Load, pageOneHasItsFixedTexts)
+{
+    loadWindow();
+    EXPECT_EQ(find<QLabel>("labPTB")->text(), "Units:");
+    EXPECT_EQ(find<QAbstractButton>("rdoFeet")->text(), "Feet");
+    EXPECT_EQ(find<QAbstractButton>("rdoMeters")->text(), "Meters");
+    EXPECT_EQ(find<QGroupBox>("lmpFrame2")->title(), "Luminous Dimensions");
+    EXPECT_EQ(find<QGroupBox>("Frame3")->title(),
+              "Lamp Tilt Information (Only Needed For Lamps Whose Output Varies By Inclination)");
+    EXPECT_EQ(find<QCheckBox>("chkIncludeTilt")->text(), "Include Luminaire Tilt Information");
+    EXPECT_FALSE(find<QCheckBox>("chkIncludeTilt")->isChecked());
+}
+
+TEST_F(Load, labelsOfPageOneAreBuddies)
+{
+    loadWindow();
+    EXPECT_EQ(find<QLabel>("labShape")->buddy(), find("lmpCmbShape"));
+    EXPECT_EQ(find<QLabel>("labPTB")->buddy(), find("rdoFeet"));
+}
+
+TEST_F(Load, hiddenBoxesExistAndStayHidden)
+{
+    startWizard();
+    for (int index = 0; index <= 6; ++index) {
+        window->ShowPage(index);
+        for (const char *name : {"txtNewFilename", "txtIESFile"})
+            EXPECT_TRUE(find<QLineEdit>(name)->isHidden()) << name;
+        for (const char *name : {"txtCmds", "txtFiles"})
+            EXPECT_TRUE(find<QPlainTextEdit>(name)->isHidden()) << name;
+    }
+}
+
+TEST_F(Load, timersAreNamedAndOnlyThePollRuns)
+{
+    loadWindow();
+    EXPECT_EQ(find<QTimer>("tmrDataExchange")->interval(), 100);
+    EXPECT_TRUE(find<QTimer>("tmrDataExchange")->isActive());
+    EXPECT_EQ(find<QTimer>("tmrDeath")->interval(), 10000);
+    EXPECT_FALSE(find<QTimer>("tmrDeath")->isActive());
+    window->startDeathTimer();
+    EXPECT_TRUE(find<QTimer>("tmrDeath")->isActive());
+}
+
+TEST_F(Load, startClearsTheCandelaPagesState)
+{
+    loadWindow();
+    candela = {true, true};
+    window->StartWizard();
+    EXPECT_FALSE(candela.GridStarted);
+    EXPECT_FALSE(candela.GridReady);
+}
+
+TEST_F(Load, secondStartDoesWhatTheFirstDid)
+{
+    startWizard();
+    window->ShowPage(kFinishPage);
+    window->hide();
+    window->StartWizard();
+    EXPECT_TRUE(window->isVisible());
+    EXPECT_EQ(shownPage(), kLampPage);
+    EXPECT_EQ(caption(), kCaptions[kLampPage]);
+}
+
+}  // namespace
+}  // namespace penwright::test

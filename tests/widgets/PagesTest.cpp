@@ -1,0 +1,193 @@
+#include "widgets/WizardTest.h"
+
+namespace penwright::test {
+namespace {
+
+struct PageCase {
+    int index;
+    std::string number;
+    std::string cancel;
+    int helpId;
+    std::string firstField;
+};
+
+void PrintTo(const PageCase &page, std::ostream *out)
+{
+    *out << "page " << page.number;
+}
+
+class Page : public WizardTest, public testing::WithParamInterface<PageCase> {
+protected:
+    void SetUp() override
+    {
+        startWizard();
+        window->ShowPage(GetParam().index);
+    }
+    std::vector<std::string> buttonNames() const
+    {
+        const PageCase &page = GetParam();
+        return {page.cancel, "cmdHelp" + page.number, "cmdNext" + page.number, "cmdBack" + page.number};
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Table, Page,
+                         testing::Values(PageCase{0, "10", "cmdCancel", 202, "lmpCmbShape"},
+                                         PageCase{1, "15", "cmdCancel15", 203, "cmdNext15"},
+                                         PageCase{2, "20", "cmdCancel20", 204, "cmdNext20"},
+                                         PageCase{3, "30", "cmdCancel30", 205, "cmdNext30"},
+                                         PageCase{4, "50", "cmdCancel50", 206, "cmdNext50"},
+                                         PageCase{5, "80", "cmdCancel80", 207, "cmdUnname"}));
+
+TEST_P(Page, isTheOnlyOneShownAndNamesTheWindow)
+{
+    EXPECT_EQ(shownPage(), GetParam().index);
+    EXPECT_EQ(caption(), kCaptions.at(GetParam().index));
+}
+
+TEST_P(Page, showsItsCaptionAtItsTop)
+{
+    QWidget *frame = find("nfra" + std::to_string(GetParam().index));
+    const auto *top = qobject_cast<QLabel *>(frame->childAt(frame->width() / 3, 40));
+    ASSERT_TRUE(top);
+    EXPECT_EQ(top->text().toStdString(), kCaptions.at(GetParam().index));
+}
+
+TEST_P(Page, hasItsFourButtonsInOrderInOneRow)
+{
+    const std::vector<std::string> captions{"Cancel", "Help", "Next >", "< Back"};
+    const std::vector<std::string> names = buttonNames();
+    int right = 0;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const auto *button = find<QPushButton>(names[i]);
+        EXPECT_EQ(button->text().toStdString(), captions[i]);
+        EXPECT_EQ(button->y(), find(names[0])->y());
+        EXPECT_GT(button->x(), right) << names[i];
+        EXPECT_EQ(button->parentWidget()->objectName().toStdString(), "nfra" + std::to_string(GetParam().index));
+        right = button->geometry().right();
+    }
+}
+
+TEST_P(Page, helpButtonAndF1OpenItsTopic)
+{
+    click("cmdHelp" + GetParam().number);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+    const std::pair<std::string, int> topic("/tool/Lumentor_PE-HTML.chm", GetParam().helpId);
+    EXPECT_EQ(help.topics, (std::vector{topic, topic}));
+}
+
+TEST_P(Page, cancelButtonAsks)
+{
+    dialogs.answers = {Answer::No};
+    click(GetParam().cancel);
+    EXPECT_EQ(dialogs.transcript,
+              "[Canceling New File Wizard|52] Changes will be lost. Are you sure you want to cancel?\n");
+}
+
+TEST_P(Page, beginsWithItsFirstField)
+{
+    EXPECT_EQ(focusName(), GetParam().firstField);
+}
+
+TEST_P(Page, tabWalksThroughTheFormAndThenTheButtons)
+{
+    std::vector<std::string> walked;
+    do {
+        walked.push_back(focusName());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    } while (focusName() != GetParam().firstField && walked.size() < 20);
+    std::vector<std::string> expected;
+    if (GetParam().index == kLampPage)
+        expected = {"lmpCmbShape", "rdoFeet", "chkIncludeTilt", "cmdCancel", "cmdHelp10", "cmdNext10"};
+    else if (GetParam().index == kFinishPage)
+        expected = {"cmdUnname", "cmdSaveAs", "cmdCancel80", "cmdHelp80", "cmdBack80"};
+    else
+        expected = {buttonNames()[2], buttonNames()[3], buttonNames()[0], buttonNames()[1]};
+    EXPECT_EQ(walked, expected);
+}
+
+TEST_P(Page, everyInputHasAnAccessibleName)
+{
+    QWidget *frame = find("nfra" + std::to_string(GetParam().index));
+    EXPECT_EQ(frame->accessibleName().toStdString(), kCaptions.at(GetParam().index));
+    for (QWidget *widget : frame->findChildren<QWidget *>()) {
+        if (!(widget->focusPolicy() & Qt::TabFocus) || qobject_cast<QPushButton *>(widget))
+            continue;
+        EXPECT_NE(widget->accessibleName(), "") << widget->objectName().toStdString();
+    }
+}
+
+TEST_P(Page, fitsTheDesignSizeWithoutScrolling)
+{
+    EXPECT_EQ(window->size(), QSize(720, 560));
+    for (const std::string &name : buttonNames())
+        EXPECT_FALSE(find(name)->visibleRegion().isEmpty()) << name;
+}
+
+TEST_P(Page, scrollsBelowItsMinimumToEveryButton)
+{
+    window->resize(200, 150);
+    for (const std::string &name : buttonNames()) {
+        QWidget *button = find(name);
+        if (!button->isEnabled())
+            continue;
+        button->setFocus(Qt::TabFocusReason);
+        // Travelling by Tab is what brings a control into view.
+        QTest::keyClick(button, Qt::Key_Backtab);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_TRUE(button->hasFocus()) << name;
+        EXPECT_FALSE(button->visibleRegion().isEmpty()) << name;
+    }
+}
+
+class Pages : public WizardTest {};
+
+TEST_F(Pages, buttonsThatLeadNowhereAreDisabled)
+{
+    loadWindow();
+    std::vector<std::string> disabled;
+    for (const QPushButton *button : window->findChildren<QPushButton *>())
+        if (!button->isEnabled())
+            disabled.push_back(button->objectName().toStdString());
+    EXPECT_EQ(disabled, (std::vector<std::string>{"cmdBack10", "cmdNext80"}));
+}
+
+TEST_F(Pages, anyOtherIndexHidesAllAndKeepsTheCaption)
+{
+    startWizard();
+    for (const int index : {6, -1, 1000}) {
+        window->ShowPage(kCandelaPage);
+        window->ShowPage(index);
+        EXPECT_EQ(shownPage(), -1);
+        EXPECT_EQ(caption(), kCaptions[kCandelaPage]);
+    }
+}
+
+TEST_F(Pages, withNoPageShownF1OpensNothing)
+{
+    startWizard();
+    window->ShowPage(6);
+    QTest::keyClick(window.get(), Qt::Key_F1);
+    EXPECT_TRUE(help.topics.empty());
+}
+
+TEST_F(Pages, furtherHelpHandlerOpensPageFoursTopic)
+{
+    loadWindow();
+    window->cmdHelp_Click();
+    ASSERT_EQ(help.topics.size(), 1u);
+    EXPECT_EQ(help.topics[0].second, 205);
+}
+
+TEST_F(Pages, turningThePageClosesAnOpenMenu)
+{
+    startWizard();
+    QMenu menu(window.get());
+    menu.addAction("Paste");
+    menu.popup(QPoint(50, 50));
+    ASSERT_EQ(QApplication::activePopupWidget(), &menu);
+    window->ShowPage(kKeywordPage);
+    EXPECT_FALSE(QApplication::activePopupWidget());
+}
+
+}  // namespace
+}  // namespace penwright::test

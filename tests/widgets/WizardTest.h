@@ -1,0 +1,174 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <QTest>
+#include <QtWidgets>
+#include <string>
+#include <vector>
+
+#include "pages/candela/CandelaPage.h"
+#include "pages/candela/CandelaState.h"
+#include "pages/distribution/DistributionPage.h"
+#include "pages/keywords/KeywordPage.h"
+#include "pages/luminaire/LampPage.h"
+#include "pages/luminaire/TiltPage.h"
+#include "platform/HelpViewer.h"
+#include "platform/HostEmbedding.h"
+#include "platform/qt/Closing.h"
+#include "platform/qt/QtDialogs.h"
+#include "platform/qt/QtEventWait.h"
+#include "platform/qt/X11Embedding.h"
+#include "platform/sqlite/SqliteSettingsStore.h"
+#include "platform/TextFiles.h"
+#include "support/FakeDialogs.h"
+#include "support/TempFolder.h"
+#include "wizard/FinishPage.h"
+#include "wizard/WizardWindow.h"
+
+namespace penwright::test {
+
+struct RecordingHelp : HelpViewer {
+    void showTopic(const std::string &path, int contextId) override { topics.emplace_back(path, contextId); }
+    std::vector<std::pair<std::string, int>> topics;
+};
+
+struct RecordingFiles : TextFiles {
+    int replace(const std::string &path, std::string_view) override { return paths.push_back(path), 0; }
+    std::vector<std::string> paths;
+};
+
+/// A place among the display's windows that only notes whose child the wizard becomes.
+struct RecordingEmbedding : HostEmbedding {
+    std::uint32_t SetParent(std::uint32_t parent) override { return parents.push_back(parent), 4711; }
+    void MoveWindow(int, int, PixelSize) override {}
+    void raise() override {}
+    bool isShown() const override { return true; }
+    PixelSize size() const override { return {}; }
+    double twipsPerPixel() const override { return 15; }
+    std::vector<std::uint32_t> parents;
+};
+
+/// The whole wizard window as start-up makes it, over a store of its own, with dialogs that only note what they were
+/// asked unless `useRealDialogs` comes first.
+class WizardTest : public testing::Test {
+protected:
+    WizardTest()
+    {
+        state.start.HostWindow = 123;
+        state.start.EmbedInHost = true;
+        state.start.HostInbox = "HostBox";
+        state.start.InstanceTag = "7";
+        state.start.ExchangeSection = "Sec";
+        state.start.HelpFilePath = "/tool/Lumentor_PE-HTML.chm";
+        state.PhotFiles.reset(1);
+    }
+
+    void TearDown() override { window.reset(); }
+
+    void useRealDialogs() { m_dialogs = &realDialogs; }
+
+    void loadWindow()
+    {
+        window = std::make_unique<WizardWindow>(state, Services{store, files, *m_dialogs, wait, place, help},
+                                                WindowServices{closing, embedding, wait});
+        const PageContext context = window->pageContext();
+        window->setPages({new LampPage(context), new TiltPage(context), new KeywordPage(context),
+                          new DistributionPage(context), new CandelaPage(context), new FinishPage(context)},
+                         [this] { candela = CandelaState(); });
+        realDialogs.setOwner(window.get());
+        wait.setHeldOff(window.get());
+        embedding.adopt(*window);
+        window->load();
+    }
+
+    void startWizard()
+    {
+        loadWindow();
+        window->StartWizard();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        QApplication::setActiveWindow(window.get());
+    }
+
+    template <typename Widget = QWidget>
+    Widget *find(const std::string &name)
+    {
+        auto *widget = window->findChild<Widget *>(QString::fromStdString(name));
+        if (!widget)
+            throw std::runtime_error("no control " + name);
+        return widget;
+    }
+
+    void click(const std::string &button) { QTest::mouseClick(find(button), Qt::LeftButton); }
+
+    /// Index of the one frame that is shown; -1 when none is, -2 when several are.
+    int shownPage()
+    {
+        int shown = -1;
+        for (int index = 0; index < 6; ++index)
+            if (!find("nfra" + std::to_string(index))->isHidden())
+                shown = shown == -1 ? index : -2;
+        return shown;
+    }
+
+    std::string caption() const { return window->windowTitle().toStdString(); }
+
+    static std::string focusName()
+    {
+        const QWidget *focus = QApplication::focusWidget();
+        return focus ? focus->objectName().toStdString() : "";
+    }
+
+    std::string hostInbox() { return store.read("Lumentor_PE", "Sec", "HostBox"); }
+    void sendCommand(const std::string &text) { store.write("Lumentor_PE", "Sec", "PenwrightPE|7", text); }
+
+    /// Runs the program's event loop until something ends it; nothing when that takes too long. Meanwhile a host takes
+    /// what is posted to it.
+    std::optional<int> runUntilEnd()
+    {
+        constexpr int kTooLong = -77;
+        QTimer host;
+        QObject::connect(&host, &QTimer::timeout, [this] {
+            if (const std::string text = store.take("Lumentor_PE", "Sec", "HostBox"); !text.empty())
+                taken.push_back(text);
+        });
+        host.start(5);
+        QTimer bound;
+        QObject::connect(&bound, &QTimer::timeout, [] { QCoreApplication::exit(kTooLong); });
+        bound.start(20000);
+        const int status = QApplication::exec();
+        return status == kTooLong ? std::nullopt : std::optional<int>(status);
+    }
+
+    TempFolder folder;
+    ToolState state;
+    CandelaState candela;
+    SqliteSettingsStore store{folder.file("settings.sqlite3")};
+    RecordingFiles files;
+    RecordingHelp help;
+    RecordingEmbedding place;
+    Closing closing;
+    QtEventWait wait{closing};
+    X11Embedding embedding{closing};
+    FakeDialogs dialogs;
+    QtDialogs realDialogs{closing};
+    std::vector<std::string> taken;  ///< what the host has taken from its inbox
+    std::unique_ptr<WizardWindow> window;
+
+private:
+    Dialogs *m_dialogs = &dialogs;
+};
+
+/// The captions of the six pages, by index.
+inline const std::vector<std::string> kCaptions{
+    "New Photometric file: (1 of 6) General Info",
+    "New Photometric file: (2 of 6) Lamp Tilt Info",
+    "New Photometric file: (3 of 6) Descriptive Information",
+    "New Photometric file: (4 of 6) Photometric Distribution",
+    "New Photometric file: (5 of 6) Candela Values",
+    "New Photometric file: (6 of 6) Complete!",
+};
+
+}  // namespace penwright::test

@@ -1,0 +1,238 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <string>
+
+#include "platform/qt/Closing.h"
+#include "platform/qt/MissingHelpViewer.h"
+#include "platform/qt/QtDialogs.h"
+#include "support/FakeDialogs.h"
+#include "support/TempFolder.h"
+#include "x11/DialogDriver.h"
+
+namespace penwright::test {
+namespace {
+
+struct BoxCase {
+    int flags;
+    QMessageBox::Icon icon;
+    std::string buttons;
+    int key;
+    Answer answer;
+};
+
+class Box : public testing::Test {
+protected:
+    Closing closing;
+    QtDialogs dialogs{closing};
+};
+class BoxRow : public Box, public testing::WithParamInterface<BoxCase> {};
+class SaveDialog : public Box {
+protected:
+    static const SaveNameQuestion &question()
+    {
+        static const SaveNameQuestion asked{.title = "Save New Photometric File As...",
+                                            .filter = "IES files (*.ies)|*.ies;*.IES",
+                                            .defaultSuffix = "ies"};
+        return asked;
+    }
+
+    /// Types a name into the dialog and presses Enter.
+    static void typeName(QDialog &dialog, const QString &name)
+    {
+        dialog.findChild<QLineEdit *>("fileNameEdit")->setText(name);
+        QTest::keyClick(dialog.findChild<QLineEdit *>("fileNameEdit"), Qt::Key_Return);
+    }
+
+    TempFolder folder;
+};
+
+std::string buttonsOf(const QMessageBox &box)
+{
+    std::string names;
+    for (const auto kind : {QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel})
+        if (const QAbstractButton *button = box.button(kind))
+            names += button->text().remove('&').toStdString() + " ";
+    return names;
+}
+
+TEST_P(BoxRow, showsItsIconAndButtonsAndAnswersTheKey)
+{
+    whenDialogIsUp([](QDialog &dialog) {
+        const auto &box = dynamic_cast<QMessageBox &>(dialog);
+        EXPECT_EQ(box.icon(), GetParam().icon);
+        EXPECT_EQ(buttonsOf(box), GetParam().buttons);
+        QTest::keyClick(&dialog, static_cast<Qt::Key>(GetParam().key));
+    });
+    EXPECT_EQ(dialogs.show({.text = "Text", .flags = GetParam().flags}), GetParam().answer);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Flags, BoxRow,
+    testing::Values(
+        BoxCase{kOkOnly, QMessageBox::NoIcon, "OK ", Qt::Key_Return, Answer::Ok},
+        BoxCase{kOkOnly, QMessageBox::NoIcon, "OK ", Qt::Key_Escape, Answer::Ok},
+        BoxCase{kCritical, QMessageBox::Critical, "OK ", Qt::Key_Escape, Answer::Ok},
+        BoxCase{kOkCancel + kExclamation, QMessageBox::Warning, "OK Cancel ", Qt::Key_Return, Answer::Ok},
+        BoxCase{kOkCancel + kExclamation, QMessageBox::Warning, "OK Cancel ", Qt::Key_Escape, Answer::Cancel},
+        BoxCase{kYesNo + kExclamation, QMessageBox::Warning, "Yes No ", Qt::Key_Return, Answer::Yes},
+        BoxCase{kYesNo + kExclamation, QMessageBox::Warning, "Yes No ", Qt::Key_Escape, Answer::No},
+        BoxCase{kInformation + kSystemModal, QMessageBox::Information, "OK ", Qt::Key_Return, Answer::Ok},
+        BoxCase{kInformation + kCritical + kSystemModal, QMessageBox::Information, "OK ", Qt::Key_Return, Answer::Ok}));
+
+TEST_F(Box, textAndTitleStandAsTheyAre)
+{
+    const MessageBox asked{.text = "<b>1</b> & 2 && 3\tx\nhttp://a.b ä", .title = "Error saving a&b <i>"};
+    whenDialogIsUp([&](QDialog &dialog) {
+        const auto &box = dynamic_cast<QMessageBox &>(dialog);
+        EXPECT_EQ(box.text().toStdString(), asked.text);
+        EXPECT_EQ(box.textFormat(), Qt::PlainText);
+        EXPECT_EQ(box.windowTitle().toStdString(), asked.title);
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(dialogs.show(asked), Answer::Ok);
+}
+
+TEST_F(Box, aClosedWindowAnswersAsEscapeDoes)
+{
+    whenDialogIsUp([](QDialog &dialog) { dialog.close(); });
+    EXPECT_EQ(dialogs.show({.text = "Text", .flags = kYesNo}), Answer::No);
+}
+
+TEST_F(Box, standsOverTheOpenModalDialog)
+{
+    QWidget owner;
+    owner.show();
+    dialogs.setOwner(&owner);
+    whenDialogIsUp([&](QDialog &lower) {
+        EXPECT_EQ(lower.parentWidget(), &owner);
+        whenDialogIsUp([&](QDialog &upper) {
+            EXPECT_EQ(upper.parentWidget(), &lower);
+            QTest::keyClick(&upper, Qt::Key_Return);
+        });
+        EXPECT_EQ(dialogs.show({.text = "Upper"}), Answer::Ok);
+        QTest::keyClick(&lower, Qt::Key_Escape);
+    });
+    EXPECT_EQ(dialogs.show({.text = "Lower", .flags = kYesNo}), Answer::No);
+}
+
+TEST_F(Box, systemModalBlocksEveryWindow)
+{
+    QWidget owner;
+    owner.show();
+    dialogs.setOwner(&owner);
+    const auto modalityOf = [this](int flags) {
+        Qt::WindowModality seen = Qt::NonModal;
+        whenDialogIsUp([&](QDialog &dialog) {
+            seen = dialog.windowModality();
+            dialog.reject();
+        });
+        dialogs.show({.text = "Text", .flags = flags});
+        return seen;
+    };
+    EXPECT_EQ(modalityOf(kOkOnly), Qt::WindowModal);
+    EXPECT_EQ(modalityOf(kSystemModal), Qt::ApplicationModal);
+}
+
+TEST_F(Box, isDismissedByClosingWhateverWasPressed)
+{
+    whenDialogIsUp([this](QDialog &dialog) {
+        closing.begin();
+        QTest::keyClick(&dialog, Qt::Key_Return);
+    });
+    EXPECT_EQ(dialogs.show({.text = "Text", .flags = kYesNo}), Answer::Dismissed);
+}
+
+TEST_F(Box, returnsAtOnceWhileClosing)
+{
+    closing.begin();
+    EXPECT_EQ(dialogs.show({.text = "Text"}), Answer::Dismissed);
+    EXPECT_EQ(dialogs.chooseSaveName(SaveNameQuestion{}), std::nullopt);
+}
+
+TEST_F(SaveDialog, isTheToolkitsOwnAndAsksAsTold)
+{
+    whenDialogIsUp([](QDialog &dialog) {
+        auto &save = dynamic_cast<QFileDialog &>(dialog);
+        EXPECT_EQ(save.objectName(), "commonDialog");
+        EXPECT_EQ(save.windowTitle().toStdString(), question().title);
+        EXPECT_EQ(save.acceptMode(), QFileDialog::AcceptSave);
+        EXPECT_EQ(save.defaultSuffix(), "ies");
+        EXPECT_EQ(save.findChild<QComboBox *>("fileTypeCombo")->currentText(), "IES files (*.ies)");
+        EXPECT_EQ(save.directory().absolutePath(), QDir::homePath());
+        EXPECT_TRUE(save.findChild<QLineEdit *>("fileNameEdit")->hasFocus());
+        save.reject();
+    });
+    EXPECT_EQ(dialogs.chooseSaveName(question()), std::nullopt);
+}
+
+TEST_F(SaveDialog, addsTheSuffixAndReturnsToTheFolderUsedLast)
+{
+    whenDialogIsUp([this](QDialog &dialog) { typeName(dialog, QString::fromStdString(folder.file("lamp"))); });
+    EXPECT_EQ(dialogs.chooseSaveName(question()), folder.file("lamp.ies"));
+    whenDialogIsUp([](QDialog &dialog) { typeName(dialog, "other.IES"); });
+    EXPECT_EQ(dialogs.chooseSaveName(question()), folder.file("other.IES"));
+}
+
+TEST_F(SaveDialog, asksNothingBeforeReplacing)
+{
+    std::ofstream(folder.file("there.ies")) << "old";
+    whenDialogIsUp([this](QDialog &dialog) { typeName(dialog, QString::fromStdString(folder.file("there.ies"))); });
+    EXPECT_EQ(dialogs.chooseSaveName(question()), folder.file("there.ies"));
+    EXPECT_EQ(contentOf(folder.file("there.ies")), "old");
+}
+
+TEST_F(SaveDialog, cancelledGivesNoName)
+{
+    whenDialogIsUp([this](QDialog &dialog) {
+        dialog.findChild<QLineEdit *>("fileNameEdit")->setText(QString::fromStdString(folder.file("lamp")));
+        dialog.findChild<QDialogButtonBox *>("buttonBox")->button(QDialogButtonBox::Cancel)->click();
+    });
+    EXPECT_EQ(dialogs.chooseSaveName(question()), std::nullopt);
+}
+
+TEST_F(SaveDialog, acceptedWithoutANameGivesTheEmptyName)
+{
+    whenDialogIsUp([](QDialog &dialog) { dialog.done(QDialog::Accepted); });
+    EXPECT_EQ(dialogs.chooseSaveName(question()), "");
+}
+
+TEST_F(SaveDialog, hidesFilesOfOtherKindsInEitherCase)
+{
+    for (const char *name : {"a.ies", "B.IES", "c.txt"})
+        std::ofstream(folder.file(name)) << "x";
+    whenDialogIsUp([this](QDialog &dialog) {
+        auto &save = dynamic_cast<QFileDialog &>(dialog);
+        save.setDirectory(QString::fromStdString(folder.path().string()));
+        auto *list = save.findChild<QAbstractItemView *>("listView");
+        const auto listed = [list] {
+            QStringList names;
+            for (int row = 0; row < list->model()->rowCount(list->rootIndex()); ++row)
+                names << list->model()->index(row, 0, list->rootIndex()).data().toString();
+            names.sort();
+            return names;
+        };
+        EXPECT_TRUE(spinUntil([&] {
+            return listed() == QStringList({"B.IES", "a.ies"});
+        })) << listed().join(",").toStdString();
+        save.reject();
+    });
+    dialogs.chooseSaveName(question());
+}
+
+TEST(MissingHelp, namesTheFileInOneMessage)
+{
+    FakeDialogs dialogs;
+    MissingHelpViewer(dialogs).showTopic("/opt/tool/Help.chm", 203);
+    EXPECT_EQ(dialogs.transcript, "[PenwrightPE|48] The help file is missing: /opt/tool/Help.chm\n");
+}
+
+}  // namespace
+}  // namespace penwright::test

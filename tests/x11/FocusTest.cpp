@@ -1,0 +1,263 @@
+#include <QMessageBox>
+
+#include "x11/EmbeddedWizard.h"
+
+namespace penwright::test {
+namespace {
+
+const MessageBox kQuestion{.text = "Lose <b>all</b>?", .flags = kYesNo + kExclamation, .title = "A && title"};
+
+class Focus : public EmbeddedWizard {
+protected:
+    /// Typed with the pointer far away, so that only the focus can lead the keys to the wizard.
+    void typeAndExpect(QLineEdit &box, const std::string &text)
+    {
+        movePointerAway();
+        xdotool({"type", text});
+        EXPECT_TRUE(spinUntil([&] { return box.text().toStdString() == text; })) << box.text().toStdString();
+    }
+
+    void giveFocusToHost()
+    {
+        host.obey("takefocus");
+        ASSERT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+    }
+};
+
+class NestedHost : public EmbeddedWizard {
+protected:
+    NestedHost() : EmbeddedWizard(HostProcess::Shape::Nested) {}
+};
+
+class WithManager : public EmbeddedWizard {
+protected:
+    /// Where a top-level window's frame stands among all frames; greater is higher.
+    long stackingOf(std::uint32_t inFrame) const
+    {
+        std::uint32_t frame = inFrame;
+        while (display.parentOf(frame) != display.root())
+            frame = display.parentOf(frame);
+        const auto frames = display.childrenOf(display.root());
+        return std::find(frames.begin(), frames.end(), frame) - frames.begin();
+    }
+};
+
+std::uint32_t idOf(const QWidget &widget)
+{
+    return static_cast<std::uint32_t>(widget.winId());
+}
+
+TEST_F(Focus, theFirstShowingTakesIt)
+{
+    embedAndShow();
+    first->setFocus();
+    typeAndExpect(*first, "abc");
+}
+
+TEST_F(Focus, aClickTakesIt)
+{
+    embedAndShow();
+    giveFocusToHost();
+    clickAt(*second);
+    typeAndExpect(*second, "xyz");
+}
+
+TEST_F(Focus, isTakenWhenAsked)
+{
+    embedAndShow();
+    first->setFocus();
+    giveFocusToHost();
+    embedding.takeFocus();
+    typeAndExpect(*first, "abc");
+}
+
+TEST_F(Focus, isTakenAgainAfterHidingAndShowing)
+{
+    embedAndShow();
+    first->setFocus();
+    ASSERT_TRUE(spinUntil([this] { return first->hasFocus(); }));
+    window->hide();
+    ASSERT_TRUE(spinUntil([this] { return display.focus() != id(); }));
+    show();
+    typeAndExpect(*first, "abc");
+}
+
+TEST_F(Focus, isTakenOnceTheHostIsOnTheScreen)
+{
+    embed();
+    embedding.MoveWindow(0, 0, {700, 400});
+    host.obey("unmap");
+    window->show();
+    first->setFocus();
+    embedding.takeFocus();
+    settle();
+    EXPECT_NE(display.focus(), id());
+    host.obey("map");
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+    typeAndExpect(*first, "abc");
+}
+
+TEST_F(Focus, comesBackAfterAMessageBox)
+{
+    embedAndShow();
+    first->setFocus();
+    whenDialogIsUp([](QDialog &box) {
+        ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow(); }));
+        xdotool({"key", "n"});
+    });
+    EXPECT_EQ(dialogs.show(kQuestion), Answer::No);
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+    typeAndExpect(*first, "abc");
+}
+
+// So does a window manager that sees the end of the dialog late.
+TEST_F(Focus, isTakenBackFromAHostThatTakesItAsADialogEnds)
+{
+    embedAndShow();
+    first->setFocus();
+    whenDialogIsUp([](QDialog &box) { box.reject(); });
+    dialogs.show(kQuestion);
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id() && window->isActiveWindow(); }));
+    host.obey("takefocus");
+    ASSERT_EQ(display.focus(), host.topWindow());
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+    typeAndExpect(*first, "abc");
+}
+
+TEST_F(Focus, isLeftToAHostThatIsClickedAsADialogEnds)
+{
+    embedAndShow();
+    whenDialogIsUp([](QDialog &box) { box.reject(); });
+    dialogs.show(kQuestion);
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id() && window->isActiveWindow(); }));
+    movePointerAway();
+    xdotool({"mousedown", "1"});
+    host.obey("takefocus");
+    ASSERT_TRUE(spinUntil([this] { return !window->isActiveWindow(); }));
+    EXPECT_EQ(display.focus(), host.topWindow());
+    xdotool({"mouseup", "1"});
+}
+
+TEST_F(Focus, goesToTheSaveDialogsNameBox)
+{
+    embedAndShow();
+    whenDialogIsUp([&](QDialog &dialog) {
+        ASSERT_TRUE(spinUntil([&] { return dialog.isActiveWindow(); }));
+        xdotool({"type", "fresh"});
+        auto *name = dialog.findChild<QLineEdit *>("fileNameEdit");
+        EXPECT_TRUE(spinUntil([&] { return name->text() == "fresh"; }));
+        xdotool({"key", "Return"});
+    });
+    const auto chosen =
+        dialogs.chooseSaveName({.title = "Save", .filter = "IES files (*.ies)|*.ies;*.IES", .defaultSuffix = "ies"});
+    EXPECT_EQ(chosen, std::string(std::getenv("HOME")) + "/fresh.ies");
+}
+
+TEST_F(Focus, isNotTakenFromADialog)
+{
+    embedAndShow();
+    whenDialogIsUp([this](QDialog &box) {
+        ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow() && display.focus() == idOf(box); }));
+        embedding.takeFocus();
+        settle();
+        EXPECT_EQ(display.focus(), idOf(box));
+        box.reject();
+    });
+    dialogs.show(kQuestion);
+}
+
+TEST_F(Focus, staysWithADialogThatTheWizardIsClickedUnder)
+{
+    embedAndShow();
+    bool pressed = false;
+    QObject::connect(button, &QPushButton::pressed, [&] { pressed = true; });
+    whenDialogIsUp([this](QDialog &box) {
+        ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow(); }));
+        box.move(0, 600);
+        clickAt(*button);
+        movePointerAway();
+        ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow(); }));
+        xdotool({"key", "Escape"});
+    });
+    EXPECT_EQ(dialogs.show(kQuestion), Answer::No);
+    EXPECT_FALSE(pressed);
+}
+
+TEST_F(Focus, dialogsBelongToTheHostsWindowWithoutARemark)
+{
+    embedAndShow();
+    testing::internal::CaptureStderr();
+    whenDialogIsUp([this](QDialog &box) {
+        EXPECT_EQ(display.transientFor(idOf(box)), host.topWindow());
+        box.reject();
+    });
+    dialogs.show(kQuestion);
+    whenDialogIsUp([this](QDialog &dialog) {
+        EXPECT_EQ(display.transientFor(idOf(dialog)), host.topWindow());
+        dialog.reject();
+    });
+    dialogs.chooseSaveName({.title = "Save", .filter = "All|*", .defaultSuffix = ""});
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST_F(Focus, dialogsBlockTheWizardAndNoOtherWindow)
+{
+    embedAndShow();
+    QWidget help;
+    auto *search = new QLineEdit(&help);
+    help.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
+    whenDialogIsUp([&](QDialog &box) {
+        search->setFocus();
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, button->geometry().center());
+        QTest::mouseClick(help.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
+        QTest::keyClick(help.windowHandle(), Qt::Key_H);
+        EXPECT_TRUE(spinUntil([&] { return search->text() == "h"; }));
+        box.reject();
+    });
+    bool pressed = false;
+    QObject::connect(button, &QPushButton::pressed, [&] { pressed = true; });
+    dialogs.show(kQuestion);
+    EXPECT_FALSE(pressed);
+}
+
+TEST_F(NestedHost, dialogsBelongToTheTopLevelWindowAndBlockTheWizard)
+{
+    embedAndShow();
+    bool pressed = false;
+    QObject::connect(button, &QPushButton::pressed, [&] { pressed = true; });
+    whenDialogIsUp([this](QDialog &box) {
+        EXPECT_EQ(display.transientFor(idOf(box)), host.topWindow());
+        QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, button->geometry().center());
+        box.reject();
+    });
+    dialogs.show(kQuestion);
+    EXPECT_FALSE(pressed);
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, button->geometry().center());
+    EXPECT_TRUE(pressed);
+}
+
+TEST_F(WithManager, aDialogStaysAboveAClickedHost)
+{
+    embedAndShow();
+    whenDialogIsUp([this](QDialog &box) {
+        ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow(); }));
+        const Rectangle frame = display.geometryOf(display.parentOf(host.topWindow()));
+        xdotool({"mousemove", std::to_string(frame.x + 60), std::to_string(frame.y + frame.height - 40), "click", "1"});
+        ASSERT_TRUE(spinUntil([&] { return display.focus() == idOf(box); }));
+        EXPECT_GT(stackingOf(idOf(box)), stackingOf(host.topWindow()));
+        box.reject();
+    });
+    dialogs.show(kQuestion);
+}
+
+TEST_F(WithManager, aClickOnTheHostTakesTheFocusAway)
+{
+    embedAndShow();
+    const Rectangle frame = display.geometryOf(display.parentOf(host.topWindow()));
+    xdotool({"mousemove", std::to_string(frame.x + 60), std::to_string(frame.y + frame.height - 40), "click", "1"});
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+}
+
+}  // namespace
+}  // namespace penwright::test

@@ -1,0 +1,65 @@
+#include <gtest/gtest.h>
+
+#include <QWidget>
+
+#include "platform/qt/Closing.h"
+#include "platform/qt/X11Embedding.h"
+
+namespace penwright::test {
+namespace {
+
+/// On a display without X11 windows the wizard is a plain window.
+class WithoutX11 : public testing::Test {
+protected:
+    WithoutX11() { embedding.adopt(window); }
+
+    Closing closing;
+    X11Embedding embedding{closing};
+    QWidget window;
+};
+
+TEST_F(WithoutX11, embeddingChangesNothing)
+{
+    EXPECT_FALSE(embedding.watchHost(42));
+    EXPECT_EQ(embedding.SetParent(42), 0u);
+    EXPECT_TRUE(window.isWindow());
+    EXPECT_FALSE(embedding.isShown());
+}
+
+TEST_F(WithoutX11, movesAndShowsItsOwnWindow)
+{
+    embedding.MoveWindow(11, 22, {333, 222});
+    EXPECT_FALSE(embedding.isShown());
+    window.show();
+    EXPECT_EQ(window.geometry(), QRect(11, 22, 333, 222));
+    EXPECT_EQ(embedding.size(), (PixelSize{333, 222}));
+    embedding.MoveWindow(1, 2, {300, 200});
+    EXPECT_EQ(window.geometry(), QRect(1, 2, 300, 200));
+    EXPECT_TRUE(embedding.isShown());
+    EXPECT_DOUBLE_EQ(embedding.twipsPerPixel(), 15.0);
+}
+
+TEST_F(WithoutX11, isHiddenWhenGivenBack)
+{
+    window.show();
+    embedding.raise();
+    embedding.takeFocus();
+    embedding.giveBack(42);
+    EXPECT_FALSE(embedding.isShown());
+}
+
+TEST(NothingAdopted, changesNothing)
+{
+    Closing closing;
+    X11Embedding embedding(closing);
+    EXPECT_EQ(embedding.SetParent(42), 0u);
+    embedding.MoveWindow(1, 2, {3, 4});
+    embedding.raise();
+    embedding.takeFocus();
+    embedding.giveBack(42);
+    EXPECT_FALSE(embedding.isShown());
+    EXPECT_EQ(embedding.size(), PixelSize{});
+}
+
+}  // namespace
+}  // namespace penwright::test
