@@ -205,10 +205,7 @@ void HostWindow::removeTool(ToolTab *tab)
 {
     emit toolEnded(tab);
     m_tools.removeOne(tab);
-    const bool wasShown = shownTool() == tab;
     m_tabs->removeTab(m_tabs->indexOf(tab));
-    if (wasShown && m_tools.isEmpty())
-        m_tabs->setCurrentWidget(m_text);
     tab->deleteLater();
     enableButtons();
     if (m_isClosing && m_tools.isEmpty())

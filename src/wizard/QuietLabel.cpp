@@ -26,19 +26,21 @@ QuietLabel::QuietLabel(const QString &text, QWidget *parent) : QLabel(text, pare
 void QuietLabel::changeEvent(QEvent *event)
 {
     QLabel::changeEvent(event);
-    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::ParentChange)
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::ParentChange)
         mixColour();
 }
 
 void QuietLabel::mixColour()
 {
-    const QPalette base = parentWidget() ? parentWidget()->palette() : QApplication::palette();
+    const QPalette base = QApplication::palette();  // the parent's may not have followed yet
     const QColor text = base.color(QPalette::WindowText);
     const QColor background = base.color(QPalette::Window);
+    const QColor quiet = QColor::fromRgbF(mix(text.redF(), background.redF()), mix(text.greenF(), background.greenF()),
+                                          mix(text.blueF(), background.blueF()));
+    if (palette().color(QPalette::WindowText) == quiet)
+        return;  // setting it would be told as a change again
     QPalette own;
-    own.setColor(QPalette::WindowText,
-                 QColor::fromRgbF(mix(text.redF(), background.redF()), mix(text.greenF(), background.greenF()),
-                                  mix(text.blueF(), background.blueF())));
+    own.setColor(QPalette::WindowText, quiet);
     setPalette(own);
 }
 

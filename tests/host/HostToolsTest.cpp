@@ -72,14 +72,15 @@ protected:
 TEST_F(HostToolsTest, theWizardFillsItsPlaceToThePixel)
 {
     ToolTab *tab = startAndShow();
-    const auto fills = [&] { return m_display.size(wizardIn(tab)) == tab->area().pixels(); };
+    const auto place = [&] { return m_display.size(tab->area().windowNumber()); };
+    const auto fills = [&] { return m_display.size(wizardIn(tab)) == place(); };
     EXPECT_TRUE(waitFor(fills));
-    const QSize before = tab->area().pixels();
+    const QSize before = place();
     for (int step = 1; step <= 7; step += 2) {
         m_window.resize(m_window.size() - QSize(step, step));
         EXPECT_TRUE(waitFor(fills));
     }
-    EXPECT_NE(tab->area().pixels(), before);
+    EXPECT_NE(place(), before);
 }
 
 TEST_F(HostToolsTest, twoToolsRunSideBySideAndEndByThemselves)

@@ -3,6 +3,7 @@
 #include <fstream>
 
 #include "store/StoreTest.h"
+#include "store/TracedStatements.h"
 
 namespace penwright::test {
 namespace {
@@ -56,6 +57,17 @@ TEST_F(RefusalTest, newerVersionInWalMode)
         EXPECT_EQ(refusal(), "13\n" + path + ": the store is of version 12345, this program knows version 1");
     }
     EXPECT_EQ(Peer(path).sql("PRAGMA user_version"), "12345\n");
+}
+
+TEST_F(RefusalTest, versionThatAnotherProcessRaisesAtTheLastMoment)
+{
+    Peer other(path);
+    const TracedStatements traced([&other](const std::string &sql) {
+        if (sql == "BEGIN IMMEDIATE")
+            other.sql("PRAGMA user_version = 2");
+    });
+    EXPECT_EQ(refusal(), "13\n" + path + ": the store is of version 2, this program knows version 1");
+    EXPECT_EQ(other.sql("PRAGMA user_version; SELECT count(*) FROM sqlite_schema"), "2\n0\n");
 }
 
 TEST_F(RefusalTest, versionThatIsNone)

@@ -108,7 +108,8 @@ protected:
     {
         QTimer look;
         QObject::connect(&look, &QTimer::timeout, [&] {
-            if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
+            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+            if (box && box->isActiveWindow()) {  // a letter's shortcut goes to the active window alone
                 look.stop();
                 act(*box);
             }

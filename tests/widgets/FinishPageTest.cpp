@@ -61,9 +61,11 @@ TEST_F(Finish, quietLinesFollowThePalette)
     const QPalette light = QApplication::palette();
     const int onLight = lightness();
     QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
+    QCoreApplication::processEvents();  // the windows are told by an event
     EXPECT_GT(lightness(), onLight);
     EXPECT_LT(lightness(), QApplication::palette().color(QPalette::WindowText).lightness());
     QApplication::setPalette(light);
+    QCoreApplication::processEvents();
     EXPECT_EQ(lightness(), onLight);
 }
 

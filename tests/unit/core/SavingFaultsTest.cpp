@@ -2,6 +2,7 @@
 #include <signal.h>
 #include <sys/resource.h>
 
+#include "core/FileErrors.h"
 #include "core/IesWriter.h"
 #include "support/FakeDialogs.h"
 #include "support/SampleRecords.h"
@@ -99,12 +100,22 @@ TEST_F(SavingFaults, someoneElsesFile)
 TEST_F(SavingFaults, noFreeFileNumber)
 {
     const std::string path = folder.file("a.ies");
-    EXPECT_EQ(messageOf(path), "");  // the sanitizer looks at each type once, and needs file numbers to do so
     const std::string expected = "Too many files in this directory (Old FAT filesystem?).";
     const int seen = inAChild([&] {
-        const rlimit none{0, 0};
-        setrlimit(RLIMIT_NOFILE, &none);
-        return messageOf(path) == expected ? kSeen : 0;
+        PosixTextFiles limited;
+        limited.replace(path, "");  // the sanitizer looks at each type once, and needs file numbers to do so
+        rlimit few{64, 64};
+        setrlimit(RLIMIT_NOFILE, &few);
+        int last = -1;
+        while (const int file = open("/dev/null", O_RDONLY | O_CLOEXEC)) {
+            if (file < 0)
+                break;
+            last = file;
+        }
+        const int error = limited.replace(path, "x");
+        while (last > 2)
+            close(last--);
+        return savingErrorText(errorFromErrno(error)) == expected ? kSeen : 0;
     });
     EXPECT_EQ(seen, kSeen);
 }
