@@ -78,6 +78,27 @@ TEST_F(PeekTest, tickThatFindsNothingNewAsksForTheVersionAlone)
     EXPECT_EQ(others, 0);
 }
 
+// Between reading and emptying nobody can write: the command written there would be emptied unread.
+TEST_F(PeekTest, takingLocksOthersOutBetweenReadingAndEmptying)
+{
+    std::unique_ptr<Peer> host;
+    std::string intrusion;
+    const TracedStatements traced([&](const std::string &sql) {
+        if (!host || sql.find("INSERT") == std::string::npos)
+            return;
+        try {
+            intrusion = host->sql("UPDATE setting SET data = 'second'") + "written";
+        } catch (const std::runtime_error &failure) {
+            intrusion = failure.what();
+        }
+    });
+    write("a", "first");
+    host = std::make_unique<Peer>(path);
+    host->sql("PRAGMA busy_timeout = 0");
+    EXPECT_EQ(take("a"), "first");
+    EXPECT_EQ(intrusion, "UPDATE setting SET data = 'second': error: database is locked");
+}
+
 ssize_t failingRead(int, void *, size_t, off_t)
 {
     errno = EIO;

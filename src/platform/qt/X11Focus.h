@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDeadlineTimer>
+#include <QEvent>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
