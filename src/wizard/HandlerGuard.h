@@ -9,13 +9,16 @@
 namespace penwright {
 
 /// Runs the body of an event handler, which no exception may leave: an error is told in one message with `title`.
+/// Whether the body ran to its end.
 template <typename Body>
-void guardHandler(Dialogs &dialogs, std::string_view title, const Body &body)
+bool guardHandler(Dialogs &dialogs, std::string_view title, const Body &body)
 {
     try {
         body();
+        return true;
     } catch (const std::exception &error) {
         dialogs.show({.text = error.what(), .flags = kOkOnly, .title = std::string(title)});
+        return false;
     }
 }
 

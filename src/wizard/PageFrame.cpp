@@ -10,6 +10,7 @@
 
 #include "wizard/HandlerGuard.h"
 #include "wizard/QuietLabel.h"
+#include "wizard/WarningDialog.h"
 
 namespace penwright {
 namespace {
@@ -99,7 +100,7 @@ void PageFrame::addButtons(const Handler &next, const Handler &back)
     addButton(fromView(row.cancelButton), "Cancel", [this] { navigator().ConfirmCancel(); });
     addButton("cmdHelp" + number, "Help", [this, id = row.helpId] { navigator().ShowHelp(id); });
     m_buttons->addSpacing(16);
-    m_next = addButton("cmdNext" + number, "Next >", next);
+    m_next = addButton("cmdNext" + number, "Next >", next ? [this, next] { pressNext(next); } : Handler());
     QPushButton *backButton = addButton("cmdBack" + number, "< Back", back);
     // Captions carry no "&". A button's own shortcut would hold its click back while it shows itself pressed.
     connect(new QShortcut(QKeySequence("Alt+N"), this), &QShortcut::activated, m_next, &QPushButton::click);
@@ -119,6 +120,26 @@ QPushButton *PageFrame::addButton(const QString &name, const QString &text, cons
         button->setEnabled(false);
     return button;
 }
+
+void PageFrame::pressNext(const Handler &next)
+{
+    if (!guardHandler(services().dialogs, caption().toStdString(), next))
+        focusFirstFault();
+}
+
+void PageFrame::showWarnings()
+{
+    dlgWarn().showModal();
+    focusFirstFault();
+}
+
+void PageFrame::focusFirstFault()
+{
+    if (const auto &place = dlgWarn().list().firstFault())
+        focusFault(*place);
+}
+
+void PageFrame::focusFault(const FaultPlace &) {}
 
 void PageFrame::onClick(QAbstractButton *button, const Handler &handler)
 {

@@ -13,6 +13,9 @@ class QPushButton;
 
 namespace penwright {
 
+class WarningDialog;
+struct FaultPlace;
+
 /// What a page asks of the wizard window.
 class Navigator {
 public:
@@ -38,6 +41,7 @@ struct PageContext {
     ToolState &state;
     const Services &services;
     Navigator &navigator;
+    WarningDialog &dlgWarn;
 };
 
 /// One page of the wizard: its caption at the top, the space for its form, and the row of four buttons.
@@ -54,6 +58,9 @@ public:
 
     /// Runs once, when the wizard window loads; raises the errors of the store.
     virtual void load() {}
+
+    /// Runs each time before the page is shown; an error raised here leaves the page that is shown as it is.
+    virtual void enter() {}
 
     /// Puts the focus on the first field of the form that takes it, on the Next button where there is none.
     void focusFirstField();
@@ -72,6 +79,13 @@ protected:
     /// Has `handler` run at each click on a button, unless the wizard is busy; its errors are told under the caption.
     void onClick(QAbstractButton *button, const Handler &handler);
 
+    /// Shows the list of warnings, then puts the focus on the first faulty field.
+    void showWarnings();
+
+    /// Puts the focus on a faulty field, where the page told the places of its checks.
+    virtual void focusFault(const FaultPlace &place);
+
+    WarningDialog &dlgWarn() const { return m_context.dlgWarn; }
     ToolState &state() const { return m_context.state; }
     const Services &services() const { return m_context.services; }
     Navigator &navigator() const { return m_context.navigator; }
@@ -80,6 +94,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void pressNext(const Handler &next);
+    void focusFirstFault();
     QPushButton *addButton(const QString &name, const QString &text, const Handler &handler);
 
     int m_index;

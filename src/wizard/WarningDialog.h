@@ -6,11 +6,12 @@
 
 #include "wizard/WarningList.h"
 
-class QPlainTextEdit;
+class QPushButton;
 
 namespace penwright {
 
 class Closing;
+class LongTextBox;
 
 /// The dialog `dlgWarn`: the list of what is missing or wrong on a page. Closing it only hides it; the list survives
 /// until the next Clear.
@@ -34,7 +35,8 @@ public:
 private:
     const Closing &m_closing;
     WarningList m_list;
-    QPlainTextEdit *m_text = nullptr;
+    LongTextBox *m_text = nullptr;
+    QPushButton *m_ok = nullptr;
 };
 
 }  // namespace penwright

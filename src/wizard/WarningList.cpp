@@ -5,6 +5,20 @@ namespace penwright {
 void WarningList::Add(std::string_view entry)
 {
     m_text.append(entry).append("\r\n");
+    noteFault();
+}
+
+void WarningList::Clear()
+{
+    m_text.clear();
+    m_place.reset();
+    m_firstFault.reset();
+}
+
+void WarningList::noteFault()
+{
+    if (!m_firstFault)
+        m_firstFault = m_place;
 }
 
 }  // namespace penwright

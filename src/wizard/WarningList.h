@@ -1,20 +1,42 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
 namespace penwright {
 
-/// The list of the warning dialog: the text itself is the list, each entry ended by "\r\n".
+/// Where a fault of a page lies: in one of its fields, as the page counts them, and of a grid in one cell (row from 1,
+/// column from 0).
+struct FaultPlace {
+    int field = 0;
+    int row = 0;
+    int column = 0;
+    bool operator==(const FaultPlace &) const = default;
+};
+
+/// The list of the warning dialog: the text itself is the list, each entry ended by "\r\n". Beside it stands the place
+/// of the first fault, which gets the focus once the list has been read.
 class WarningList {
 public:
     void Add(std::string_view entry);
-    void Clear() { m_text.clear(); }
+    void Clear();
     bool Clean() const { return m_text.empty(); }
     const std::string &text() const { return m_text; }
 
+    /// Tells the place that the checks from here on look at.
+    void lookAt(const FaultPlace &place) { m_place = place; }
+
+    /// Counts the place looked at as faulty though there is no entry for it: its check or conversion raised an error.
+    void noteFault();
+
+    /// The place of the first entry or noted fault since the last Clear; nothing when no place was told.
+    const std::optional<FaultPlace> &firstFault() const { return m_firstFault; }
+
 private:
     std::string m_text;
+    std::optional<FaultPlace> m_place;
+    std::optional<FaultPlace> m_firstFault;
 };
 
 }  // namespace penwright

@@ -120,13 +120,16 @@ void WizardWindow::startDeathTimer()
 
 void WizardWindow::ShowPage(int index)
 {
+    const bool isPage = index >= 0 && index < kPageCount;
+    if (isPage)  // before anything is hidden: a page that cannot be prepared leaves the one that is shown
+        m_pages[static_cast<std::size_t>(index)]->enter();
     // A menu left open would hang over the page that follows.
     if (QWidget *popup = QApplication::activePopupWidget())
         popup->close();
     for (PageFrame *page : m_pages)
         page->hide();
     m_shownPage = kPageCount;
-    if (index < 0 || index >= kPageCount)
+    if (!isPage)
         return;
     m_shownPage = index;
     PageFrame *page = m_pages[static_cast<std::size_t>(index)];

@@ -38,7 +38,7 @@ class WizardWindow : public QWidget, public Navigator, public LinkedWindow {
 public:
     WizardWindow(ToolState &state, const Services &services, const WindowServices &window);
 
-    PageContext pageContext() { return {m_state, m_services, *this}; }
+    PageContext pageContext() { return {m_state, m_services, *this, *m_dlgWarn}; }
 
     /// Takes the six pages in the order of the page table, and what StartWizard runs to clear the candela page's state.
     void setPages(const std::array<PageFrame *, kPageCount> &pages, std::function<void()> clearCandelaState);

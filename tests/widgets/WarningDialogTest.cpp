@@ -12,7 +12,10 @@ protected:
     bool showAnd(const std::function<void(WarningDialog &)> &act)
     {
         bool ended = true;
-        QTimer::singleShot(0, window.get(), [&] { act(window->dlgWarn()); });
+        QTimer::singleShot(0, window.get(), [&] {
+            QApplication::setActiveWindow(&window->dlgWarn());
+            act(window->dlgWarn());
+        });
         QTimer bound;
         QObject::connect(&bound, &QTimer::timeout, [&] {
             ended = false;
@@ -23,6 +26,15 @@ protected:
         return ended;
     }
     QPlainTextEdit *text() { return find<QPlainTextEdit>("Text1"); }
+
+    /// The text of the line at the top of the list.
+    QString firstVisibleLine()
+    {
+        QTextCursor cursor = text()->cursorForPosition(QPoint(6, 6));
+        cursor.movePosition(QTextCursor::StartOfLine);
+        cursor.movePosition(QTextCursor::EndOfLine, QTextCursor::KeepAnchor);
+        return cursor.selectedText();
+    }
 };
 
 TEST_F(Warning, isNamedAndShowsTheWholeListAtOnce)
@@ -54,6 +66,71 @@ TEST_F(Warning, enterAndEscapeCloseItWhereverTheFocusIs)
                 QTest::keyClick(find(focus), key);
             })) << focus
                 << key;
+}
+
+TEST_F(Warning, beginsWithTheButtonFocusedAndTheFirstLineInSight)
+{
+    for (int i = 1; i <= 500; ++i)
+        window->dlgWarn().Add("line " + std::to_string(i));
+    EXPECT_TRUE(showAnd([&](WarningDialog &open) {
+        EXPECT_EQ(focusName(), "OKButton");
+        EXPECT_EQ(firstVisibleLine(), "line 1");
+        EXPECT_TRUE(text()->verticalScrollBar()->isVisible());
+        open.accept();
+    }));
+}
+
+TEST_F(Warning, canBeCopiedFromByKeyboardAlone)
+{
+    window->dlgWarn().Add("Watts is empty.");
+    window->dlgWarn().Add("Width is empty.");
+    EXPECT_TRUE(showAnd([&](WarningDialog &open) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        ASSERT_EQ(focusName(), "Text1");
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_C, Qt::ControlModifier);
+        open.accept();
+    }));
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "Watts is empty.\nWidth is empty.\n");
+}
+
+TEST_F(Warning, longListIsTheSameTextAndScrollsToItsVeryEnd)
+{
+    std::string expected;
+    for (int i = 1; i <= 123456; ++i) {
+        const std::string line = "Vert: cell " + std::to_string(i) + " is empty or not a number";
+        window->dlgWarn().Add(line);
+        expected += line + "\n";
+    }
+    EXPECT_TRUE(showAnd([&](WarningDialog &open) {
+        EXPECT_EQ(text()->toPlainText().toStdString(), expected);
+        QScrollBar *bar = text()->verticalScrollBar();
+        for (const QSize size : {open.size(), QSize(700, 500)}) {
+            open.resize(size);
+            QCoreApplication::processEvents();
+            bar->setValue(61727);
+            EXPECT_EQ(firstVisibleLine(), "Vert: cell 61728 is empty or not a number");
+            QTest::keyClick(text(), Qt::Key_End, Qt::ControlModifier);
+            EXPECT_TRUE(text()->viewport()->rect().contains(text()->cursorRect().center()));
+            const int linesInSight = text()->viewport()->height() / text()->fontMetrics().lineSpacing();
+            EXPECT_NEAR(bar->maximum(), 123457 - linesInSight, 2);
+        }
+        open.accept();
+    }));
+}
+
+TEST_F(Warning, shortListAfterALongOneIsShownAsEver)
+{
+    for (int i = 1; i <= 10001; ++i)
+        window->dlgWarn().Add("x");
+    EXPECT_TRUE(showAnd([](WarningDialog &open) { open.accept(); }));
+    window->dlgWarn().Clear();
+    window->dlgWarn().Add("Watts is empty.");
+    EXPECT_TRUE(showAnd([&](WarningDialog &open) {
+        EXPECT_EQ(text()->toPlainText(), "Watts is empty.\n");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !text()->verticalScrollBar()->isVisible(); }));
+        open.accept();
+    }));
 }
 
 TEST_F(Warning, canBeResized)

@@ -38,6 +38,38 @@ TEST(WarningList, emptyEntryIsAnEntry)
     EXPECT_FALSE(list.Clean());
 }
 
+TEST(WarningList, firstFaultIsWhereTheFirstEntryWasFound)
+{
+    WarningList list;
+    list.lookAt({1});
+    list.lookAt({2, 7, 1});
+    EXPECT_FALSE(list.firstFault());
+    list.Add("second");
+    list.lookAt({3});
+    list.Add("third");
+    EXPECT_EQ(list.firstFault(), (FaultPlace{2, 7, 1}));
+}
+
+TEST(WarningList, notedFaultHasAPlaceAndNoEntry)
+{
+    WarningList list;
+    list.lookAt({4});
+    list.noteFault();
+    EXPECT_TRUE(list.Clean());
+    EXPECT_EQ(list.firstFault(), (FaultPlace{4}));
+}
+
+TEST(WarningList, clearForgetsThePlaces)
+{
+    WarningList list;
+    list.lookAt({4});
+    list.Add("first");
+    list.Clear();
+    EXPECT_FALSE(list.firstFault());
+    list.Add("no place told");
+    EXPECT_FALSE(list.firstFault());
+}
+
 TEST(WarningList, millionEntriesGrowInOneBuffer)
 {
     WarningList list;

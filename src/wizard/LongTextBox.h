@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace penwright {
+
+/// A read-only box for a list of lines that stays quick with a million of them. Its text is the lines as they were
+/// given, each ended by "\n".
+class LongTextBox : public QPlainTextEdit {
+    Q_OBJECT
+
+public:
+    explicit LongTextBox(QWidget *parent = nullptr);
+
+    /// Shows a list from its first line on. Lines are wrapped in a list of ordinary length, and scroll sideways in a
+    /// long one.
+    void showLines(QString lines);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void countLines();
+
+    bool m_isLong = false;
+};
+
+}  // namespace penwright
