@@ -78,7 +78,8 @@ int runTool(const std::string &commandLine, const std::string &executableFolder)
         Tool tool;
         return run(tool, commandLine, executableFolder);
     } catch (const RunTimeError &error) {
-        const Closing closing;
+        Closing closing;
+        const SignalEnd signalEnd(closing);  // a signal dismisses the box, and the status is the same
         QtDialogs dialogs(closing);
         showAndPrint(dialogs,
                      {"died in sub Main. reason: #" + std::to_string(error.number()) + " Msg:" + error.description()});

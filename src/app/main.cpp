@@ -1,3 +1,4 @@
+#include <csignal>
 #include <filesystem>
 #include <QApplication>
 #include <string>
@@ -17,10 +18,18 @@ std::string commandLineOf(int argc, char **argv)
     return text;
 }
 
+/// Makes errors of what would end the process: a host that no longer reads stderr, a file beyond the size limit.
+void surviveBrokenPipesAndFullFiles()
+{
+    for (const int number : {SIGPIPE, SIGXFSZ})
+        std::signal(number, SIG_IGN);
+}
+
 }  // namespace
 
 int main(int argc, char **argv)
 {
+    surviveBrokenPipesAndFullFiles();
     const std::string commandLine = commandLineOf(argc, argv);
     std::error_code ignored;
     const std::string folder = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string();

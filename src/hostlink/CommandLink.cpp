@@ -86,10 +86,19 @@ void CommandLink::msbCmd(std::string command)
             if (split.lineCount > 0)
                 dispatch(split.table);
         } catch (const RunTimeError &) {
-            m_services.dialogs.show({"err in linkExectue."});
+            tellError();
         }
     }
     m_window.showLog();
+}
+
+void CommandLink::tellError()
+{
+    if (m_isTellingError)
+        return;
+    m_isTellingError = true;
+    m_services.dialogs.show({"err in linkExectue."});
+    m_isTellingError = false;
 }
 
 void CommandLink::dispatch(const FieldTable &fields)

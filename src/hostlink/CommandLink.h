@@ -50,7 +50,8 @@ public:
     /// Executes the oldest command taken, if any; while the window unloads it is logged and ignored.
     void execute();
 
-    /// Executes `command` as the pending one. An error ends it with a message box; none leaves it.
+    /// Executes `command` as the pending one. An error ends it with a message box; none leaves it. While that box is
+    /// open it stands for the errors of later commands too: boxes over boxes would bury the wizard.
     void msbCmd(std::string command);
 
     /// The window's link-error event. The log text with "LinkError " behind it is to be joined with the number by
@@ -61,6 +62,7 @@ public:
     CommandLog &log() { return m_log; }
 
 private:
+    void tellError();
     void dispatch(const FieldTable &fields);
     void moveWindow(const FieldTable &fields);
     void deleteFile();
@@ -73,6 +75,7 @@ private:
     CommandLog m_log;
     std::deque<std::string> m_waiting;
     std::string PendingCommand;
+    bool m_isTellingError = false;
 };
 
 }  // namespace penwright

@@ -11,7 +11,7 @@ namespace penwright {
 class CommandLog {
 public:
     /// An entry longer than this is cut: a rude host's megabytes would otherwise be kept a thousand times over.
-    static constexpr std::size_t kLongestEntry = 65536;
+    static constexpr std::size_t kLongestEntry = 8192;
 
     static constexpr int kMostEntries = 1000;
 

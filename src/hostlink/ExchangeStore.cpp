@@ -21,24 +21,27 @@ void ExchangeStore::write(std::string_view word, int fileNumber, std::string_vie
 
 std::int16_t ExchangeStore::SaveRecordsToStore(int first, int last, int startFile)
 {
+    // A copy: while the store is locked window events run, and "DATACHANGED" may replace the array. What the caller has
+    // just named and saved is what the host gets.
+    const OneBased<PhotometricRecord> records = m_state.PhotFiles;
     std::int16_t written = 0;
     bool tooMany = false;
     m_services.store.transact([&] {
         written = 0;
         tooMany = false;
         ClearStore();
-        if (m_state.PhotFiles.empty())
+        if (records.empty())
             return;
         int file = startFile;
         for (int index = first; index <= last && !tooMany; ++index, ++file) {
             // The slot goes by the file number, not by the index, and only the index is held against the limit: that is
             // how hosts know it, and the wizard always stores slot 1 as file 1.
-            if (file > m_state.PhotFiles.size()) {
+            if (file > records.size()) {
                 write("Filename", file, "");
             } else if (index > kMaxFiles) {
                 tooMany = true;
             } else {
-                writeRecordTexts(m_state.PhotFiles(file),
+                writeRecordTexts(records(file),
                                  [&](std::string_view word, const std::string &text) { write(word, file, text); });
                 ++written;
             }
@@ -51,9 +54,22 @@ std::int16_t ExchangeStore::SaveRecordsToStore(int first, int last, int startFil
 
 bool ExchangeStore::LoadRecordsFromStore()
 {
-    // One look at the whole section: a host that writes meanwhile must not mix two records. Nothing is changed before
-    // it, because window events may run while it waits for a locked store.
+    return load(readSection());
+}
+
+bool ExchangeStore::loadOrKeepRecords()
+{
     const Values values = readSection();
+    // What the user has entered so far lives in the array that a load replaces.
+    OneBased<PhotometricRecord> before = m_state.PhotFiles;
+    const bool failed = load(values);
+    if (failed)
+        m_state.PhotFiles = std::move(before);
+    return failed;
+}
+
+bool ExchangeStore::load(const Values &values)
+{
     m_problem.clear();
     m_state.start.LoadLimit = std::min<std::int16_t>(m_state.start.LoadLimit, kMaxFiles);
     m_state.PhotFiles.clear();
@@ -74,16 +90,8 @@ bool ExchangeStore::LoadRecordsFromStore()
     return m_state.PhotFiles.empty();
 }
 
-bool ExchangeStore::loadOrKeepRecords()
-{
-    // What the user has entered so far lives in the array that a load replaces.
-    OneBased<PhotometricRecord> before = m_state.PhotFiles;
-    const bool failed = LoadRecordsFromStore();
-    if (failed)
-        m_state.PhotFiles = std::move(before);
-    return failed;
-}
-
+// One look at the whole section: a host that writes meanwhile must not mix two records. It comes before any change,
+// because window events may run while it waits for a locked store.
 ExchangeStore::Values ExchangeStore::readSection()
 {
     Values values;

@@ -18,7 +18,8 @@ public:
     /// Clears the store, then writes records of `PhotFiles` and returns how many it wrote, all in one transaction. For
     /// each index from `first` to `last` the slot that is written is the file number, which counts up from
     /// `startFile`; a file number above the last slot writes an empty "Filename". An index above 25 ends it with a
-    /// message box. Error of the store when it cannot be written.
+    /// message box. What is written is `PhotFiles` as it stands at the call, whatever happens while the store is
+    /// locked. Error of the store when it cannot be written.
     std::int16_t SaveRecordsToStore(int first, int last, int startFile);
 
     /// Replaces `PhotFiles` by the records of file numbers 1 to `LoadLimit` whose "Filename" is not empty. True when
@@ -40,6 +41,7 @@ private:
     using Values = std::unordered_map<std::string, std::string>;
 
     Values readSection();
+    bool load(const Values &values);
     void write(std::string_view word, int fileNumber, std::string_view text);
 
     ToolState &m_state;

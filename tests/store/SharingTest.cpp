@@ -81,6 +81,22 @@ TEST_F(SharingTest, toolNeverLoadsHalfARecordWhileTheHostSaves)
     EXPECT_EQ(host.answer(), "ok");
 }
 
+// While the tool waits for the lock, window events run, and with them the host's "DATACHANGED".
+TEST_F(SharingTest, recordThatWaitsForALockIsNotReplacedByTheHosts)
+{
+    bench.state.PhotFiles(1) = stamped(1);
+    host.sql("BEGIN EXCLUSIVE");
+    bench.store.setBusyWait([this] {
+        bench.state.PhotFiles = {stamped(2)};
+        host.sql("COMMIT");
+        return true;
+    });
+    EXPECT_EQ(exchange.SaveRecordsToStore(1, 1, 1), 1);
+    EXPECT_EQ(bench.state.PhotFiles(1), stamped(2)) << "the lock was never waited for";
+    EXPECT_EQ(bench.value("Filename1"), "1");
+    EXPECT_EQ(bench.value("Candela1"), "1");
+}
+
 TEST_F(SharingTest, everyCommandOfAPoliteHostIsTakenOnceAndInOrder)
 {
     host.tell("polite Inbox 300");

@@ -1,11 +1,13 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <string>
@@ -171,6 +173,16 @@ TEST_F(SaveDialog, isTheToolkitsOwnAndAsksAsTold)
         save.reject();
     });
     EXPECT_EQ(dialogs.chooseSaveName(question()), std::nullopt);
+}
+
+TEST_F(SaveDialog, namesOfThePlacesAreNotCutOff)
+{
+    whenDialogIsUp([](QDialog &dialog) {
+        const auto *places = dialog.findChild<QListView *>("sidebar");
+        EXPECT_GE(places->viewport()->width(), std::min(places->sizeHintForColumn(0), 190));
+        dialog.reject();
+    });
+    dialogs.chooseSaveName(question());
 }
 
 TEST_F(SaveDialog, addsTheSuffixAndReturnsToTheFolderUsedLast)

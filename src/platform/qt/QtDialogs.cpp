@@ -1,9 +1,11 @@
 #include "platform/qt/QtDialogs.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QListView>
 #include <QMessageBox>
 
 #include "platform/qt/Closing.h"
@@ -57,6 +59,19 @@ QString nameFilter(const std::string &filter)
     return text.section('|', 0, 0) + " (" + text.section('|', 1).replace(';', ' ') + ")";
 }
 
+/// The toolkit gives the list of places too little room and scrolls it sideways.
+void widenPlaces(QFileDialog &dialog)
+{
+    constexpr int kMostWidth = 200;
+    auto *places = dialog.findChild<QListView *>("sidebar");
+    if (!places)
+        return;
+    const int needed = places->sizeHintForColumn(0) + 2 * places->frameWidth() + places->spacing();
+    places->setMinimumWidth(std::min(needed, kMostWidth));
+    places->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    places->setTextElideMode(Qt::ElideMiddle);
+}
+
 /// A dialog blocks every window of the program unless it is told to block the one it stands over.
 void blockParentAlone(QDialog &dialog)
 {
@@ -101,6 +116,7 @@ std::optional<std::string> QtDialogs::chooseSaveName(const SaveNameQuestion &que
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setNameFilter(nameFilter(question.filter));
     dialog.setDefaultSuffix(QString::fromStdString(question.defaultSuffix));
+    widenPlaces(dialog);
     blockParentAlone(dialog);
     if (dialog.exec() != QDialog::Accepted || m_closing.isClosing())
         return std::nullopt;

@@ -101,12 +101,24 @@ TEST_F(LinkTest, errorInACommandIsOneMessageBox)
     EXPECT_EQ(window.shownLogs, 1);
 }
 
+// The box runs an event loop of its own, in which commands go on: a rude host must not stack box upon box.
+TEST_F(LinkTest, openErrorBoxStandsForTheErrorsOfLaterCommands)
+{
+    bench.dialogs.onShow = [this](const MessageBox &) { link.msbCmd("MOVEWIN,1E99,0,0,0"); };
+    link.msbCmd("MOVEWIN,1E400,0,0,0");
+    EXPECT_EQ(bench.dialogs.transcript, "[PenwrightPE|0] err in linkExectue.\n");
+    EXPECT_EQ(logged(), "MOVEWIN,1E400,0,0,0\r\nMOVEWIN,1E99,0,0,0\r\n");
+    bench.dialogs.onShow = nullptr;
+    link.msbCmd("MOVEWIN,0,1E99,0,0");
+    EXPECT_EQ(bench.dialogs.transcript, "[PenwrightPE|0] err in linkExectue.\n[PenwrightPE|0] err in linkExectue.\n");
+}
+
 TEST_F(LinkTest, megabytesOfTextAreTakenAndLoggedInPart)
 {
     bench.setValue("PenwrightPE|7", std::string(10'000'000, ','));
     EXPECT_TRUE(link.poll());
     link.execute();
-    EXPECT_EQ(logged().size(), 65536U + 2);
+    EXPECT_EQ(logged().size(), 8192U + 2);
     EXPECT_EQ(window.transcript, "");
 }
 

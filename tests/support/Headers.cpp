@@ -1,0 +1,1 @@
+// Nothing but the headers that are compiled ahead of every test.
