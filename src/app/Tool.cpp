@@ -29,8 +29,10 @@ WizardWindow &Tool::loadWindow()
     m_window = std::make_unique<WizardWindow>(m_state, m_services, WindowServices{m_closing, m_embedding, m_wait});
     WizardWindow &window = *m_window;
     const PageContext context = window.pageContext();
-    window.setPages({new LampPage(context), new TiltPage(context), new KeywordPage(context),
-                     new DistributionPage(context), new CandelaPage(context), new FinishPage(context)},
+    auto *candelaPage = new CandelaPage(context, m_candelaState);
+    auto *distributionPage = new DistributionPage(context, [candelaPage] { candelaPage->lsbStart(); });
+    window.setPages({new LampPage(context), new TiltPage(context), new KeywordPage(context), distributionPage,
+                     candelaPage, new FinishPage(context)},
                     [this] { m_candelaState = {}; });
     m_dialogs.setOwner(&window);
     m_wait.setHeldOff(&window);

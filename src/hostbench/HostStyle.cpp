@@ -1,32 +1,76 @@
 #include "hostbench/HostStyle.h"
 
+#include <QColor>
+
+#include <utility>
+
 namespace penwright {
 
-QString hostStyleSheet()
+namespace {
+
+QString mix(const QColor &over, const QColor &under, float share)
 {
-    return R"(
-QMainWindow, QSplitter { background: #f4f5f7; }
-#toolBar { background: #ffffff; border-bottom: 1px solid #d9dce1; }
-QPushButton { padding: 6px 14px; border: 1px solid #c3c8d0; border-radius: 4px; background: #ffffff; color: #1f2933; }
-QPushButton:hover { background: #eef1f5; }
-QPushButton:focus:active { border-color: #1d5fa8; }
-QPushButton:disabled { color: #9aa3ae; border-color: #e1e4e8; background: #fafbfc; }
+    const auto blend = [share](float a, float b) { return share * a + (1 - share) * b; };
+    return QColor::fromRgbF(blend(over.redF(), under.redF()), blend(over.greenF(), under.greenF()),
+                            blend(over.blueF(), under.blueF()))
+        .name();
+}
+
+constexpr const char *kSheet = R"(
+QMainWindow, QSplitter { background: @window; }
+#toolBar { background: @base; border-bottom: 1px solid @line; }
+QPushButton { padding: 6px 14px; border: 1px solid @border; border-radius: 4px; background: @base; color: @text; }
+QPushButton:hover { background: @hover; }
+QPushButton:focus:active { border-color: @accent; }
+QPushButton:disabled { color: @disabled; border-color: @line; background: @window; }
 QPushButton[primary="true"] { background: #1d5fa8; border-color: #1d5fa8; color: #ffffff; font-weight: bold; }
-QPushButton[primary="true"]:hover, QPushButton[primary="true"]:focus:active { background: #174d88; border-color: #0f3866; }
-QPushButton[primary="true"]:disabled { background: #a9c1dc; border-color: #a9c1dc; }
-QLabel[heading="true"] { font-weight: bold; color: #1f2933; }
-QLabel[quiet="true"] { color: #66717f; }
-QListWidget, QTreeWidget, QPlainTextEdit#fileText { border: 1px solid #d9dce1; background: #ffffff;
-                                              selection-background-color: #1d5fa8; }
+QPushButton[primary="true"]:hover, QPushButton[primary="true"]:focus:active { background: #174d88; border-color: @accent; }
+QPushButton[primary="true"]:disabled { color: @disabled; border-color: @line; background: @window; }
+QLabel[heading="true"] { font-weight: bold; color: @text; }
+QLabel[quiet="true"] { color: @quiet; }
+QListWidget, QTreeWidget, QPlainTextEdit#fileText { border: 1px solid @line; background: @base;
+                                              selection-background-color: #1d5fa8; selection-color: #ffffff; }
 QSplitter::handle { background: transparent; image: none; }
 QTreeWidget::item { padding: 3px; }
-QTreeWidget { alternate-background-color: #f8f9fb; }
-QHeaderView::section { background: #f4f5f7; color: #66717f; border: none; border-bottom: 1px solid #d9dce1;
+QTreeWidget { alternate-background-color: @stripe; }
+QHeaderView::section { background: @window; color: @quiet; border: none; border-bottom: 1px solid @line;
                        padding: 5px 3px; }
-QTabWidget::pane { border: none; border-top: 1px solid #d9dce1; }
-QTabBar::tab { padding: 7px 16px; color: #66717f; border-bottom: 2px solid transparent; }
-QTabBar::tab:selected { color: #1f2933; border-bottom: 2px solid #1d5fa8; }
+QTabWidget::pane { border: none; border-top: 1px solid @line; }
+QTabBar::tab { padding: 7px 16px; color: @quiet; border-bottom: 2px solid transparent; }
+QTabBar::tab:selected { color: @text; border-bottom: 2px solid @accent; }
 )";
+
+}  // namespace
+
+QString hostStyleSheet(const QPalette &palette)
+{
+    const QColor window = palette.color(QPalette::Window);
+    const QColor base = palette.color(QPalette::Base);
+    const QColor text = palette.color(QPalette::WindowText);
+    const bool isDark = base.lightness() < text.lightness();
+    const std::pair<const char *, QString> colours[] = {
+        {"@window", mix(window, base, 0.6F)},
+        {"@base", base.name()},
+        {"@line", mix(text, base, 0.16F)},
+        {"@border", mix(text, base, 0.28F)},
+        {"@hover", mix(text, base, 0.07F)},
+        {"@stripe", mix(text, base, 0.03F)},
+        {"@text", text.name()},
+        {"@quiet", mix(text, base, 0.68F)},
+        {"@disabled", mix(text, base, 0.45F)},
+        {"@accent", isDark ? "#6ea8e6" : "#1d5fa8"},
+    };
+    QString sheet = kSheet;
+    for (const auto &[name, colour] : colours)
+        sheet.replace(name, colour);
+    return sheet;
+}
+
+QColor quietText(const QPalette &palette)
+{
+    QColor quiet = palette.color(QPalette::Text);
+    quiet.setAlphaF(0.6F);
+    return quiet;
 }
 
 }  // namespace penwright

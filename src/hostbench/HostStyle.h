@@ -1,10 +1,15 @@
 #pragma once
 
+#include <QPalette>
 #include <QString>
 
 namespace penwright {
 
-/// The look of the host's window: light, quiet, one colour for the one button that starts things.
-QString hostStyleSheet();
+/// The look of the host's window: quiet, one colour for the one button that starts things. All else is mixed from the
+/// palette, so that it is as legible on dark as on light.
+QString hostStyleSheet(const QPalette &palette);
+
+/// The colour of quiet texts. The palette's own role for it is black in some desktops' dark palettes.
+QColor quietText(const QPalette &palette);
 
 }  // namespace penwright

@@ -1,7 +1,7 @@
 #include "hostbench/HostWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
-#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -24,6 +24,16 @@ namespace {
 /// How long closing tools may take: the wait for a command to be taken, twice.
 constexpr int kClosingLimit = 6000;
 
+/// What a window manager's frame takes of the screen, generously.
+constexpr QSize kFrame{12, 40};
+
+constexpr QSize kComfortableSize{1240, 860};
+
+QSize startSize()
+{
+    return kComfortableSize.boundedTo(QGuiApplication::primaryScreen()->availableSize() - kFrame);
+}
+
 }  // namespace
 
 HostWindow::HostWindow(SettingsStore &store, QString toolProgram, QWidget *parent)
@@ -38,10 +48,10 @@ HostWindow::HostWindow(SettingsStore &store, QString toolProgram, QWidget *paren
     layout->addWidget(makeToolBar());
     layout->addWidget(makeCentre(), 1);
     setCentralWidget(whole);
-    setStyleSheet(hostStyleSheet());
+    followPalette();
     connectButtons();
     enableButtons();
-    resize(QSize(1240, 860).boundedTo(QGuiApplication::primaryScreen()->availableSize()));
+    resize(startSize());
 }
 
 HostWindow::~HostWindow() = default;
@@ -95,13 +105,15 @@ QWidget *HostWindow::makeCentre()
     right->addWidget(m_tabs);
     right->addWidget(m_log);
     right->setStretchFactor(0, 1);
-    right->setSizes({640, 150});
+    // On a small screen the tool gets the room.
+    const bool isSmall = startSize() != kComfortableSize;
+    right->setSizes({640, isSmall ? 90 : 150});
     right->setChildrenCollapsible(false);
     auto *centre = new QSplitter;
     centre->addWidget(m_panel);
     centre->addWidget(right);
     centre->setStretchFactor(1, 1);
-    centre->setSizes({240, 960});
+    centre->setSizes({isSmall ? 190 : 240, 960});
     centre->setChildrenCollapsible(false);
     centre->setContentsMargins(16, 12, 16, 16);
     centre->setHandleWidth(12);
@@ -210,6 +222,26 @@ void HostWindow::removeTool(ToolTab *tab)
     enableButtons();
     if (m_isClosing && m_tools.isEmpty())
         close();
+}
+
+bool HostWindow::event(QEvent *event)
+{
+    const bool isDone = QMainWindow::event(event);
+    // Where a style sheet rules, only the application's change is told.
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange)
+        followPalette();
+    return isDone;
+}
+
+void HostWindow::followPalette()
+{
+    const QString sheet = hostStyleSheet(QApplication::palette());
+    if (sheet == styleSheet())
+        return;  // setting it would be told as a change again
+    setStyleSheet(sheet);
+    QPalette own = m_text->palette();
+    own.setColor(QPalette::PlaceholderText, quietText(QApplication::palette()));
+    m_text->setPalette(own);
 }
 
 void HostWindow::closeEvent(QCloseEvent *event)

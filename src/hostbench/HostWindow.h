@@ -46,6 +46,7 @@ signals:
     void toolEnded(penwright::ToolTab *tab);
 
 protected:
+    bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
 private:
@@ -53,6 +54,7 @@ private:
     QPushButton *addButton(class QHBoxLayout *row, const char *name, const QString &caption, const QString &tip);
     QWidget *makeCentre();
     void connectButtons();
+    void followPalette();
     void storeSelected(ToolTab *tab);
     void sendDeleteFile();
     void take(ToolTab *tab, const ToolCommand &command);

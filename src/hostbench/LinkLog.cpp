@@ -4,6 +4,8 @@
 #include <QHeaderView>
 #include <QTime>
 
+#include "hostbench/HostStyle.h"
+
 namespace penwright {
 
 namespace {
@@ -53,7 +55,7 @@ void LinkLog::append(const QString &tool, LinkWay way, const QString &text)
     line->setToolTip(kText, shown);
     if (way == LinkWay::Note)
         for (int column = kTime; column <= kText; ++column)
-            line->setForeground(column, palette().color(QPalette::PlaceholderText));
+            line->setForeground(column, quietText(palette()));
     addTopLevelItem(line);
     if (topLevelItemCount() > kMostLines)
         delete takeTopLevelItem(0);

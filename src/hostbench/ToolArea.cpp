@@ -7,6 +7,8 @@
 #include <QGuiApplication>
 #include <QPainter>
 
+#include "hostbench/HostStyle.h"
+
 namespace penwright {
 
 ToolArea::ToolArea(QWidget *parent) : QWidget(parent)
@@ -38,7 +40,7 @@ void ToolArea::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());
-    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.setPen(quietText(palette()));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_message);
 }
 

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QPainter>
 
+#include "hostbench/HostStyle.h"
+
 namespace penwright {
 
 namespace {
@@ -21,14 +23,14 @@ void TwoLineDelegate::paint(QPainter *painter, const QStyleOptionViewItem &optio
     const bool isSelected = item.state & QStyle::State_Selected;
     const int line = item.fontMetrics.height();
     const QRect top(item.rect.left() + kMargin, item.rect.top() + kMargin, item.rect.width() - 2 * kMargin, line);
-    const auto draw = [&](const QRect &place, const QString &text, QPalette::ColorRole role) {
-        painter->setPen(item.palette.color(isSelected ? QPalette::HighlightedText : role));
+    const auto draw = [&](const QRect &place, const QString &text, const QColor &colour) {
+        painter->setPen(isSelected ? item.palette.color(QPalette::HighlightedText) : colour);
         painter->drawText(place, Qt::AlignLeft | Qt::AlignVCenter,
                           item.fontMetrics.elidedText(text, item.textElideMode, place.width()));
     };
     painter->save();
-    draw(top, first, QPalette::Text);
-    draw(top.translated(0, line), second, QPalette::PlaceholderText);
+    draw(top, first, item.palette.color(QPalette::Text));
+    draw(top.translated(0, line), second, quietText(item.palette));
     painter->restore();
 }
 

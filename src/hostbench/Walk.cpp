@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <map>
+#include <QClipboard>
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QGuiApplication>
 #include <QScreen>
 #include <QTimer>
 #include <QWindow>
@@ -49,7 +51,6 @@ const std::vector<Walk::Step> Walk::kSteps{
     {"prepare the folder", &Walk::prepareFolder},
     {"show the host's window", &Walk::showHost},
     {"start the tool", &Walk::startTool},
-    {"send the luminaire", &Walk::sendLuminaire},
     {"page 1", &Walk::walkGeneralInfo},
     {"page 2", &Walk::walkTilt},
     {"page 3, back and on", &Walk::walkKeywordsAndBack},
@@ -178,40 +179,52 @@ bool Walk::startTool()
     return waitForPage(1);
 }
 
-bool Walk::sendLuminaire()
+bool Walk::typed(const LuminaireTyper &typer)
 {
-    m_sent = sampleLuminaire();
-    m_window.addFile({m_sent, false});
-    m_window.sendDataChanged();
-    return waitFor([&] { return !m_tab || m_tab->run().link().isAllTaken(); },
-                   QStringLiteral("the tool to take \"DATACHANGED\"")) &&
-           (m_tab || fail(QStringLiteral("the tool has ended")));
+    return typer.problem().isEmpty() || fail(typer.problem());
 }
 
 bool Walk::walkGeneralInfo()
 {
-    // Tab leads from the shape over the units to the tick box for tilt data, which opens page 2.
-    return waitForPage(1) && press(kKeyTab) && press(kKeyTab) && press(kKeySpace) && takePicture(1) && turnTo(2, 'n');
+    m_luminaire = sampleLuminaire();
+    m_luminaire.OptionalData.clear();  // no page takes these two
+    m_luminaire.PictureFilename.clear();
+    LuminaireTyper typer(m_display, m_luminaire);
+    if (!waitForPage(1))
+        return false;
+    typer.typeGeneralInfo();
+    return typed(typer) && takePicture(1) && turnTo(2, 'n');
 }
 
 bool Walk::walkTilt()
 {
-    return takePicture(2) && turnTo(3, 'n');
+    LuminaireTyper typer(m_display, m_luminaire);
+    typer.typeTilt();
+    return typed(typer) && takePicture(2) && turnTo(3, 'n');
 }
 
 bool Walk::walkKeywordsAndBack()
 {
-    return takePicture(3) && turnTo(2, 'b') && turnTo(3, 'n') && turnTo(4, 'n');
+    LuminaireTyper typer(m_display, m_luminaire);
+    typer.typeKeywords();
+    m_luminaire.Keywords(1) += ' ';  // a keyword line is keyword, blank and description, the version line too
+    return typed(typer) && takePicture(3) && turnTo(2, 'b') && turnTo(3, 'n') && turnTo(4, 'n');
 }
 
 bool Walk::walkDistribution()
 {
-    return takePicture(4) && turnTo(5, 'n');
+    LuminaireTyper typer(m_display, m_luminaire);
+    typer.typeDistribution();
+    return typed(typer) && takePicture(4) && turnTo(5, 'n');
 }
 
 bool Walk::walkCandela()
 {
-    return takePicture(5) && turnTo(6, 'n');
+    // The table comes from another program, as one comes from a spreadsheet.
+    QGuiApplication::clipboard()->setText(LuminaireTyper::candelaTable(m_luminaire));
+    LuminaireTyper typer(m_display, m_luminaire);
+    typer.pasteCandelas();
+    return typed(typer) && takePicture(5) && turnTo(6, 'n');
 }
 
 bool Walk::showComplete()
@@ -241,7 +254,7 @@ bool Walk::checkRecord()
     if (m_taken.front() != ToolCommand{ToolWord::SendNewDataClose, std::string(kToolName), tag})
         return fail(QStringLiteral("the command is not \"SendNewDataClose,\" with the tool's name and tag"));
     const HeldFile &file = m_window.files().at(m_window.files().count() - 1);
-    PhotometricRecord expected = m_sent;
+    PhotometricRecord expected = m_luminaire;
     expected.Filename = iesPath().toStdString();
     if (!file.isSaved || file.record.Filename != expected.Filename)
         return fail(QStringLiteral("it is named \"%1\"").arg(QString::fromStdString(file.record.Filename)));
@@ -254,8 +267,8 @@ bool Walk::checkFile()
     QFile file(iesPath());
     if (!file.open(QIODevice::ReadOnly))
         return fail(QStringLiteral("cannot read %1: %2").arg(iesPath(), file.errorString()));
-    if (file.readAll() != QByteArray::fromStdString(iesFileText(m_sent)))
-        return fail(QStringLiteral("%1 does not hold the text of the record sent").arg(iesPath()));
+    if (file.readAll() != QByteArray::fromStdString(iesFileText(m_luminaire)))
+        return fail(QStringLiteral("%1 does not hold the text of the luminaire typed").arg(iesPath()));
     m_left.prepend(iesPath());
     return true;
 }

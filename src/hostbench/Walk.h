@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/PhotometricRecord.h"
+#include "hostbench/LuminaireTyper.h"
 #include "hostbench/ToolTab.h"
 #include "hostbench/XDisplay.h"
 
@@ -15,8 +16,9 @@ namespace penwright {
 
 class HostWindow;
 
-/// One whole path without a user: a luminaire goes to the tool, real keys walk through its pages and save it, and what
-/// comes back is checked. Leaves "luminaire.ies" and "page-1.png" to "page-6.png" in a folder. Ends within a minute.
+/// One whole path without a user: real keys type a whole luminaire into the wizard's pages, its candelas pasted from
+/// this process' clipboard, and save it, and what comes back is checked. Leaves "luminaire.ies" and "page-1.png" to
+/// "page-6.png" in a folder. Ends within a minute.
 class Walk {
 public:
     /// `folder` is absolute; it is made when it is not there.
@@ -38,9 +40,9 @@ private:
     bool prepareFolder();
     bool showHost();
     bool startTool();
-    bool sendLuminaire();
     bool walkGeneralInfo();
     bool walkTilt();
+    bool typed(const LuminaireTyper &typer);
     bool walkKeywordsAndBack();
     bool walkDistribution();
     bool walkCandela();
@@ -65,7 +67,7 @@ private:
     XDisplay m_display;
     QDeadlineTimer m_deadline{60'000};
     QPointer<ToolTab> m_tab;
-    PhotometricRecord m_sent;
+    PhotometricRecord m_luminaire;
     std::vector<ToolCommand> m_taken;
     bool m_hasEnded = false;
     int m_exitStatus = -1;

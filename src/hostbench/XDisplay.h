@@ -64,7 +64,11 @@ private:
 inline constexpr std::uint32_t kKeyTab = 0xff09;
 inline constexpr std::uint32_t kKeyReturn = 0xff0d;
 inline constexpr std::uint32_t kKeyShift = 0xffe1;
+inline constexpr std::uint32_t kKeyControl = 0xffe3;
 inline constexpr std::uint32_t kKeyAlt = 0xffe9;
+inline constexpr std::uint32_t kKeyUp = 0xff52;
+inline constexpr std::uint32_t kKeyRight = 0xff53;
+inline constexpr std::uint32_t kKeyDown = 0xff54;
 inline constexpr std::uint32_t kKeySpace = 0x20;
 
 }  // namespace penwright

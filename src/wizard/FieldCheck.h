@@ -28,7 +28,7 @@ auto convertField(WarningList &dlgWarn, std::string_view caption, const Conversi
     try {
         return convert();
     } catch (const RunTimeError &error) {
-        dlgWarn.noteFault();
+        dlgWarn.noteError();
         throw RunTimeError(error.number(), std::string(caption) + ": " + error.description(), error.source());
     }
 }

@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -152,7 +151,7 @@ void PageFrame::onClick(QAbstractButton *button, const Handler &handler)
 void PageFrame::keyPressEvent(QKeyEvent *event)
 {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && qobject_cast<QLineEdit *>(focusWidget()))
+    if (isEnter)
         m_next->click();
     else
         QFrame::keyPressEvent(event);

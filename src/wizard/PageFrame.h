@@ -90,7 +90,7 @@ protected:
     const Services &services() const { return m_context.services; }
     Navigator &navigator() const { return m_context.navigator; }
 
-    /// Enter in a text box presses Next.
+    /// Enter presses Next wherever it has no use of its own, as it has in grids, open lists and on the other buttons.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:

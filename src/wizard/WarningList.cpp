@@ -5,7 +5,8 @@ namespace penwright {
 void WarningList::Add(std::string_view entry)
 {
     m_text.append(entry).append("\r\n");
-    noteFault();
+    if (!m_firstFault)
+        m_firstFault = m_place;
 }
 
 void WarningList::Clear()
@@ -15,10 +16,9 @@ void WarningList::Clear()
     m_firstFault.reset();
 }
 
-void WarningList::noteFault()
+void WarningList::noteError()
 {
-    if (!m_firstFault)
-        m_firstFault = m_place;
+    m_firstFault = m_place;
 }
 
 }  // namespace penwright

@@ -27,10 +27,11 @@ public:
     /// Tells the place that the checks from here on look at.
     void lookAt(const FaultPlace &place) { m_place = place; }
 
-    /// Counts the place looked at as faulty though there is no entry for it: its check or conversion raised an error.
-    void noteFault();
+    /// The check or conversion of the place looked at raised an error: its message is shown instead of the list, so
+    /// that this place counts as the first fault.
+    void noteError();
 
-    /// The place of the first entry or noted fault since the last Clear; nothing when no place was told.
+    /// The place of the noted error or the first entry since the last Clear; nothing when no place was told.
     const std::optional<FaultPlace> &firstFault() const { return m_firstFault; }
 
 private:

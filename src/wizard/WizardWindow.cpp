@@ -15,6 +15,7 @@
 #include "platform/HelpViewer.h"
 #include "platform/HostEmbedding.h"
 #include "platform/qt/Closing.h"
+#include "platform/qt/Placeholder.h"
 #include "platform/qt/QtEventWait.h"
 #include "platform/qt/X11Embedding.h"
 #include "wizard/HandlerGuard.h"
@@ -39,6 +40,7 @@ WizardWindow::WizardWindow(ToolState &state, const Services &services, const Win
     setObjectName("frmSample");
     setWindowTitle("New Photometric File");
     resize(kDesignSize);
+    makePlaceholdersLegible(*this);
     makeLayout();
     makeHiddenBoxes();
     m_dlgWarn = new WarningDialog(m_window.closing, this);
@@ -208,6 +210,13 @@ void WizardWindow::keyPressEvent(QKeyEvent *event)
         guarded([this] { ShowHelp(kPages[static_cast<std::size_t>(m_shownPage)].helpId); });
     else
         QWidget::keyPressEvent(event);
+}
+
+void WizardWindow::changeEvent(QEvent *event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange)
+        makePlaceholdersLegible(*this);
 }
 
 void WizardWindow::closeEvent(QCloseEvent *event)

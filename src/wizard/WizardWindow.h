@@ -79,6 +79,8 @@ protected:
     /// Escape asks the cancel question, F1 is the page's Help button. Open lists, editors and menus take theirs first.
     void keyPressEvent(QKeyEvent *event) override;
 
+    void changeEvent(QEvent *event) override;
+
     /// The window's own close button asks the cancel question.
     void closeEvent(QCloseEvent *event) override;
 

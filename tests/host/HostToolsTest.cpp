@@ -3,11 +3,13 @@
 
 #include <memory>
 #include <QApplication>
+#include <QClipboard>
 #include <QPushButton>
 #include <QTest>
 #include <QTreeWidget>
 
 #include "hostbench/HostWindow.h"
+#include "hostbench/LuminaireTyper.h"
 #include "hostbench/SampleLuminaire.h"
 #include "hostbench/XDisplay.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
@@ -45,13 +47,32 @@ protected:
         return tab;
     }
 
+    /// Gives page 1 of the wizard that has the focus values that pass its checks; its first shape is a point.
+    void typeGeneralInfo()
+    {
+        for (int field = 0; field < 5; ++field) {
+            m_display.pressKey('1');
+            m_display.pressKey(kKeyTab);
+        }
+        m_display.pressKey(kKeyDown);
+    }
+
     /// Alt+N until the last page of the wizard that has the focus.
     bool walkToLastPage()
     {
-        for (int page = 1; page <= 6; ++page) {
+        for (const int page : {1, 3, 4, 5, 6}) {  // tilt information is not included
             const QString before = m_display.focusedTitle();
             if (before == kLastPage)
                 return true;
+            if (before == kFirstPage)
+                typeGeneralInfo();
+            LuminaireTyper typer(m_display, m_luminaire);
+            if (page == 4)
+                typer.typeDistribution();
+            if (page == 5) {
+                QGuiApplication::clipboard()->setText(LuminaireTyper::candelaTable(m_luminaire));
+                typer.pasteCandelas();
+            }
             m_display.pressKey('n', kKeyAlt);
             if (!waitFor([&] { return m_display.focusedTitle() != before; }))
                 return false;
@@ -67,6 +88,7 @@ protected:
     SqliteSettingsStore m_store{SqliteSettingsStore::userPath()};
     HostWindow m_window{m_store, PENWRIGHT};
     XDisplay m_display;
+    const PhotometricRecord m_luminaire = sampleLuminaire();
 };
 
 TEST_F(HostToolsTest, theWizardFillsItsPlaceToThePixel)
@@ -89,6 +111,7 @@ TEST_F(HostToolsTest, twoToolsRunSideBySideAndEndByThemselves)
     ToolTab *two = startAndShow();
     EXPECT_TRUE(shows(one, kFirstPage));
     EXPECT_NE(one->run().processId(), two->run().processId());
+    typeGeneralInfo();
     m_display.pressKey('n', kKeyAlt);
     EXPECT_TRUE(waitFor([&] { return !shows(two, kFirstPage); }));
     EXPECT_TRUE(shows(one, kFirstPage));
@@ -101,14 +124,18 @@ TEST_F(HostToolsTest, twoToolsRunSideBySideAndEndByThemselves)
 
 TEST_F(HostToolsTest, anUnnamedFileComesBackAndIsHeld)
 {
-    startAndShow();
-    m_window.addFile({sampleLuminaire(), false});
+    ToolTab *tab = startAndShow();
+    m_window.addFile({m_luminaire, false});
     m_window.sendDataChanged();
+    ASSERT_TRUE(waitFor([&] { return tab->run().link().isAllTaken(); }));
     ASSERT_TRUE(walkToLastPage());
     m_display.pressKey(kKeySpace);
     ASSERT_TRUE(waitForToolCount(0));
     ASSERT_EQ(m_window.files().count(), 2);
-    EXPECT_EQ(m_window.files().at(1).record.Filename, "new_file_1");
+    const PhotometricRecord &back = m_window.files().at(1).record;
+    EXPECT_EQ(back.Filename, "new_file_1");
+    EXPECT_EQ(back.OptionalData, m_luminaire.OptionalData);
+    EXPECT_EQ(back.HorAngles, m_luminaire.HorAngles);
     EXPECT_FALSE(m_window.files().at(1).isSaved);
 }
 

@@ -307,6 +307,25 @@ TEST_F(HostWindowTest, aToolThatDoesNotCloseDoesNotKeepTheWindow)
     EXPECT_TRUE(logged().contains("Died"));
 }
 
+TEST_F(HostWindowTest, itsListsAndTextFollowThePalette)
+{
+    const auto background = [this](const char *name) {
+        const auto *area = m_window->findChild<QAbstractScrollArea *>(name);
+        return area->viewport()->grab().toImage().pixelColor(area->viewport()->rect().center()).lightness();
+    };
+    const QPalette light = QApplication::palette();
+    QPalette dark(Qt::darkGray, Qt::black);
+    dark.setColor(QPalette::PlaceholderText, Qt::black);  // as some desktops' dark palettes have it
+    QApplication::setPalette(dark);
+    for (const char *name : {"fileList", "linkLog", "fileText"})
+        EXPECT_TRUE(QTest::qWaitFor([&] { return background(name) < 60; }, 20'000)) << name;
+    const auto *text = m_window->findChild<QPlainTextEdit *>("fileText");
+    EXPECT_GT(text->palette().color(QPalette::PlaceholderText).lightness(), 180);
+    QApplication::setPalette(light);
+    for (const char *name : {"fileList", "linkLog", "fileText"})
+        EXPECT_TRUE(QTest::qWaitFor([&] { return background(name) > 200; }, 20'000)) << name;
+}
+
 }  // namespace
 }  // namespace penwright
 

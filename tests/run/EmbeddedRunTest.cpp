@@ -16,26 +16,37 @@ const std::vector<std::string> kCaptions{
     "New Photometric file: (6 of 6) Complete!",
 };
 
-PhotometricRecord smallRecord()
+/// What no page takes, so that it comes from the host alone.
+PhotometricRecord hostsRecord()
 {
     PhotometricRecord record;
     record.Filename = "from the host.ies";
-    record.Keywords = {"IESNA:LM-63-2002", "[TEST] 1"};
+    record.PictureFilename = "lamp.png";
+    record.OptionalData = "free text";
+    return record;
+}
+
+/// What `walkToTheEnd` makes of the host's record: page 3 shows the built-in block of keywords.
+PhotometricRecord typedRecord()
+{
+    PhotometricRecord record = hostsRecord();
+    record.Keywords = {"IESNA:LM-63-2002 ", "[TEST] ",      "[TESTLAB] ", "[ISSUEDATE] ", "[MANUFAC] ",
+                       "[LUMCAT] ",         "[LUMINAIRE] ", "[LAMPCAT] ", "[LAMP] "};
     record.NumLamps = 1;
     record.LumensPerLamp = 1000;
     record.CandelaMultiplier = 1;
-    record.NumVertAngles = 2;
-    record.NumHorzAngles = 1;
-    record.PhotometricType = kTypeC;
-    record.UnitsType = kMeters;
-    record.Width = 0.5F;
     record.BallastFactor = 1;
     record.InputWatts = 42;
-    record.VertAngles = {0, 90};
+    record.Width = 0.5F;
+    record.UnitsType = kMeters;
+    record.PhotometricType = kTypeC;
+    record.VertAngles = {0, 10, 20, 30, 40, 50, 60, 70, 80, 90};
+    record.NumVertAngles = 10;
     record.HorAngles = {0};
-    record.Candela.reset(1, 2);
-    record.Candela(1, 1) = 1234.5;
-    record.Candela(1, 2) = 0.25;
+    record.NumHorzAngles = 1;
+    record.Candela.reset(1, 10);
+    for (int v = 1; v <= 10; ++v)
+        record.Candela(1, v) = static_cast<float>(v) + 0.5;
     return record;
 }
 
@@ -75,13 +86,36 @@ protected:
                          [this](std::string_view word, std::string text) { write(recordValueName(word, 1), text); });
         send("DATACHANGED");
     }
-    void walkToTheEnd()
+    /// A shape is left unchosen.
+    void typeGeneralInfo()
     {
         ASSERT_TRUE(shows(0));
-        for (const int page : {2, 3, 4, 5}) {
-            typeKeys({"alt+n"});
-            ASSERT_TRUE(shows(page));
-        }
+        xdotool({"type", "--delay", "1", "1\t1000\t1\t1\t42\t\t0.5\t0\t0\t"});
+        typeKeys({"Right"});  // meters
+    }
+    /// Type C with the first entry of both lists.
+    void typeDistribution() { typeKeys({"space", "Tab", "Down", "Tab", "ctrl+Tab", "Down"}); }
+    void typeCandelas()
+    {
+        std::vector<std::string> keys;
+        for (int v = 1; v <= 10; ++v)
+            keys.insert(keys.end(), {std::to_string(v / 10), std::to_string(v % 10), "period", "5", "Return"});
+        typeKeys(keys);
+    }
+    void turnTo(int page)
+    {
+        typeKeys({"alt+n"});
+        ASSERT_TRUE(shows(page)) << "the page shown is " << caption();
+    }
+    void walkToTheEnd()
+    {
+        typeGeneralInfo();
+        turnTo(2);
+        turnTo(3);
+        typeDistribution();
+        turnTo(4);
+        typeCandelas();
+        turnTo(5);
     }
     PhotometricRecord storedRecord()
     {
@@ -141,12 +175,11 @@ TEST_F(EmbeddedRun, placeBeforeStartIsKept)
 TEST_F(EmbeddedRun, wholePathFromTheHostsRecordToTheFileHandedOver)
 {
     startWizard();
-    const PhotometricRecord sent = smallRecord();
-    sendRecord(sent);
+    sendRecord(hostsRecord());
     walkToTheEnd();
     typeKeys({"space"});
     EXPECT_EQ(take(), "SendNewDataClose*,PenwrightPE,7");
-    PhotometricRecord expected = sent;
+    PhotometricRecord expected = typedRecord();
     expected.Filename = "new_file_4";
     EXPECT_EQ(storedRecord(), expected);
     EXPECT_FALSE(tool().hasEnded());
@@ -157,14 +190,14 @@ TEST_F(EmbeddedRun, wholePathFromTheHostsRecordToTheFileHandedOver)
 TEST_F(EmbeddedRun, halfARecordLeavesWhatWasThere)
 {
     startWizard();
-    const PhotometricRecord sent = smallRecord();
-    sendRecord(sent);
-    write("Candela1", "1");
+    sendRecord(hostsRecord());
+    write("OptionalData1", "half of another");
+    write("VertAngles1", "3,0");
     send("DATACHANGED");
     walkToTheEnd();
     typeKeys({"space"});
     EXPECT_EQ(take(), "SendNewDataClose*,PenwrightPE,7");
-    EXPECT_EQ(storedRecord().Candela, sent.Candela);
+    EXPECT_EQ(storedRecord().OptionalData, "free text");
     send("CLOSE");
     expectUnloaded();
 }
@@ -172,7 +205,6 @@ TEST_F(EmbeddedRun, halfARecordLeavesWhatWasThere)
 TEST_F(EmbeddedRun, savedFileIsOnDiskUnderTheTypedName)
 {
     startWizard();
-    sendRecord(smallRecord());
     walkToTheEnd();
     typeKeys({"Tab", "space"});
     const std::string window = windowTitled("Save New Photometric file As...");
@@ -202,6 +234,7 @@ TEST_F(EmbeddedRun, escapeAndNoGoOn)
     typeKeys({"Escape"});
     ASSERT_TRUE(pressIn("Canceling New File Wizard", {"n"}));
     ASSERT_TRUE(waitUntil([this] { return display.focus() == wizard(); }));
+    typeGeneralInfo();
     typeKeys({"alt+n"});
     EXPECT_TRUE(shows(2));
     EXPECT_EQ(hostInbox(), "");
@@ -223,6 +256,15 @@ TEST_F(EmbeddedRun, closeEndsItUnderAMessage)
     startWizard();
     typeKeys({"F1"});
     ASSERT_NE(windowTitled("PenwrightPE"), "");
+    send("CLOSE");
+    expectUnloaded();
+}
+
+TEST_F(EmbeddedRun, closeEndsItUnderTheWarnings)
+{
+    startWizard();
+    typeKeys({"alt+n"});
+    ASSERT_NE(windowTitled("Data incomplete!"), "");
     send("CLOSE");
     expectUnloaded();
 }

@@ -1,3 +1,4 @@
+#include "hostlink/RecordText.h"
 #include "run/RunTest.h"
 
 namespace penwright::test {
@@ -68,6 +69,17 @@ TEST_F(LinkRun, commandsWhileItUnloadsAreTakenAndIgnored)
     EXPECT_EQ(hostInbox(), "");
 }
 
+TEST_F(LinkRun, storeLockedForGoodDoesNotKeepItAlive)
+{
+    send("START");
+    store().transact([this] {
+        write("a value", "that keeps the store locked");
+        tool().signal(SIGTERM);
+        EXPECT_EQ(tool().waitForEnd(), 0);
+    });
+    EXPECT_EQ(hostInbox(), "");
+}
+
 TEST_F(LinkRun, commandEveryTenMillisecondsDoesNoHarm)
 {
     const std::vector<std::string> commands{"START", "MOVEWIN,5,5,700,500", "DATACHANGED", "x", "DELETEFILE,y"};
@@ -93,10 +105,27 @@ TEST_F(LinkRun, binaryRubbishDoesNoHarm)
 {
     std::string rubbish;
     for (int round = 0; round < 200; ++round)
-        for (int byte = 1; byte < 256; ++byte)
-            rubbish.push_back(static_cast<char>(byte * (round + 1) % 255 + 1));
+        for (int byte = 0; byte < 256; ++byte)
+            rubbish.push_back(static_cast<char>(byte * (round + 1) % 256));
     send(rubbish);
     send("DELETEFILE," + rubbish);
+    send("MOVEWIN," + rubbish);
+    for (const std::string_view word : kRecordWords)
+        write(recordValueName(word, 1), rubbish);
+    send("DATACHANGED");
+    send("CLOSE");
+    expectUnloaded();
+}
+
+TEST_F(LinkRun, numbersBeyondAllBoundsDoNoHarm)
+{
+    // Each ends in the same box of the executor; one stands for all, and "CLOSE" takes it away.
+    for (int i = 0; i < 50; ++i)
+        send("MOVEWIN,1E400,-1E400,99999999999999999999," + std::string(1000, '9'));
+    write("Filename1", "a.ies");
+    for (const char *name : {"VertAngles1", "HorAngles1"})
+        write(name, "32767,1E400");
+    send("DATACHANGED");
     send("CLOSE");
     expectUnloaded();
 }
@@ -109,6 +138,31 @@ TEST_F(LinkRun, halfARecordDoesNoHarm)
     write("Candela1", "1,2,nonsense");
     send("DATACHANGED");
     send("CLOSE");
+    expectUnloaded();
+}
+
+/// The tool in a world where no file of its own may grow beyond 200 KB.
+class NarrowRun : public RunTest {
+protected:
+    void SetUp() override { start({"123,1,HostBox,7,24,Sec"}, "offscreen", {"prlimit", "--fsize=200000"}); }
+
+    /// Empties the journal, so that writing goes on at its beginning.
+    bool checkpoint()
+    {
+        return waitUntil([this] {
+            return Process({"sqlite3", storePath(), "PRAGMA wal_checkpoint(TRUNCATE)"}).readAll().substr(0, 2) == "0|";
+        });
+    }
+};
+
+TEST_F(NarrowRun, storeThatCannotGrowLeavesTheCommandUntilItCan)
+{
+    send("START");
+    write("large", std::string(300'000, 'x'));
+    write("PenwrightPE|7", "CLOSE");
+    // Several polls, each of which fails.
+    EXPECT_FALSE(waitUntil([this] { return inbox().empty() || tool().hasEnded(); }, 500ms));
+    ASSERT_TRUE(checkpoint());
     expectUnloaded();
 }
 

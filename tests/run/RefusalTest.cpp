@@ -1,3 +1,4 @@
+#include <sys/stat.h>
 #include <unistd.h>
 #include <filesystem>
 #include <fstream>
@@ -37,6 +38,19 @@ TEST_P(WithoutHost, isRefusedInABoxAndOnStderr)
     ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
     EXPECT_EQ(tool().waitForEnd(), 1);
     EXPECT_EQ(tool().readAll(), kNotDirectly + GetParam().shown + "\n");
+}
+
+using Unheard = RunTest;
+
+// A host may have closed its end of the pipe, or be gone.
+TEST_F(Unheard, refusalIsShownAllTheSame)
+{
+    std::filesystem::create_directories(config());
+    const std::string pipe = config() + "/stderr";
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
+    start({}, "xcb", {"sh", "-c", "exec 3<>\"$0\" 2>\"$0\" 3<&-; exec \"$@\"", pipe});
+    ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
+    EXPECT_EQ(tool().waitForEnd(), 1);
 }
 
 class TooMany : public RunTest {};
@@ -89,12 +103,72 @@ protected:
         EXPECT_NE(output.find(message), std::string::npos) << output;
     }
     void makeFolder() { std::filesystem::create_directories(config() + "/Lumentor"); }
+
+    /// Opens the folders on the way to the store to all users.
+    void letOthersIn()
+    {
+        std::filesystem::path folder = storePath();
+        for (int level = 0; level < 3; ++level) {
+            folder = folder.parent_path();
+            std::filesystem::permissions(folder, std::filesystem::perms(0755));
+        }
+    }
+
+    /// For root every file is open, so that another user has to try.
+    static std::vector<std::string> asSomebody()
+    {
+        if (geteuid() != 0)
+            return {};
+        return {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"};
+    }
 };
 
 TEST_F(Fatal, numberBeyondItsFieldOverflows)
 {
     start({"99999999999,1,HostBox,7,3,Sec"}, "xcb");
     expectDied("died in sub Main. reason: #6 Msg:Overflow\n");
+}
+
+TEST_F(Fatal, sleepIntervalBeyondASingleOverflows)
+{
+    store().write("Lumentor_PE", "Lumentor_PE", "SleepIntervalDE", "1E39");
+    start({"123,1,HostBox,7,3,Sec"}, "xcb");
+    expectDied("died in sub Main. reason: #6 Msg:Overflow\n");
+}
+
+TEST_F(Fatal, signalDismissesTheMessageAndTheStatusIsTheSame)
+{
+    start({"99999999999,1,HostBox,7,3,Sec"}, "xcb");
+    ASSERT_NE(windowTitled("PenwrightPE"), "");
+    tool().signal(SIGTERM);
+    EXPECT_EQ(tool().waitForEnd(), 1);
+    EXPECT_EQ(tool().readAll(), "died in sub Main. reason: #6 Msg:Overflow\n");
+}
+
+TEST_F(Fatal, storeThatIsLockedIsNamed)
+{
+    store().write("a", "b", "c", "d");
+    closeStore();
+    Process host({"sqlite3", storePath()});
+    const std::string isLocked = config() + "/is locked";
+    for (const std::string line : {"PRAGMA locking_mode = EXCLUSIVE;", "BEGIN EXCLUSIVE;", "DELETE FROM setting;"})
+        host.writeLine(line);
+    host.writeLine(".system touch '" + isLocked + "'");
+    ASSERT_TRUE(waitUntil([&] { return std::filesystem::exists(isLocked); }));
+    start({"123,1,HostBox,7,3,Sec"}, "xcb");
+    expectDied("died in sub Main. reason: #55 Msg:" + storePath() + ": database is locked\n");
+}
+
+TEST_F(Fatal, storeThatIsReadOnlyIsNamedAndLeftAsItIs)
+{
+    store().write("a", "b", "c", "d");
+    closeStore();
+    letOthersIn();
+    std::filesystem::permissions(storePath(), std::filesystem::perms(0444));
+    const std::string before = contentOf(storePath());
+    start({"123,1,HostBox,7,3,Sec"}, "xcb", asSomebody());
+    expectDied("died in sub Main. reason: #75 Msg:" + storePath() + ": the file is read-only\n");
+    EXPECT_EQ(contentOf(storePath()), before);
 }
 
 TEST_F(Fatal, storeThatIsNoDatabaseIsNamedAndLeftAsItIs)
@@ -144,13 +218,10 @@ TEST_F(Fatal, storeInAFolderThatIsAFileIsNamed)
 TEST_F(Fatal, storeInAFolderThatMayNotBeReadIsNamed)
 {
     makeFolder();
+    letOthersIn();
     const std::filesystem::path folder = std::filesystem::path(storePath()).parent_path();
     std::filesystem::permissions(folder, std::filesystem::perms::none);
-    // For root every folder is open, so that another user has to try.
-    std::vector<std::string> asSomebody;
-    if (geteuid() == 0)
-        asSomebody = {"setpriv", "--reuid=65534", "--regid=65534", "--clear-groups"};
-    start({"123,1,HostBox,7,3,Sec"}, "xcb", asSomebody);
+    start({"123,1,HostBox,7,3,Sec"}, "xcb", asSomebody());
     expectDied("died in sub Main. reason: #70 Msg:" + storePath());
     std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
 }

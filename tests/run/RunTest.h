@@ -41,6 +41,8 @@ protected:
         return *m_store;
     }
 
+    void closeStore() { m_store.reset(); }
+
     std::string inbox() { return store().read("Lumentor_PE", "Sec", "PenwrightPE|7"); }
     std::string hostInbox() { return store().read("Lumentor_PE", "Sec", "HostBox"); }
     void write(const std::string &name, const std::string &data) { store().write("Lumentor_PE", "Sec", name, data); }

@@ -27,6 +27,8 @@ public:
     std::optional<std::string> chooseSaveName(const SaveNameQuestion &question) override
     {
         transcript += "[save|" + question.title + "|" + question.filter + "|" + question.defaultSuffix + "]\n";
+        if (onAskName)
+            onAskName();
         if (names.empty())
             return std::nullopt;
         const std::optional<std::string> name = names.front();
@@ -38,6 +40,7 @@ public:
     std::deque<Answer> answers;
     std::deque<std::optional<std::string>> names;
     std::function<void(const MessageBox &)> onShow;
+    std::function<void()> onAskName;
 };
 
 }  // namespace penwright::test

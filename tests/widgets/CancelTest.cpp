@@ -36,7 +36,7 @@ TEST_F(Cancel, yesOfAToolThatIsNotEmbeddedTellsTheHostAndEnds)
 TEST_F(Cancel, noStaysWhereItIs)
 {
     startWizard();
-    click("cmdNext10");
+    window->ShowPage(kKeywordPage);
     dialogs.answers = {Answer::No};
     click("cmdCancel20");
     EXPECT_EQ(dialogs.transcript, kQuestion);
@@ -57,7 +57,8 @@ TEST_F(Cancel, noOfAToolThatIsNotEmbeddedEndsItUntold)
 TEST_F(Cancel, escapeAsksFromEveryControlOfAPage)
 {
     startWizard();
-    for (const std::string name : {"lmpCmbShape", "rdoFeet", "chkIncludeTilt", "cmdHelp10", "cmdNext10"}) {
+    for (const std::string name :
+         {"txtNumLamps", "lmpCmbShape", "rdoFeet", "chkIncludeTilt", "cmdHelp10", "cmdNext10"}) {
         dialogs.transcript.clear();
         dialogs.answers = {Answer::No};
         find(name)->setFocus();

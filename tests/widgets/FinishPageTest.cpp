@@ -69,6 +69,16 @@ TEST_F(Finish, quietLinesFollowThePalette)
     EXPECT_EQ(lightness(), onLight);
 }
 
+TEST_F(Finish, buttonsKeepACalmWidthInAWideHostAndTheirLabelsAlign)
+{
+    window->resize(1600, 900);
+    QCoreApplication::processEvents();
+    for (const char *button : {"cmdUnname", "cmdSaveAs"})
+        EXPECT_EQ(find(button)->width(), 220) << button;
+    EXPECT_EQ(find("Label80b")->x(), find("Label80c")->x());
+    EXPECT_LT(find("Label80b")->x(), 260);
+}
+
 TEST_F(Finish, labelsAreBuddiesOfTheirButtons)
 {
     EXPECT_EQ(find<QLabel>("Label80b")->buddy(), find("cmdUnname"));

@@ -1,5 +1,9 @@
 #include "widgets/WizardTest.h"
 
+#include <cerrno>
+
+#include "wizard/WarningDialog.h"
+
 namespace penwright::test {
 namespace {
 
@@ -131,6 +135,136 @@ TEST_F(Link, closeIsObeyedUnderTheMessageOfAnEarlierCommand)
     EXPECT_EQ(runUntilEnd(), 0);
     EXPECT_EQ(taken, std::vector<std::string>{"CloseRemove,PenwrightPE,7"});
 }
+
+/// Something open over the wizard, or nothing, with what makes it so.
+struct Situation {
+    std::string name;
+    std::function<void(WizardWindow &)> open;
+    friend void PrintTo(const Situation &situation, std::ostream *out) { *out << situation.name; }
+};
+
+void press(WizardWindow &window, const char *button)
+{
+    window.findChild<QPushButton *>(button)->click();
+}
+
+void saveAs(WizardWindow &window)
+{
+    window.ShowPage(kFinishPage);
+    press(window, "cmdSaveAs");
+}
+
+/// Chooses a name in the save dialog once it is there, so that the box about the failure follows.
+void saveAsWhatCannotBeWritten(WizardWindow &window)
+{
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&look] {
+        if (auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget())) {
+            look.stop();
+            dialog->findChild<QLineEdit *>("fileNameEdit")->setText("/full/a.ies");
+            static_cast<QDialog *>(dialog)->accept();
+        }
+    });
+    look.start(5);
+    saveAs(window);
+}
+
+const Situation kSituations[] = {
+    {"hidden", [](WizardWindow &window) { window.hide(); }},
+    {"page1", [](WizardWindow &window) { window.ShowPage(0); }},
+    {"page2", [](WizardWindow &window) { window.ShowPage(1); }},
+    {"page3", [](WizardWindow &window) { window.ShowPage(2); }},
+    {"page4", [](WizardWindow &window) { window.ShowPage(3); }},
+    {"page5", [](WizardWindow &window) { window.ShowPage(4); }},
+    {"page6", [](WizardWindow &window) { window.ShowPage(5); }},
+    {"list", [](WizardWindow &window) { window.findChild<QComboBox *>("lmpCmbShape")->showPopup(); }},
+    {"menu",
+     [](WizardWindow &window) {
+         QMenu menu(&window);
+         menu.addAction("entry");
+         menu.exec();
+     }},
+    {"cancelQuestion", [](WizardWindow &window) { press(window, "cmdCancel"); }},
+    {"warnings",
+     [](WizardWindow &window) {
+         window.dlgWarn().Add("a warning");
+         window.dlgWarn().showModal();
+     }},
+    {"saveDialog", saveAs},
+    {"retryBox", saveAsWhatCannotBeWritten},
+    {"post",
+     [](WizardWindow &window) {
+         window.ShowPage(kFinishPage);
+         press(window, "cmdUnname");
+     }},
+};
+
+enum class End { Close, HostGone };
+
+class LinkEnds : public WizardTest, public testing::WithParamInterface<std::tuple<Situation, End>> {
+protected:
+    /// Whether the situation has come about.
+    bool isThere(const std::string &name)
+    {
+        QWidget *modal = QApplication::activeModalWidget();
+        if (name == "retryBox")
+            return qobject_cast<QMessageBox *>(modal) && modal->windowTitle() == "Error saving /full/a.ies";
+        if (name == "saveDialog")
+            return modal && modal->objectName() == "commonDialog";
+        if (name == "warnings")
+            return modal == &window->dlgWarn();
+        if (name == "cancelQuestion")
+            return modal && modal->windowTitle() == "Canceling New File Wizard";
+        if (name == "list" || name == "menu")
+            return QApplication::activePopupWidget();
+        return name != "post" || wait.isWaiting();
+    }
+};
+
+TEST_P(LinkEnds, whateverIsOpen)
+{
+    const auto &[situation, end] = GetParam();
+    useRealDialogs();
+    files.failure = ENOSPC;
+    state.PhotFiles(1).Keywords = {"IESNA:LM-63-2002"};
+    startWizard();
+    QTimer look;
+    QObject::connect(&look, &QTimer::timeout, [&, name = situation.name, by = end] {
+        if (!isThere(name))
+            return;
+        look.stop();
+        if (by == End::Close)
+            sendCommand("CLOSE");
+        else
+            closing.hostVanished();
+    });
+    // A host that takes nothing but the last word keeps a post waiting.
+    QTimer host;
+    QObject::connect(&host, &QTimer::timeout, [this] {
+        if (hostInbox() == "CloseRemove,PenwrightPE,7")
+            taken.push_back(store.take("Lumentor_PE", "Sec", "HostBox"));
+    });
+    host.start(5);
+    QTimer::singleShot(0, window.get(), [&, open = situation.open] {
+        look.start(5);
+        open(*window);
+    });
+    QTimer::singleShot(20000, &look, [] { QCoreApplication::exit(-77); });
+    EXPECT_EQ(QApplication::exec(), 0);
+    const bool isTold = end == End::Close;
+    EXPECT_EQ(taken, isTold ? std::vector<std::string>{"CloseRemove,PenwrightPE,7"} : std::vector<std::string>{});
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(files.paths.size(), situation.name == "retryBox" ? 1u : 0u);
+    if (situation.name != "post")
+        EXPECT_EQ(store.read("Lumentor_PE", "Sec", "Filename1", "(none)"), "(none)");
+}
+
+INSTANTIATE_TEST_SUITE_P(EverySituation, LinkEnds,
+                         testing::Combine(testing::ValuesIn(kSituations), testing::Values(End::Close, End::HostGone)),
+                         [](const auto &row) {
+                             return std::get<0>(row.param).name +
+                                    (std::get<1>(row.param) == End::Close ? "OnClose" : "HostGone");
+                         });
 
 }  // namespace
 }  // namespace penwright::test

@@ -95,6 +95,21 @@ TEST_F(Load, pageOneHasItsFixedTexts)
     EXPECT_FALSE(find<QCheckBox>("chkIncludeTilt")->isChecked());
 }
 
+TEST_F(Load, placeholderTextsAreLegibleOnADarkPalette)
+{
+    loadWindow();
+    const QPalette light = QApplication::palette();
+    QPalette dark(Qt::darkGray, Qt::black);
+    dark.setColor(QPalette::PlaceholderText, Qt::black);  // as some desktops' dark palettes have it
+    QApplication::setPalette(dark);
+    QCoreApplication::processEvents();
+    const auto colour = [this] { return find("lmpCmbShape")->palette().color(QPalette::PlaceholderText); };
+    EXPECT_EQ(colour().rgb(), QApplication::palette().color(QPalette::Text).rgb());
+    QApplication::setPalette(light);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(colour().rgb(), light.color(QPalette::Text).rgb());
+}
+
 TEST_F(Load, labelsOfPageOneAreBuddies)
 {
     loadWindow();

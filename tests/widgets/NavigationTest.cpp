@@ -20,9 +20,25 @@ protected:
     void SetUp() override
     {
         startWizard();
-        window->ShowPage(GetParam().from);
+        fillPageOne();
+        goTo(GetParam().from);
         state.PhotFiles(1).TiltIncl = GetParam().tiltIncluded;
         find<QAbstractButton>("chkIncludeTilt")->setChecked(GetParam().tiltIncluded);
+    }
+
+    /// Shows a page with values that pass its checks.
+    void goTo(int page)
+    {
+        window->ShowPage(page == kCandelaPage ? kDistributionPage : page);
+        if (page == kTiltPage)
+            fillPageTwo();
+        if (page == kDistributionPage || page == kCandelaPage)
+            fillPageFour();
+        if (page == kCandelaPage) {
+            click("cmdNext30");
+            fillPageFive();
+        }
+        ASSERT_EQ(shownPage(), page);
     }
 };
 
@@ -52,7 +68,9 @@ TEST_P(Navigation, byEnterOnTheFocusedButton)
 {
     auto *button = find<QPushButton>(GetParam().button);
     button->setFocus();
-    QTest::keyClick(button, Qt::Key_Return);
+    ASSERT_EQ(button->hasFocus(), button->isEnabled());
+    if (button->isEnabled())
+        QTest::keyClick(button, Qt::Key_Return);
     EXPECT_EQ(shownPage(), GetParam().to);
 }
 
@@ -61,6 +79,7 @@ class Wizard : public WizardTest {};
 TEST_F(Wizard, nextOnPageOneSetsWhetherTiltIsIncluded)
 {
     startWizard();
+    fillPageOne();
     QTest::keyClick(find("chkIncludeTilt"), Qt::Key_Space);
     click("cmdNext10");
     EXPECT_TRUE(state.PhotFiles(1).TiltIncl);
@@ -73,6 +92,7 @@ TEST_F(Wizard, nextOnPageOneSetsWhetherTiltIsIncluded)
 TEST_F(Wizard, errorInAHandlerIsOneMessageUnderTheCaption)
 {
     startWizard();
+    fillPageOne();
     state.PhotFiles.clear();
     click("cmdNext10");
     EXPECT_EQ(dialogs.transcript, "[New Photometric file: (1 of 6) General Info|0] Subscript out of range\n");
@@ -101,18 +121,44 @@ TEST_F(Wizard, enterInATextBoxPressesNext)
     EXPECT_EQ(page.nextCount, 2);
 }
 
-TEST_F(Wizard, enterInAListOrTickBoxPressesNothing)
+TEST_F(Wizard, enterPressesNextFromEveryFieldOfAForm)
 {
     startWizard();
-    QTest::keyClick(find("lmpCmbShape"), Qt::Key_Return);
-    QTest::keyClick(find("chkIncludeTilt"), Qt::Key_Return);
-    EXPECT_EQ(shownPage(), kLampPage);
+    fillPageOne();
+    for (const char *field : {"txtNumLamps", "txtHeight", "lmpCmbShape", "rdoFeet", "chkIncludeTilt"}) {
+        window->ShowPage(kLampPage);
+        find(field)->setFocus();
+        press(Qt::Key_Return);
+        EXPECT_EQ(shownPage(), kKeywordPage) << field;
+    }
     EXPECT_FALSE(find<QAbstractButton>("chkIncludeTilt")->isChecked());
+}
+
+TEST_F(Wizard, enterOnAnotherButtonPressesThatOne)
+{
+    startWizard();
+    fillPageOne();
+    find("cmdHelp10")->setFocus();
+    press(Qt::Key_Return);
+    EXPECT_EQ(shownPage(), kLampPage);
+    EXPECT_EQ(help.topics.size(), 1u);
+}
+
+TEST_F(Wizard, enterInAGridBelongsToTheGrid)
+{
+    startWizard();
+    window->ShowPage(kTiltPage);
+    fillPageTwo();
+    find<GridView>("lmpGridTiltMultiplier")->goTo(1, 0);
+    press(Qt::Key_Return);
+    EXPECT_EQ(shownPage(), kTiltPage);
+    EXPECT_EQ(find<GridView>("lmpGridTiltMultiplier")->currentRow(), 2);
 }
 
 TEST_F(Wizard, buttonsAreRefusedWhileAPostWaits)
 {
     startWizard();
+    fillPageOne();
     // What a screen reader presses comes past the filter that holds keys and clicks off.
     const auto press = [this] { return find<QPushButton>("cmdNext10")->click(), true; };
     EXPECT_EQ(wait.until(press, std::chrono::seconds(10)), WaitEnd::Done);
@@ -124,6 +170,7 @@ TEST_F(Wizard, buttonsAreRefusedWhileAPostWaits)
 TEST_F(Wizard, buttonsAreRefusedWhileADialogIsOpen)
 {
     startWizard();
+    fillPageOne();
     QDialog dialog(window.get());
     dialog.setModal(true);
     dialog.show();
@@ -139,6 +186,7 @@ TEST_F(Wizard, buttonsAreRefusedWhileADialogIsOpen)
 TEST_F(Wizard, buttonsAreRefusedWhileUnloading)
 {
     startWizard();
+    fillPageOne();
     closing.begin();
     find<QPushButton>("cmdNext10")->click();
     EXPECT_EQ(shownPage(), kLampPage);

@@ -26,6 +26,7 @@
 #include "support/FakeDialogs.h"
 #include "support/TempFolder.h"
 #include "wizard/FinishPage.h"
+#include "wizard/GridView.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright::test {
@@ -36,8 +37,9 @@ struct RecordingHelp : HelpViewer {
 };
 
 struct RecordingFiles : TextFiles {
-    int replace(const std::string &path, std::string_view) override { return paths.push_back(path), 0; }
+    int replace(const std::string &path, std::string_view) override { return paths.push_back(path), failure; }
     std::vector<std::string> paths;
+    int failure = 0;  ///< what each writing ends with
 };
 
 /// A place among the display's windows that only notes whose child the wizard becomes.
@@ -75,8 +77,10 @@ protected:
         window = std::make_unique<WizardWindow>(state, Services{store, files, *m_dialogs, wait, place, help},
                                                 WindowServices{closing, embedding, wait});
         const PageContext context = window->pageContext();
-        window->setPages({new LampPage(context), new TiltPage(context), new KeywordPage(context),
-                          new DistributionPage(context), new CandelaPage(context), new FinishPage(context)},
+        auto *candelaPage = new CandelaPage(context, candela);
+        auto *distributionPage = new DistributionPage(context, [candelaPage] { candelaPage->lsbStart(); });
+        window->setPages({new LampPage(context), new TiltPage(context), new KeywordPage(context), distributionPage,
+                          candelaPage, new FinishPage(context)},
                          [this] { candela = CandelaState(); });
         realDialogs.setOwner(window.get());
         wait.setHeldOff(window.get());
@@ -102,6 +106,59 @@ protected:
     }
 
     void click(const std::string &button) { QTest::mouseClick(find(button), Qt::LeftButton); }
+
+    /// Types into whatever has the focus, key by key.
+    static void typeText(const std::string &text)
+    {
+        for (const char character : text)
+            QTest::keyClick(QApplication::focusWidget(), character);
+    }
+    static void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QTest::keyClick(QApplication::focusWidget(), key, modifiers);
+    }
+
+    void setText(const std::string &box, const std::string &text)
+    {
+        find<QLineEdit>(box)->setText(QString::fromStdString(text));
+    }
+    std::string text(const std::string &box) { return find<QLineEdit>(box)->text().toStdString(); }
+
+    /// Gives page 1 values that pass its checks.
+    void fillPageOne()
+    {
+        for (const char *box : {"txtNumLamps", "txtLumPerLamp", "txtMultiplier", "txtBallast", "txtWatt", "txtWidth",
+                                "txtLength", "txtHeight"})
+            setText(box, "1");
+    }
+
+    /// Gives page 2 values that pass its checks: angles 0 and 90.
+    void fillPageTwo()
+    {
+        setText("lmpTxtNumAngles", "2");
+        find<QAbstractButton>("l2lg0")->setChecked(true);
+        find<GridView>("lmpGridTiltMultiplier")->goTo(2, 0);
+        typeText("90");
+        press(Qt::Key_Return);
+    }
+
+    /// Gives page 4 values that pass its checks: type C, 10 vertical angles and one horizontal.
+    void fillPageFour()
+    {
+        find<QAbstractButton>("rdoC")->click();
+        for (const char *list : {"phoCmbVert", "phoCmbHorz"}) {
+            find(list)->setFocus();
+            press(Qt::Key_Down);
+        }
+    }
+
+    /// Gives page 5, built from what fillPageFour chose, values that pass its checks.
+    void fillPageFive()
+    {
+        QGuiApplication::clipboard()->setText("9\n8\n7\n6\n5\n4\n3\n2\n1\n0\n");
+        find("cdaGridCd")->setFocus();
+        press(Qt::Key_V, Qt::ControlModifier);
+    }
 
     /// Index of the one frame that is shown; -1 when none is, -2 when several are.
     int shownPage()

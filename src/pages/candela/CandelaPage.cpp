@@ -1,21 +1,157 @@
 #include "pages/candela/CandelaPage.h"
 
-namespace penwright {
+#include <QApplication>
+#include <QKeyEvent>
+#include <QTimer>
 
-CandelaPage::CandelaPage(const PageContext &context) : PageFrame(kCandelaPage, context)
+#include "core/NumberText.h"
+#include "pages/candela/CandelaChecks.h"
+#include "pages/candela/PlotPainter.h"
+#include "ui_CandelaPage.h"
+#include "wizard/WarningDialog.h"
+
+namespace penwright {
+namespace {
+
+constexpr int kFlipInterval = 100;  // milliseconds
+constexpr float kLeastPlotValue = 0.01F;
+
+void pressPageUp(QWidget &widget)
 {
-    showValuesComeFromHost();
+    for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+        QKeyEvent event(type, Qt::Key_PageUp, Qt::NoModifier);
+        QCoreApplication::sendEvent(&widget, &event);
+    }
+}
+
+}  // namespace
+
+CandelaPage::CandelaPage(const PageContext &context, CandelaState &flags)
+    : PageFrame(kCandelaPage, context),
+      m_flags(flags),
+      m_form(std::make_unique<Ui::CandelaPage>()),
+      m_table(state(), flags, caption().toStdString())
+{
+    m_form->setupUi(formArea());
+    m_form->planeKey->setColour(kPlaneColour);
+    m_form->coneKey->setColour(kConeColour);
+    m_form->cdaGridCd->setTable(m_table, services().dialogs);
+    connectGrid();
     addButtons([this] { cmdNext50_Click(); }, [this] { cmdBack50_Click(); });
+}
+
+CandelaPage::~CandelaPage()
+{
+    delete m_form->cdaGridCd;  // it reads the table, which ends before the page's widgets do
+}
+
+void CandelaPage::load()
+{
+    m_tmrFlip = new QTimer(window());
+    m_tmrFlip->setObjectName("tmrFlip");
+    m_tmrFlip->setInterval(kFlipInterval);
+    connect(m_tmrFlip, &QTimer::timeout, this, &CandelaPage::tmrFlip_Timer);
+}
+
+void CandelaPage::connectGrid()
+{
+    CandelaGrid *grid = m_form->cdaGridCd;
+    connect(grid, &GridView::cellTaken, this, [this] { m_isTypedInto = true; });
+    connect(grid, &GridView::cellTaken, this, &CandelaPage::refreshPlot);
+    connect(grid, &GridView::currentCellChanged, this, &CandelaPage::showCell);
+    connect(grid, &CandelaGrid::pasted, this, &CandelaPage::refreshPlot);
+    connect(grid, &CandelaGrid::pointerEntered, this, &CandelaPage::showCell);
+    connect(grid, &CandelaGrid::pointerLeft, this, &CandelaPage::showCurrentCell);
+}
+
+void CandelaPage::lsbStart()
+{
+    m_table.lsbStart();
+    m_shownColumn = 1;
+    m_isTypedInto = false;
+    const bool hasCone = state().PhotFiles(1).PhotometricType != kTypeB;
+    for (QWidget *part : {static_cast<QWidget *>(m_form->rtbHorz), static_cast<QWidget *>(m_form->Label50a),
+                          static_cast<QWidget *>(m_form->coneKey)})
+        part->setVisible(hasCone);
+    m_form->cdaGridCd->rebuild();
+    showCurrentCell();
+    if (m_tmrFlip)
+        m_tmrFlip->start();
+}
+
+void CandelaPage::tmrFlip_Timer()
+{
+    m_tmrFlip->stop();
+    CandelaGrid &grid = *m_form->cdaGridCd;
+    // Who types faster than the timer keeps the row reached.
+    if (grid.hasFocus() && !grid.isEditing() && !m_isTypedInto)
+        for (int i = 1; i <= 3; ++i)
+            pressPageUp(grid);
+    grid.scrollToFirstRow();
+}
+
+void CandelaPage::showCurrentCell()
+{
+    showCell(m_form->cdaGridCd->currentRow(), m_form->cdaGridCd->currentColumn());
+}
+
+/// Names a cell's plane and cone and draws them; in the column of the labels the plane is the one shown before.
+void CandelaPage::showCell(int row, int column)
+{
+    if (column != CandelaTable::kLabelColumn)
+        m_shownColumn = column;
+    const auto angles = m_table.anglesOf(row, m_shownColumn);
+    if (!angles)
+        return;
+    m_shown = *angles;
+    m_form->rtbVert->setText(QString::fromStdString(generalText(m_shown.horizontal)));
+    m_form->rtbHorz->setText(QString::fromStdString(generalText(m_shown.vertical)));
+    refreshPlot();
+}
+
+void CandelaPage::refreshPlot()
+{
+    if (!(m_flags.plotValue > 0))
+        m_flags.plotValue = kLeastPlotValue;
+    try {
+        m_form->picCda->draw(state().PhotFiles(1), m_table.CandelaCells(), m_shown.horizontal, m_shown.vertical);
+        m_plotFailed = false;
+    } catch (const std::exception &) {
+        if (!std::exchange(m_plotFailed, true))
+            tellPlotError();
+    }
+    m_form->cdaGridCd->viewport()->update();
+}
+
+// Once the event is over: the pass may run in a mouse press or in a change of the focus.
+void CandelaPage::tellPlotError()
+{
+    const auto tell = [this] { services().dialogs.show({.text = "err in paintCda", .flags = kOkOnly}); };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void CandelaPage::cmdNext50_Click()
 {
+    if (!m_form->cdaGridCd->commitEdit())
+        return;
+    dlgWarn().Clear();
+    PhotometricRecord &record = state().PhotFiles(1);
+    checkCandela(record, m_table.CandelaCells(), dlgWarn().list());
+    if (!dlgWarn().Clean())
+        return showWarnings();
+    storeCandela(m_table.CandelaCells(), record);
     navigator().ShowPage(kFinishPage);
 }
 
 void CandelaPage::cmdBack50_Click()
 {
+    m_form->cdaGridCd->commitEditIfValid();
     navigator().ShowPage(kDistributionPage);
+}
+
+void CandelaPage::focusFault(const FaultPlace &place)
+{
+    m_form->cdaGridCd->goTo(place.row, place.column);
 }
 
 }  // namespace penwright

@@ -1,19 +1,57 @@
 #pragma once
 
+#include <memory>
+
+#include "pages/candela/CandelaState.h"
+#include "pages/candela/CandelaTable.h"
 #include "wizard/PageFrame.h"
+
+class QTimer;
+
+namespace Ui {
+class CandelaPage;
+}
 
 namespace penwright {
 
-/// Page 5: the candela table.
+/// Page 5: the candela table and its plot.
 class CandelaPage : public PageFrame {
     Q_OBJECT
 
 public:
-    explicit CandelaPage(const PageContext &context);
+    /// `flags` are cleared by whoever starts the wizard, and outlive the page.
+    CandelaPage(const PageContext &context, CandelaState &flags);
+
+    ~CandelaPage() override;
+
+    void load() override;
+
+    /// Builds the table from record slot 1 and shows its first cell; page 4 runs it each time it is left by Next.
+    /// Error 9 when the record's angles are fewer than it counts.
+    void lsbStart();
+
+protected:
+    void focusFault(const FaultPlace &place) override;
 
 private:
+    void tmrFlip_Timer();
     void cmdNext50_Click();
     void cmdBack50_Click();
+
+    void connectGrid();
+    void showCurrentCell();
+    void showCell(int row, int column);
+    void refreshPlot();
+    void tellPlotError();
+
+    CandelaState &m_flags;
+    std::unique_ptr<Ui::CandelaPage> m_form;
+    CandelaTable m_table;
+    CandelaTable::CellAngles m_shown;  ///< of the cell whose plane and cone are drawn
+    int m_shownColumn = 1;
+    bool m_isTypedInto = false;  ///< a value has been taken since the table was built
+    bool m_plotFailed = false;   ///< told, and not told again until a pass has succeeded
+    QTimer *m_tmrFlip = nullptr;
 };
 
 }  // namespace penwright

@@ -1,21 +1,125 @@
 #include "pages/distribution/DistributionPage.h"
 
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "ui_DistributionPage.h"
+#include "wizard/WarningDialog.h"
+
 namespace penwright {
 
-DistributionPage::DistributionPage(const PageContext &context) : PageFrame(kDistributionPage, context)
+DistributionPage::DistributionPage(const PageContext &context, std::function<void()> lsbStart)
+    : PageFrame(kDistributionPage, context),
+      m_form(std::make_unique<Ui::DistributionPage>()),
+      m_lsbStart(std::move(lsbStart))
 {
-    showValuesComeFromHost();
+    m_form->setupUi(formArea());
+    m_form->phoGridVert->setSource(m_vertical, services().dialogs);
+    m_form->phoGridHorz->setSource(m_horizontal, services().dialogs);
+    m_form->fraAngles->hide();
+    onClick(m_form->rdoC, [this] { rdoC_Click(); });
+    onClick(m_form->rdoB, [this] { rdoB_Click(); });
+    connect(m_form->phoCmbVert, &AngleListBox::changed, this, &DistributionPage::phoCmbVert_Change);
+    connect(m_form->phoCmbHorz, &AngleListBox::changed, this, &DistributionPage::phoCmbHorz_Change);
     addButtons([this] { cmdNext30_Click(); }, [this] { cmdBack30_Click(); });
+    for (AngleListBox *list : {m_form->phoCmbVert, m_form->phoCmbHorz}) {
+        list->lineEdit()->setAccessibleName(list->accessibleName());
+        connect(list, &AngleListBox::entered, findChild<QPushButton *>("cmdNext30"), &QPushButton::click);
+    }
+}
+
+DistributionPage::~DistributionPage()
+{
+    // They read their lists as long as they live.
+    delete m_form->phoGridVert;
+    delete m_form->phoGridHorz;
+}
+
+void DistributionPage::rdoC_Click()
+{
+    offerAngles();
+}
+
+void DistributionPage::rdoB_Click()
+{
+    offerAngles();
+}
+
+void DistributionPage::offerAngles()
+{
+    m_form->phoCmbVert->offer(predefinedAngles(photometricType(), AngleAxis::Vertical));
+    m_form->phoCmbHorz->offer(predefinedAngles(photometricType(), AngleAxis::Horizontal));
+    m_form->fraAngles->show();
+}
+
+void DistributionPage::phoCmbVert_Change()
+{
+    resizeAngles(*m_form->phoCmbVert, m_vertical, *m_form->phoGridVert);
+}
+
+void DistributionPage::phoCmbHorz_Change()
+{
+    resizeAngles(*m_form->phoCmbHorz, m_horizontal, *m_form->phoGridHorz);
+}
+
+void DistributionPage::resizeAngles(AngleListBox &list, AngleList &angles, AngleGrid &grid)
+{
+    const AngleList::Resizing done = angles.resize(list.chosenText(), photometricType());
+    if (done == AngleList::Resizing::Nothing)
+        return;
+    if (done == AngleList::Resizing::BecameOne)
+        list.replaceText("1");
+    grid.rebuildColumns();
 }
 
 void DistributionPage::cmdNext30_Click()
 {
+    dlgWarn().Clear();
+    if (!m_form->phoGridVert->commitEdit() || !m_form->phoGridHorz->commitEdit())
+        return;
+    const DistributionFields fields = readFields();
+    checkDistribution(fields, dlgWarn().list());
+    if (!dlgWarn().Clean())
+        return showWarnings();
+    storeDistribution(fields, state().PhotFiles(1));
+    if (m_lsbStart)
+        m_lsbStart();
     navigator().ShowPage(kCandelaPage);
 }
 
 void DistributionPage::cmdBack30_Click()
 {
+    m_form->phoGridVert->commitEditIfValid();
+    m_form->phoGridHorz->commitEditIfValid();
     navigator().ShowPage(kKeywordPage);
+}
+
+std::int16_t DistributionPage::photometricType() const
+{
+    return m_form->rdoB->isChecked() ? kTypeB : kTypeC;
+}
+
+DistributionFields DistributionPage::readFields() const
+{
+    return {photometricType(), m_vertical.cells(), m_horizontal.cells()};
+}
+
+void DistributionPage::focusFault(const FaultPlace &place)
+{
+    switch (place.field) {
+        case kVerticalListField:
+        case kHorizontalListField:
+            if (m_form->fraAngles->isHidden())
+                m_form->rdoC->setFocus();
+            else
+                (place.field == kVerticalListField ? m_form->phoCmbVert : m_form->phoCmbHorz)->setFocus();
+            break;
+        case kVerticalGridField:
+            m_form->phoGridVert->goTo(place.row, place.column);
+            break;
+        default:
+            m_form->phoGridHorz->goTo(place.row, place.column);
+    }
 }
 
 }  // namespace penwright

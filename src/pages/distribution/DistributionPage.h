@@ -1,19 +1,50 @@
 #pragma once
 
+#include <functional>
+#include <memory>
+
+#include "pages/distribution/AngleList.h"
+#include "pages/distribution/DistributionFields.h"
 #include "wizard/PageFrame.h"
 
+namespace Ui {
+class DistributionPage;
+}
+
 namespace penwright {
+
+class AngleGrid;
+class AngleListBox;
 
 /// Page 4: photometric type and angles.
 class DistributionPage : public PageFrame {
     Q_OBJECT
 
 public:
-    explicit DistributionPage(const PageContext &context);
+    /// `lsbStart` builds the candela table from the record; it runs each time the page is left by Next.
+    explicit DistributionPage(const PageContext &context, std::function<void()> lsbStart = {});
+    ~DistributionPage() override;
+
+protected:
+    void focusFault(const FaultPlace &place) override;
 
 private:
+    void rdoC_Click();
+    void rdoB_Click();
+    void phoCmbVert_Change();
+    void phoCmbHorz_Change();
     void cmdNext30_Click();
     void cmdBack30_Click();
+
+    void offerAngles();
+    void resizeAngles(AngleListBox &list, AngleList &angles, AngleGrid &grid);
+    std::int16_t photometricType() const;
+    DistributionFields readFields() const;
+
+    std::unique_ptr<Ui::DistributionPage> m_form;
+    std::function<void()> m_lsbStart;
+    AngleList m_vertical{AngleAxis::Vertical};
+    AngleList m_horizontal{AngleAxis::Horizontal};
 };
 
 }  // namespace penwright

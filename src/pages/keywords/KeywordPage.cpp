@@ -1,21 +1,86 @@
 #include "pages/keywords/KeywordPage.h"
 
+#include "pages/keywords/KeywordDefaults.h"
+#include "pages/keywords/KeywordHints.h"
+#include "pages/keywords/KeywordLines.h"
+#include "ui_KeywordPage.h"
+#include "wizard/WarningDialog.h"
+
 namespace penwright {
 
-KeywordPage::KeywordPage(const PageContext &context) : PageFrame(kKeywordPage, context)
+KeywordPage::KeywordPage(const PageContext &context)
+    : PageFrame(kKeywordPage, context), m_form(std::make_unique<Ui::KeywordPage>())
 {
-    showValuesComeFromHost();
+    m_form->setupUi(formArea());
+    m_form->keyGrid->setRows(m_rows, services().dialogs);
+    connect(m_form->keyGrid, &KeywordGrid::lineChanged, this, &KeywordPage::showLine);
+    onClick(m_form->cmdDefaultLoad, [this] { cmdDefaultLoad_Click(); });
+    onClick(m_form->cmdSaveDefaults, [this] { cmdSaveDefaults_Click(); });
     addButtons([this] { cmdNext20_Click(); }, [this] { cmdBack20_Click(); });
+}
+
+KeywordPage::~KeywordPage()
+{
+    delete m_form->keyGrid;  // it reads the rows, which end before the page's widgets do
+}
+
+void KeywordPage::enter()
+{
+    if (m_hasRows)
+        return;
+    cmdDefaultLoad_Click();
+    m_hasRows = true;
+}
+
+void KeywordPage::cmdDefaultLoad_Click()
+{
+    gsbKeyDefaultLoad(services().store, m_rows);
+    m_form->keyGrid->rowsReplaced();
+}
+
+void KeywordPage::cmdSaveDefaults_Click()
+{
+    const Answer answer = services().dialogs.show(
+        {.text = "This will save all current keys and values as defaults. Leave individual descriptions empty that you "
+                 "want to fill in later."});
+    if (answer == Answer::Dismissed || !m_form->keyGrid->commitEdit())
+        return;
+    gsbKeyDefaultSave(services().store, m_rows.rows());
 }
 
 void KeywordPage::cmdNext20_Click()
 {
+    dlgWarn().Clear();
+    if (!m_form->keyGrid->commitEdit())
+        return;
+    gfnKeyVerify(m_rows.rows(), dlgWarn().list());
+    if (!dlgWarn().Clean())
+        return showWarnings();
+    storeKeywordLines(m_rows.rows(), state().PhotFiles(1));
     navigator().ShowPage(kDistributionPage);
 }
 
 void KeywordPage::cmdBack20_Click()
 {
+    m_form->keyGrid->commitEditIfValid();
     navigator().ShowPage(state().PhotFiles(1).TiltIncl ? kTiltPage : kLampPage);
+}
+
+void KeywordPage::showLine()
+{
+    const int row = m_form->keyGrid->currentRow();
+    const KeywordRow line = m_form->keyGrid->shownLine();
+    const bool isThere = row >= 1;
+    const std::string hint = isThere ? keywordHint(row, line, row > m_rows.rowCount()) : "";
+    m_form->labDescription->setText(QString::fromStdString(hint));
+    m_form->labCharacters->setText(isThere ? QString::fromStdString(lengthHint(line.length())) : QString());
+    m_form->labCharacters->setWarning(line.length() > kMostLineCharacters);
+    m_form->labEmptyRows->setText(QString::fromStdString(emptyRowsHint(m_rows.emptyRows())));
+}
+
+void KeywordPage::focusFault(const FaultPlace &place)
+{
+    m_form->keyGrid->goTo(place.row, place.column);
 }
 
 }  // namespace penwright

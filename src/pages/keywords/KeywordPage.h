@@ -1,19 +1,42 @@
 #pragma once
 
+#include <memory>
+
+#include "pages/keywords/KeywordRows.h"
 #include "wizard/PageFrame.h"
+
+namespace Ui {
+class KeywordPage;
+}
 
 namespace penwright {
 
-/// Page 3: the header lines. Back leads over the tilt page only when tilt is included.
+/// Page 3: the keyword lines, the version line first. They begin with the user's defaults when the page is first shown;
+/// later visits keep them. Back leads over the tilt page only when tilt is included.
 class KeywordPage : public PageFrame {
     Q_OBJECT
 
 public:
     explicit KeywordPage(const PageContext &context);
+    ~KeywordPage() override;
+
+    /// Loads the defaults, the first time; raises the errors of the store.
+    void enter() override;
+
+protected:
+    void focusFault(const FaultPlace &place) override;
 
 private:
+    void cmdDefaultLoad_Click();
+    void cmdSaveDefaults_Click();
     void cmdNext20_Click();
     void cmdBack20_Click();
+
+    void showLine();
+
+    std::unique_ptr<Ui::KeywordPage> m_form;
+    KeywordRows m_rows;
+    bool m_hasRows = false;
 };
 
 }  // namespace penwright

@@ -3,12 +3,33 @@
 #include "pages/luminaire/InputUnits.h"
 #include "pages/luminaire/LuminousShapes.h"
 #include "ui_LampPage.h"
+#include "wizard/WarningDialog.h"
 
 namespace penwright {
+namespace {
+
+QString fromView(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+void apply(const DimensionLook &look, QLabel &label, QLineEdit &box)
+{
+    const QString caption = fromView(look.caption);
+    label.setText(caption);
+    label.setEnabled(look.isEnabled);
+    box.setAccessibleName(caption);
+    box.setEnabled(look.isEnabled);
+    if (look.text)
+        box.setText(fromView(*look.text));
+}
+
+}  // namespace
 
 LampPage::LampPage(const PageContext &context) : PageFrame(kLampPage, context), m_form(std::make_unique<Ui::LampPage>())
 {
     m_form->setupUi(formArea());
+    connect(m_form->lmpCmbShape, &QComboBox::currentIndexChanged, this, &LampPage::lmpCmbShape_Click);
     addButtons([this] { cmdNext10_Click(); }, {});
 }
 
@@ -19,16 +40,61 @@ void LampPage::load()
     const bool feet = inputUnitsAreFeet(services().store);
     m_form->rdoFeet->setChecked(feet);
     m_form->rdoMeters->setChecked(!feet);
-    m_form->lmpCmbShape->clear();
-    for (const std::string_view shape : kLuminousShapes)
-        m_form->lmpCmbShape->addItem(QString::fromUtf8(shape.data(), static_cast<qsizetype>(shape.size())));
-    m_form->lmpCmbShape->setCurrentIndex(-1);
+    for (const LuminousShape &shape : kLuminousShapes)
+        m_form->lmpCmbShape->addItem(fromView(shape.name));
+}
+
+void LampPage::lmpCmbShape_Click()
+{
+    gsbDrawLuminaireGeo(static_cast<std::int16_t>(m_form->lmpCmbShape->currentIndex()));
+}
+
+void LampPage::gsbDrawLuminaireGeo(std::int16_t position)
+{
+    m_form->lmpPicHousing->setShape(position);
+    const LuminousShape *shape = luminousShapeAt(position);
+    if (!shape)
+        return;
+    apply(shape->width, *m_form->lmpLabWidth, *m_form->txtWidth);
+    apply(shape->length, *m_form->lmpLabLength, *m_form->txtLength);
+    apply(shape->height, *m_form->lmpLabHeight, *m_form->txtHeight);
 }
 
 void LampPage::cmdNext10_Click()
 {
-    state().PhotFiles(1).TiltIncl = m_form->chkIncludeTilt->isChecked();
-    navigator().ShowPage(m_form->chkIncludeTilt->isChecked() ? kTiltPage : kKeywordPage);
+    dlgWarn().Clear();
+    const LampFields fields = readFields();
+    checkLampFields(fields, dlgWarn().list());
+    if (!dlgWarn().Clean())
+        return showWarnings();
+    storeLampFields(fields, dlgWarn().list(), state().PhotFiles(1));
+    navigator().ShowPage(fields.isTiltIncluded ? kTiltPage : kKeywordPage);
+}
+
+LampFields LampPage::readFields() const
+{
+    LampFields fields;
+    for (std::size_t field = 0; const TextBox *box : boxes())
+        fields.texts[field++] = box->text().toStdString();
+    fields.shape = m_form->lmpCmbShape->currentIndex();
+    fields.isFeet = m_form->rdoFeet->isChecked();
+    fields.isTiltIncluded = m_form->chkIncludeTilt->isChecked();
+    return fields;
+}
+
+void LampPage::focusFault(const FaultPlace &place)
+{
+    TextBox *box = boxes().at(static_cast<std::size_t>(place.field));
+    if (!box->isEnabled())
+        return m_form->lmpCmbShape->setFocus();  // only another shape mends a box that takes no text
+    box->setFocus();
+    box->selectAll();
+}
+
+std::array<TextBox *, kLampFieldCount> LampPage::boxes() const
+{
+    return {m_form->txtNumLamps, m_form->txtLumPerLamp, m_form->txtMultiplier, m_form->txtBallast,
+            m_form->txtWatt,     m_form->txtWidth,      m_form->txtLength,     m_form->txtHeight};
 }
 
 }  // namespace penwright

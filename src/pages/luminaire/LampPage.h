@@ -1,7 +1,10 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
 #include <memory>
 
+#include "pages/luminaire/LampFields.h"
 #include "wizard/PageFrame.h"
 
 namespace Ui {
@@ -10,7 +13,9 @@ class LampPage;
 
 namespace penwright {
 
-/// Page 1: units, luminous shape, and whether tilt data is included, which decides the next page.
+class TextBox;
+
+/// Page 1: lamp and power, the luminous opening, and whether tilt data is included, which decides the next page.
 class LampPage : public PageFrame {
     Q_OBJECT
 
@@ -20,8 +25,19 @@ public:
 
     void load() override;
 
+protected:
+    void focusFault(const FaultPlace &place) override;
+
 private:
+    void lmpCmbShape_Click();
     void cmdNext10_Click();
+
+    /// Shows the dimensions and the sketch of the shape at a list position. A position outside 0 to 14 changes nothing
+    /// but the sketch, which then holds its frame alone.
+    void gsbDrawLuminaireGeo(std::int16_t position);
+
+    LampFields readFields() const;
+    std::array<TextBox *, kLampFieldCount> boxes() const;
 
     std::unique_ptr<Ui::LampPage> m_form;
 };

@@ -1,27 +1,57 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <optional>
 #include <string_view>
 
 namespace penwright {
 
-/// The luminous shapes by their list position, which is the shape code used everywhere.
-inline constexpr std::array<std::string_view, 15> kLuminousShapes{
-    "Point",
-    "Rectangle",
-    "Rectangle w/ Luminous Sides",
-    "Circle",
-    "Ellipse",
-    "Vertical Cylinder",
-    "Vertical Ellipsoidal Cylinder",
-    "Sphere",
-    "Ellipsoidal Spheroid",
-    "Horz Cylinder along Photometric Horz.",
-    "Horz Ellipsoidal Cylinder along Photometric Horz.",
-    "Horz Cylinder Perpendicular to Photometric Horz.",
-    "Horz Ellipsoidal Cylinder Perpendicular to Photometric Horz.",
-    "Vertical Circle Facing Photometric Horizontal",
-    "Vertical Ellipse Facing Photometric Horizontal",
+/// How the page presents one of the three dimensions: the caption of its label, whether label and box are enabled, and
+/// the text that is put into the box; nothing keeps the text that is there.
+struct DimensionLook {
+    std::string_view caption;
+    bool isEnabled = true;
+    std::optional<std::string_view> text;
 };
+
+/// What the record holds of a typed dimension. The signs tell readers of the file the shape. A typed zero is negated
+/// too, to negative zero.
+enum class Stored {
+    Zero,
+    Typed,
+    Magnitude,
+    NegatedMagnitude,
+    SameAsWidth,   ///< what has just been stored as the width
+    SameAsLength,  ///< what has just been stored as the length
+};
+
+struct LuminousShape {
+    std::string_view name;
+    DimensionLook width;
+    DimensionLook length;
+    DimensionLook height;
+    Stored storedWidth = Stored::Typed;
+    Stored storedLength = Stored::Typed;
+    Stored storedHeight = Stored::Typed;
+};
+
+/// The luminous shapes by their list position, which is the shape code used everywhere. The captions differ from row to
+/// row in colon, blank and wording on purpose. So do names and stored signs from the sphere on: rows 8 to 12 carry the
+/// signs of the shape one row above them.
+extern const std::array<LuminousShape, 15> kLuminousShapes;
+
+/// The shape at a list position, null outside 0 to 14.
+const LuminousShape *luminousShapeAt(int position);
+
+/// The luminous opening, in feet or meters.
+struct Dimensions {
+    float width = 0;
+    float length = 0;
+    float height = 0;
+};
+
+/// What the record holds of typed dimensions; outside positions 0 to 14 no shape is chosen, and they stay as typed.
+Dimensions storedDimensions(int position, const Dimensions &typed);
 
 }  // namespace penwright

@@ -1,21 +1,77 @@
 #include "pages/luminaire/TiltPage.h"
 
+#include <QHeaderView>
+
+#include "ui_TiltPage.h"
+#include "wizard/WarningDialog.h"
+
 namespace penwright {
 
-TiltPage::TiltPage(const PageContext &context) : PageFrame(kTiltPage, context)
+TiltPage::TiltPage(const PageContext &context)
+    : PageFrame(kTiltPage, context), m_form(std::make_unique<Ui::TiltPage>()), m_table(caption().toStdString())
 {
-    showValuesComeFromHost();
+    m_form->setupUi(formArea());
+    GridView &grid = *m_form->lmpGridTiltMultiplier;
+    grid.setSource(m_table, services().dialogs);
+    grid.setTabWay(GridView::TabWay::DownColumn);
+    grid.setTextAlignment(Qt::AlignRight);
+    grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    connect(m_form->lmpTxtNumAngles, &TextBox::textChanged, this, &TiltPage::lmpTxtNumAngles_Change);
     addButtons([this] { cmdNext15_Click(); }, [this] { cmdBack15_Click(); });
+}
+
+TiltPage::~TiltPage() = default;
+
+void TiltPage::lmpTxtNumAngles_Change()
+{
+    if (m_table.takeCount(m_form->lmpTxtNumAngles->text().toStdString()))
+        m_form->lmpGridTiltMultiplier->refresh();
 }
 
 void TiltPage::cmdNext15_Click()
 {
+    dlgWarn().Clear();
+    if (!m_form->lmpGridTiltMultiplier->commitEdit())
+        return;
+    const TiltFields fields = readFields();
+    checkTiltFields(fields, dlgWarn().list());
+    if (!dlgWarn().Clean())
+        return showWarnings();
+    storeTiltFields(fields, state().PhotFiles(1));
     navigator().ShowPage(kKeywordPage);
 }
 
 void TiltPage::cmdBack15_Click()
 {
+    m_form->lmpGridTiltMultiplier->commitEditIfValid();
     navigator().ShowPage(kLampPage);
+}
+
+TiltFields TiltPage::readFields() const
+{
+    TiltFields fields{m_form->lmpTxtNumAngles->text().toStdString(), {}, m_table.angles(), m_table.factors()};
+    const QRadioButton *const l2lg[]{m_form->l2lg0, m_form->l2lg1, m_form->l2lg2};
+    for (std::int16_t index = 0; const QRadioButton *button : l2lg) {
+        if (button->isChecked() && !fields.selection)
+            fields.selection = index;
+        ++index;
+    }
+    return fields;
+}
+
+void TiltPage::focusFault(const FaultPlace &place)
+{
+    switch (place.field) {
+        case kTiltCountField:
+            m_form->lmpTxtNumAngles->setFocus();
+            m_form->lmpTxtNumAngles->selectAll();
+            break;
+        case kTiltGeometryField:
+            m_form->l2lg0->setFocus();
+            break;
+        default:
+            m_form->lmpGridTiltMultiplier->goTo(place.row, place.column);
+    }
 }
 
 }  // namespace penwright

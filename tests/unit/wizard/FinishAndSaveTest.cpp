@@ -155,6 +155,42 @@ TEST_F(FinishAndSaveTest, whatWasWrittenIsHandedOverThoughTheHostSentNewDataMean
     EXPECT_EQ(bench.value("OtherData1"), "2,0,0,0,0,0,0,0,0,0");
 }
 
+// What the host sends while the name is asked for is taken over whole: one and the same record is named, written and
+// handed over.
+TEST_F(FinishAndSaveTest, dataThatTheHostSendsWhileTheNameIsAskedForIsSavedWhole)
+{
+    bench.dialogs.names = {"/lum/a.ies"};
+    bench.dialogs.onAskName = [this] {
+        PhotometricRecord other;
+        other.Filename = "other.ies";
+        other.Keywords = {"IESNA:LM-63-1995"};
+        other.NumLamps = 5;
+        bench.state.PhotFiles = {other, PhotometricRecord()};
+    };
+    EXPECT_EQ(finish(true), FinishEnd::Taken);
+    EXPECT_EQ(bench.files.written[0].second.substr(0, 18), "IESNA:LM-63-1995\r\n");
+    EXPECT_EQ(stored(), "/lum/a.ies in /lum/");
+    EXPECT_EQ(bench.value("OtherData1"), "5,0,0,0,0,0,0,0,0,0");
+}
+
+// The record that could not be written is given up with its name: the next name is for what the host has sent.
+TEST_F(FinishAndSaveTest, dataThatTheHostSendsWhileTheRetryIsRefusedIsWhatTheNextNameIsFor)
+{
+    bench.dialogs.names = {"/full/a.ies", "/free/b.ies"};
+    bench.dialogs.answers = {Answer::Cancel};
+    bench.files.failures = {ENOSPC};
+    bench.dialogs.onShow = [this](const MessageBox &) {
+        PhotometricRecord other;
+        other.Keywords = {"IESNA:LM-63-1995"};
+        other.NumLamps = 5;
+        bench.state.PhotFiles = {other};
+    };
+    EXPECT_EQ(finish(true), FinishEnd::Taken);
+    EXPECT_EQ(bench.files.written[1].second.substr(0, 18), "IESNA:LM-63-1995\r\n");
+    EXPECT_EQ(stored(), "/free/b.ies in /free/");
+    EXPECT_EQ(bench.value("OtherData1"), "5,0,0,0,0,0,0,0,0,0");
+}
+
 TEST_F(FinishAndSaveTest, secondErrorIsNamedAfterTheFileThoughTheHostSentNewDataMeanwhile)
 {
     bench.dialogs.names = {"/full/a.ies"};

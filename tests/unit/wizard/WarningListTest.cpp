@@ -50,13 +50,19 @@ TEST(WarningList, firstFaultIsWhereTheFirstEntryWasFound)
     EXPECT_EQ(list.firstFault(), (FaultPlace{2, 7, 1}));
 }
 
-TEST(WarningList, notedFaultHasAPlaceAndNoEntry)
+TEST(WarningList, errorHasNoEntryAndComesBeforeTheEntriesFound)
 {
     WarningList list;
     list.lookAt({4});
-    list.noteFault();
+    list.noteError();
     EXPECT_TRUE(list.Clean());
     EXPECT_EQ(list.firstFault(), (FaultPlace{4}));
+    list.Clear();
+    list.lookAt({1});
+    list.Add("first");
+    list.lookAt({2});
+    list.noteError();
+    EXPECT_EQ(list.firstFault(), (FaultPlace{2}));
 }
 
 TEST(WarningList, clearForgetsThePlaces)

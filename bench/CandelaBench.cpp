@@ -1,0 +1,238 @@
+// A table of 1,000 x 1,000 values on the page itself: opened, pasted, edited and checked.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QKeyEvent>
+
+#include <sys/resource.h>
+#include <charconv>
+#include <cstdlib>
+
+#include "core/NumberText.h"
+#include "pages/candela/CandelaChecks.h"
+#include "pages/candela/CandelaGrid.h"
+#include "pages/candela/CandelaPage.h"
+#include "pages/candela/CandelaTable.h"
+#include "platform/posix/PosixTextFiles.h"
+#include "platform/qt/Closing.h"
+#include "platform/qt/MissingHelpViewer.h"
+#include "platform/qt/QtEventWait.h"
+#include "platform/qt/X11Embedding.h"
+#include "platform/sqlite/SqliteSettingsStore.h"
+#include "support/FakeDialogs.h"
+#include "support/TempFolder.h"
+#include "wizard/WarningDialog.h"
+
+namespace {
+
+using namespace penwright;
+
+constexpr int kSide = 1000;
+
+struct Nowhere : Navigator {
+    void ShowPage(int) override {}
+    void ConfirmCancel() override {}
+    void ShowHelp(int) override {}
+    bool isBusy() const override { return false; }
+};
+
+void giveAngles(PhotometricRecord &record)
+{
+    record.PhotometricType = kTypeC;
+    record.NumHorzAngles = record.NumVertAngles = kSide;
+    for (int i = 0; i < kSide; ++i) {
+        record.HorAngles.append(360.0F * static_cast<float>(i) / (kSide - 1));
+        record.VertAngles.append(180.0F * static_cast<float>(i) / (kSide - 1));
+    }
+}
+
+/// A table of measured values as a spreadsheet hands it over: 1 to 5 digits and a decimal.
+const std::string &pastedText()
+{
+    static const std::string text = [] {
+        std::string lines;
+        for (int v = 0; v < kSide; ++v)
+            for (int h = 0; h < kSide; ++h)
+                lines += generalText(static_cast<float>((v * 7919 + h * 104729) % 500000) / 10.0F) +
+                         (h + 1 < kSide ? "\t" : "\n");
+        return lines;
+    }();
+    return text;
+}
+
+/// The page in a window of its own, as large as an embedded one.
+class ShownPage {
+public:
+    ShownPage()
+    {
+        m_state.PhotFiles.reset(1);
+        giveAngles(m_state.PhotFiles(1));
+        page.resize(1000, 700);
+        page.show();
+        QCoreApplication::processEvents();
+    }
+
+    void open()
+    {
+        page.lsbStart();
+        QCoreApplication::processEvents();
+    }
+
+    void paste()
+    {
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
+        QCoreApplication::sendEvent(grid(), &key);
+        QCoreApplication::processEvents();
+    }
+
+    void startAgain() { m_flags = {}; }
+    CandelaGrid *grid() { return page.findChild<CandelaGrid *>("cdaGridCd"); }
+
+private:
+    test::TempFolder m_folder;
+    ToolState m_state;
+    CandelaState m_flags;
+    Closing m_closing;
+    SqliteSettingsStore m_store{m_folder.file("settings.sqlite3")};
+    PosixTextFiles m_files;
+    test::FakeDialogs m_dialogs;
+    QtEventWait m_wait{m_closing};
+    X11Embedding m_embedding{m_closing};
+    MissingHelpViewer m_help{m_dialogs};
+    Services m_services{m_store, m_files, m_dialogs, m_wait, m_embedding, m_help};
+    Nowhere m_navigator;
+    WarningDialog m_dlgWarn{m_closing, nullptr};
+
+public:
+    CandelaPage page{PageContext{m_state, m_services, m_navigator, m_dlgWarn}, m_flags};
+};
+
+void opensBlank(benchmark::State &state)
+{
+    ShownPage shown;
+    for (auto _ : state) {
+        shown.startAgain();
+        shown.open();
+    }
+}
+BENCHMARK(opensBlank)->Unit(benchmark::kMillisecond);
+
+void opensWithValues(benchmark::State &state)
+{
+    ShownPage shown;
+    shown.open();
+    QApplication::clipboard()->setText(QString::fromStdString(pastedText()));
+    shown.paste();
+    for (auto _ : state)
+        shown.open();
+}
+BENCHMARK(opensWithValues)->Unit(benchmark::kMillisecond);
+
+/// The bar for a paste: std::from_chars alone over the same text.
+void fromChars(benchmark::State &state)
+{
+    const std::string &text = pastedText();
+    for (auto _ : state) {
+        const char *at = text.data();
+        const char *end = at + text.size();
+        float sum = 0;
+        for (float value = 0; at < end; ++at) {
+            at = std::from_chars(at, end, value).ptr;
+            sum += value;
+        }
+        benchmark::DoNotOptimize(sum);
+    }
+}
+BENCHMARK(fromChars)->Unit(benchmark::kMillisecond);
+
+void pastedIntoTheTable(benchmark::State &state)
+{
+    ToolState tool;
+    tool.PhotFiles.reset(1);
+    giveAngles(tool.PhotFiles(1));
+    CandelaState flags;
+    CandelaTable table(tool, flags, "");
+    table.lsbStart();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(table.PasteCandelaTable(pastedText()).has_value());
+}
+BENCHMARK(pastedIntoTheTable)->Unit(benchmark::kMillisecond);
+
+/// From the key to the repainted grid and plot, the clipboard's owner being this process.
+void pastedToRedrawnPlot(benchmark::State &state)
+{
+    ShownPage shown;
+    shown.open();
+    QApplication::clipboard()->setText(QString::fromStdString(pastedText()));
+    for (auto _ : state)
+        shown.paste();
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    state.counters["peak_MB"] = static_cast<double>(usage.ru_maxrss) / 1024;
+}
+BENCHMARK(pastedToRedrawnPlot)->Unit(benchmark::kMillisecond);
+
+void cellAcceptedToRedrawnPlot(benchmark::State &state)
+{
+    ShownPage shown;
+    shown.open();
+    QAbstractItemModel *model = shown.grid()->model();
+    for (int value = 1; auto _ : state) {
+        model->setData(model->index(3, 4), QString::number(value++ % 1000), Qt::EditRole);
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(cellAcceptedToRedrawnPlot)->Unit(benchmark::kMicrosecond);
+
+void scrolledByAPage(benchmark::State &state)
+{
+    ShownPage shown;
+    shown.open();
+    for (auto _ : state) {
+        const bool isLast = shown.grid()->currentRow() == kSide;
+        QKeyEvent key(QEvent::KeyPress, isLast ? Qt::Key_Home : Qt::Key_PageDown,
+                      isLast ? Qt::ControlModifier : Qt::NoModifier);
+        QCoreApplication::sendEvent(shown.grid(), &key);
+        QCoreApplication::processEvents();
+    }
+}
+BENCHMARK(scrolledByAPage)->Unit(benchmark::kMicrosecond);
+
+void copied(benchmark::State &state)
+{
+    ToolState tool;
+    tool.PhotFiles.reset(1);
+    giveAngles(tool.PhotFiles(1));
+    CandelaState flags;
+    CandelaTable table(tool, flags, "");
+    table.lsbStart();
+    table.PasteCandelaTable(pastedText());
+    for (auto _ : state)
+        benchmark::DoNotOptimize(table.CopyCandelaTable().size());
+}
+BENCHMARK(copied)->Unit(benchmark::kMillisecond);
+
+void checkedBlank(benchmark::State &state)
+{
+    PhotometricRecord record;
+    giveAngles(record);
+    const OneBasedTable<CandelaCell> cells(kSide, kSide);
+    for (auto _ : state) {
+        WarningList list;
+        checkCandela(record, cells, list);
+        benchmark::DoNotOptimize(list.text().size());
+    }
+}
+BENCHMARK(checkedBlank)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int count, char **arguments)
+{
+    setenv("QT_QPA_PLATFORM", "offscreen", 1);
+    QApplication application(count, arguments);
+    benchmark::Initialize(&count, arguments);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

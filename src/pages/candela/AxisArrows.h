@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QLabel>
+
+namespace penwright {
+
+/// The picture in the corner of the table: rows are vertical angles, columns are horizontal ones.
+class AxisArrows : public QLabel {
+    Q_OBJECT
+
+public:
+    explicit AxisArrows(QWidget *parent = nullptr) : QLabel(parent) {}
+
+    QSize sizeHint() const override { return {18, 18}; }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+};
+
+}  // namespace penwright

@@ -1,0 +1,181 @@
+#include "pages/candela/CandelaGrid.h"
+
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QScrollBar>
+#include <QToolTip>
+
+#include <algorithm>
+#include <cmath>
+
+#include "pages/candela/CandelaTable.h"
+#include "pages/candela/CandelaWidths.h"
+#include "pages/candela/ClipboardText.h"
+#include "pages/candela/LabelColumn.h"
+
+namespace penwright {
+namespace {
+
+constexpr int kColumnWidth = 40;  // logical pixels, 600 twips
+
+}  // namespace
+
+CandelaGrid::CandelaGrid(QWidget *parent) : GridView(parent)
+{
+    setTextAlignment(Qt::AlignRight);
+    setMouseTracking(true);
+    viewport()->setMouseTracking(true);
+    verticalHeader()->hide();
+    setCornerButtonEnabled(false);
+    horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);  // nothing is cut off by a drag either
+    horizontalHeader()->setMinimumSectionSize(kColumnWidth);
+    horizontalHeader()->setDefaultSectionSize(kColumnWidth);
+    horizontalHeader()->setHighlightSections(true);
+    m_labels = new LabelColumn(this);
+    connect(m_labels, &LabelColumn::rowPressed, this, [this](int row) { goTo(row + 1, std::max(1, currentColumn())); });
+    connect(this, &QAbstractItemView::entered, this, [this](const QModelIndex &cell) {
+        if (cell.column() > CandelaTable::kLabelColumn)
+            emit pointerEntered(cell.row() + 1, cell.column());
+    });
+    connect(this, &GridView::cellTaken, this, [this](int row, int column) {
+        const double room = columnWidth(column) - padding();
+        const CandelaCell &cell = m_table->CandelaCells()(column, row);
+        growColumn(column, CandelaWidths(QFontMetricsF(font())).widened(room, cell) + padding());
+    });
+}
+
+void CandelaGrid::setTable(CandelaTable &table, Dialogs &dialogs)
+{
+    m_table = &table;
+    setSource(table, dialogs);
+}
+
+void CandelaGrid::rebuild()
+{
+    refresh();
+    horizontalHeader()->setDefaultSectionSize(kColumnWidth);  // of the columns that stay, too
+    growColumns();
+    horizontalScrollBar()->setValue(0);
+    goTo(1, 1);
+    m_labels->cover();
+}
+
+void CandelaGrid::scrollToFirstRow()
+{
+    verticalScrollBar()->setValue(verticalScrollBar()->minimum());
+}
+
+void CandelaGrid::growColumns()
+{
+    const CandelaWidths widths{QFontMetricsF(font())};
+    const OneBasedTable<CandelaCell> &cells = m_table->CandelaCells();
+    const double around = padding();
+    growColumn(CandelaTable::kLabelColumn, m_labels->neededWidth());
+    for (int h = 1; h <= cells.rows(); ++h) {
+        double room = std::max(columnWidth(h), horizontalHeader()->sectionSizeHint(h)) - around;
+        for (int v = 1; v <= cells.columns(); ++v)
+            room = widths.widened(room, cells(h, v));
+        growColumn(h, room + around);
+    }
+}
+
+void CandelaGrid::growColumn(int column, double width)
+{
+    const int needed = static_cast<int>(std::ceil(width));
+    if (needed > columnWidth(column))
+        setColumnWidth(column, needed);
+}
+
+/// What a cell adds to its text: the delegate's margins and the line of the grid.
+double CandelaGrid::padding() const
+{
+    constexpr int kLines = 2;
+    return 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + kLines;
+}
+
+void CandelaGrid::copy()
+{
+    if (m_table)
+        writeClipboardText(m_table->CopyCandelaTable());
+}
+
+void CandelaGrid::paste()
+{
+    if (!m_table)
+        return;
+    std::optional<CandelaTable::PasteRefusal> refusal;
+    try {
+        refusal = m_table->PasteCandelaTable(readClipboardText());
+    } catch (const std::exception &error) {
+        refusal = CandelaTable::PasteRefusal{
+            .box = {.text = error.what(), .flags = kOkOnly, .title = window()->windowTitle().toStdString()}};
+    }
+    if (!refusal || refusal->row > 0) {
+        growColumns();
+        viewport()->update();
+        emit pasted();
+    }
+    if (refusal)
+        tellRefusal(refusal->row > 0 ? refusal->row : currentRow(),
+                    refusal->row > 0 ? refusal->column : currentColumn(), refusal->box);
+}
+
+QModelIndex CandelaGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const QModelIndex cell = GridView::moveCursor(action, modifiers);
+    return cell.column() == CandelaTable::kLabelColumn ? cell.siblingAtColumn(1) : cell;
+}
+
+void CandelaGrid::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    GridView::currentChanged(current, previous);
+    m_labels->update();
+}
+
+void CandelaGrid::scrollTo(const QModelIndex &index, ScrollHint hint)
+{
+    GridView::scrollTo(index, hint);
+    const int covered = columnWidth(CandelaTable::kLabelColumn) - visualRect(index).left();
+    if (index.column() > CandelaTable::kLabelColumn && covered > 0)
+        horizontalScrollBar()->setValue(horizontalScrollBar()->value() - covered);
+}
+
+void CandelaGrid::scrollContentsBy(int dx, int dy)
+{
+    GridView::scrollContentsBy(dx, dy);
+    m_labels->cover();
+}
+
+void CandelaGrid::updateGeometries()
+{
+    GridView::updateGeometries();
+    if (m_labels)
+        m_labels->cover();
+}
+
+bool CandelaGrid::viewportEvent(QEvent *event)
+{
+    if (event->type() != QEvent::ToolTip)
+        return GridView::viewportEvent(event);
+    // The question for a tip only tells where the pointer is: there is none to show.
+    const QModelIndex cell = indexAt(static_cast<QHelpEvent *>(event)->pos());
+    if (cell.column() > CandelaTable::kLabelColumn)
+        emit pointerEntered(cell.row() + 1, cell.column());
+    QToolTip::hideText();
+    return true;
+}
+
+void CandelaGrid::leaveEvent(QEvent *event)
+{
+    GridView::leaveEvent(event);
+    emit pointerLeft();
+}
+
+void CandelaGrid::changeEvent(QEvent *event)
+{
+    GridView::changeEvent(event);
+    if (m_table && (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange))
+        growColumns();
+}
+
+}  // namespace penwright

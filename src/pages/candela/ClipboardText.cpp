@@ -1,0 +1,31 @@
+#include "pages/candela/ClipboardText.h"
+
+#include <QApplication>
+#include <QClipboard>
+
+#include "platform/RunTimeError.h"
+
+namespace penwright {
+namespace {
+
+constexpr qsizetype kMostCharacters = 64 * 1024 * 1024;  // twice a million of the longest numbers
+
+}  // namespace
+
+std::string readClipboardText()
+{
+    const QString text = QApplication::clipboard()->text();
+    if (text.size() > kMostCharacters)
+        throw RunTimeError(7, "The clipboard holds " + std::to_string(text.size() / (1024 * 1024)) +
+                                  " million characters, far more than a candela table can have. Nothing was pasted.");
+    return text.toStdString();
+}
+
+void writeClipboardText(std::string_view text)
+{
+    QClipboard &clipboard = *QApplication::clipboard();
+    clipboard.clear();
+    clipboard.setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+}  // namespace penwright

@@ -1,0 +1,47 @@
+#include "pages/candela/PastedValues.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace penwright {
+namespace {
+
+constexpr std::string_view kSeparators = "\t\r\n";
+
+/// The length of the separator that stands at a place: one character, or the two of a line end.
+std::size_t separatorLength(std::string_view text, std::size_t at)
+{
+    return text.substr(at, 2) == "\r\n" ? 2 : 1;
+}
+
+std::string_view withoutLastLineEnd(std::string_view text)
+{
+    if (text.ends_with("\r\n"))
+        text.remove_suffix(2);
+    else if (text.ends_with('\n') || text.ends_with('\r'))
+        text.remove_suffix(1);
+    return text;
+}
+
+}  // namespace
+
+PastedValues::PastedValues(std::string_view text) : m_rest(withoutLastLineEnd(text))
+{
+    if (m_rest.empty())
+        return;
+    std::size_t separators = 0;
+    for (std::size_t at = 0; (at = m_rest.find_first_of(kSeparators, at)) != std::string_view::npos;
+         at += separatorLength(m_rest, at))
+        ++separators;
+    m_count = static_cast<int>(std::min<std::size_t>(separators + 1, std::numeric_limits<int>::max()));
+}
+
+std::string_view PastedValues::next()
+{
+    const std::size_t end = std::min(m_rest.find_first_of(kSeparators), m_rest.size());
+    const std::string_view value = m_rest.substr(0, end);
+    m_rest.remove_prefix(end == m_rest.size() ? end : end + separatorLength(m_rest, end));
+    return value;
+}
+
+}  // namespace penwright

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string_view>
+
+namespace penwright {
+
+/// The values of a table's text from the clipboard, in reading order: line ends, "\r\n", "\n" or "\r", separate values
+/// as tabs do, and one at the very end counts for nothing. A text with nothing else in it holds no value. Refers to
+/// the text, which may be of many megabytes, and copies none of it.
+class PastedValues {
+public:
+    explicit PastedValues(std::string_view text);
+
+    int count() const { return m_count; }
+
+    /// The next value; an empty text behind the last one.
+    std::string_view next();
+
+private:
+    std::string_view m_rest;
+    int m_count = 0;
+};
+
+}  // namespace penwright

@@ -1,0 +1,122 @@
+#include "pages/distribution/AngleList.h"
+
+#include <algorithm>
+
+#include "core/NumberText.h"
+#include "core/PhotometricRecord.h"
+
+namespace penwright {
+namespace {
+
+/// Which tokens of an entry hold the first angle and the step, counted from 0.
+struct AngleTokens {
+    int first;
+    int step;
+};
+
+AngleTokens tokensOf(std::int16_t photometricType, AngleAxis axis)
+{
+    if (photometricType == kTypeB)
+        return {1, 4};
+    return axis == AngleAxis::Vertical ? AngleTokens{2, 5} : AngleTokens{3, 6};
+}
+
+/// One token of a text cut at single blanks, without one trailing comma; error 9 when there are fewer.
+std::string_view token(std::string_view text, int number)
+{
+    for (; number > 0; --number) {
+        const std::size_t blank = text.find(' ');
+        if (blank == std::string_view::npos)
+            throw subscriptOutOfRange();
+        text.remove_prefix(blank + 1);
+    }
+    text = text.substr(0, text.find(' '));
+    if (text.ends_with(','))
+        text.remove_suffix(1);
+    return text;
+}
+
+AngleCells blankCells(int count)
+{
+    if (count < 1)
+        throw subscriptOutOfRange();
+    AngleCells cells(count);
+    std::fill(cells.begin(), cells.end(), AngleCell(std::string(kBlankAngle)));
+    return cells;
+}
+
+AngleCells entryCells(std::string_view text, std::int16_t photometricType, AngleAxis axis)
+{
+    AngleCells cells = blankCells(toInt16(token(text, 0)));
+    float first = 0;
+    float step = 0;
+    const bool isLaterallySymmetric =
+        photometricType != kTypeB && axis == AngleAxis::Horizontal && cells.size() == 1;  // spells out no angles
+    if (!isLaterallySymmetric) {
+        const AngleTokens tokens = tokensOf(photometricType, axis);
+        first = toSingle(token(text, tokens.first));
+        step = toSingle(token(text, tokens.step));
+    }
+    for (int i = 1; i <= cells.size(); ++i)
+        cells(i) = toSingle(static_cast<float>(i - 1) * step + first);
+    return cells;
+}
+
+}  // namespace
+
+std::optional<double> numberIn(const AngleCell &cell)
+{
+    if (const auto *number = std::get_if<float>(&cell))
+        return *number;
+    const auto &text = std::get<std::string>(cell);
+    return isNumeric(text) ? std::optional(toDouble(text)) : std::nullopt;
+}
+
+float singleIn(const AngleCell &cell)
+{
+    const auto number = numberIn(cell);
+    if (!number)
+        throw typeMismatch();
+    return toSingle(*number);
+}
+
+AngleList::Resizing AngleList::resize(std::string_view text, std::int16_t photometricType)
+{
+    if (text.starts_with("Type"))
+        return Resizing::Nothing;
+    try {
+        if (leadingNumber(text) <= kMostAngles) {
+            m_cells = isNumeric(text) ? blankCells(toInt16(text)) : entryCells(text, photometricType, m_axis);
+            return Resizing::Sized;
+        }
+    } catch (const RunTimeError &) {  // a text that makes no list is replaced without a message
+    }
+    m_cells = blankCells(1);
+    return Resizing::BecameOne;
+}
+
+void AngleList::readCell(int column, std::string &value) const
+{
+    if (column >= 0 && column < m_cells.size()) {
+        const AngleCell &cell = m_cells(column + 1);
+        const auto *number = std::get_if<float>(&cell);
+        value = number ? generalText(*number) : std::get<std::string>(cell);
+    } else if (m_axis == AngleAxis::Vertical) {
+        value = kBlankAngle;
+    }
+}
+
+std::string AngleList::read(int, int column) const
+{
+    std::string value;
+    readCell(column, value);
+    return value;
+}
+
+std::optional<MessageBox> AngleList::write(int, int column, std::string_view text)
+{
+    m_cells(column + 1) = std::string(text);
+    return std::nullopt;
+}
+
+}  // namespace penwright

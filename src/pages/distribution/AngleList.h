@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "core/OneBased.h"
+#include "pages/distribution/PredefinedAngles.h"
+#include "wizard/GridSource.h"
+
+namespace penwright {
+
+/// One angle, degrees: a text as it was typed, or a single from a predefined distribution.
+using AngleCell = std::variant<std::string, float>;
+
+/// The angles of one axis, counted from 1.
+using AngleCells = OneBased<AngleCell>;
+
+/// What stands in a cell that has not been typed yet.
+inline constexpr std::string_view kBlankAngle = " ";
+
+/// The number in a cell, a numeric text's number too; nothing when it holds none.
+std::optional<double> numberIn(const AngleCell &cell);
+
+/// The number in a cell narrowed to a single; error 13 when it holds none, 6 beyond the single range.
+float singleIn(const AngleCell &cell);
+
+/// Whether the cells have ever been sized; once they are there is at least one.
+inline bool isAllocated(const AngleCells &cells)
+{
+    return !cells.empty();
+}
+
+/// The angles of one axis as page 4 keeps them and their one-row grid shows them, a column for each.
+class AngleList : public GridSource {
+public:
+    static constexpr int kMostAngles = 1000;
+
+    /// What a re-size has done.
+    enum class Resizing {
+        Nothing,    ///< the text was the prompt
+        Sized,      ///< the cells are those of the text
+        BecameOne,  ///< one blank cell, because the text was refused; "1" stands for it in the drop-down list
+    };
+
+    explicit AngleList(AngleAxis axis) : m_axis(axis) {}
+
+    /// Replaces all cells by those of a text from the axis's drop-down list: as many blank ones as a number says, or
+    /// the angles that an entry of the list spells out for the type. A number above kMostAngles and a text from which
+    /// no list can be made give one blank cell.
+    Resizing resize(std::string_view text, std::int16_t photometricType);
+
+    const AngleCells &cells() const { return m_cells; }
+
+    /// Reads a column's cell, counted from 0. Beyond the last one the vertical list gives a blank, the horizontal list
+    /// leaves the value as it came; the difference is meant.
+    void readCell(int column, std::string &value) const;
+
+    int rowCount() const override { return 1; }
+    int columnCount() const override { return m_cells.size(); }
+    std::string columnCaption(int column) const override { return std::to_string(column + 1); }
+    std::string read(int row, int column) const override;
+
+    /// Takes any text as typed: the angles are checked when the page is left.
+    std::optional<MessageBox> write(int row, int column, std::string_view text) override;
+
+private:
+    AngleAxis m_axis;
+    AngleCells m_cells;
+};
+
+}  // namespace penwright

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "wizard/DropDownList.h"
+
+namespace penwright {
+
+/// The editable drop-down list of an axis: a number is typed into it or an entry picked. What is typed is neither
+/// completed nor added to the list, and leaving the field picks nothing.
+class AngleListBox : public DropDownList {
+    Q_OBJECT
+
+public:
+    explicit AngleListBox(QWidget *parent = nullptr);
+
+    /// Replaces the entries and shows the prompt, selected, so that typing replaces it. Tells no change.
+    void offer(std::span<const std::string_view> entries);
+
+    /// The selected part of the text, the whole text when none is selected.
+    std::string chosenText() const;
+
+    /// Shows a text, selected, so that typing replaces it. Tells no change.
+    void replaceText(const QString &text);
+
+    /// Opens the list wide enough for its longest entry. A part of the text that is selected now stays selected when
+    /// the same text is picked again.
+    void showPopup() override;
+
+signals:
+    /// The text has changed, or an entry was picked, be it the same one again.
+    void changed();
+
+    /// Enter was pressed while the list was closed.
+    void entered();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    /// The selected part of a text that a list was opened over.
+    struct Selection {
+        QString text;
+        int start;
+        int length;
+    };
+
+    void tellPick();
+
+    Selection m_selection{};
+};
+
+}  // namespace penwright

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace penwright {
+
+/// The number of characters of a UTF-8 text, counted as code points.
+int codePointCount(std::string_view text);
+
+/// A code point in UTF-8.
+std::string codePointText(char32_t codePoint);
+
+/// The text without its first character; "" stays "". Of a text that is no UTF-8 at least one byte goes, and no more
+/// than the first byte announces.
+std::string_view withoutFirstCodePoint(std::string_view text);
+
+}  // namespace penwright

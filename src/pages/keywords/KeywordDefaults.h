@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+
+#include "pages/keywords/KeywordRows.h"
+
+namespace penwright {
+
+class SettingsStore;
+
+/// What a row's name in the stored defaults begins with: the character of code point 64 + row, "A" for row 1. The
+/// surrogates, which are no characters, are stepped over: from row 55,232 on it is 2,048 further. "" for the rows from
+/// 1,112,000 on, behind the last code point there is.
+std::string defaultsPrefix(int row);
+
+/// Fills the rows with the user's default block, in the order in which it was written, or with the built-in block of
+/// nine when none is stored. Raises the errors of the store and leaves the rows as they are.
+void gsbKeyDefaultLoad(SettingsStore &store, KeywordRows &rows);
+
+/// Replaces the user's default block with the rows, the empty ones included. Every error of the store is ignored: a row
+/// that cannot be written is left out, and a store that cannot be written at all keeps the block that it had.
+void gsbKeyDefaultSave(SettingsStore &store, const OneBased<KeywordRow> &rows);
+
+}  // namespace penwright

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QPointer>
+
+#include "pages/keywords/KeywordRows.h"
+#include "wizard/GridView.h"
+
+class QAction;
+class QMenu;
+
+namespace penwright {
+
+/// The grid of the keyword lines. Ctrl++ inserts an empty row before the current one, Ctrl+- deletes the selected rows,
+/// Ctrl+Shift+Up and Ctrl+Shift+Down move them; the context menu, `mnuRows`, does the same. An open editor is committed
+/// first.
+class KeywordGrid : public GridView {
+    Q_OBJECT
+
+public:
+    explicit KeywordGrid(QWidget *parent = nullptr);
+
+    /// Serves `rows`, which outlive the grid.
+    void setRows(KeywordRows &rows, Dialogs &dialogs);
+
+    /// Shows the rows anew after they have been replaced; drops an open editor.
+    void rowsReplaced();
+
+    /// The current line as it would be stored, with what is typed in an open editor.
+    KeywordRow shownLine() const;
+
+signals:
+    /// The rows, the current line or what is typed in it may have changed.
+    void lineChanged();
+
+protected:
+    bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+protected slots:
+    void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
+
+private:
+    /// The selected rows, both ends included.
+    struct Span {
+        int first, last;
+    };
+
+    QAction *addRowAction(const char *name, const QString &text, const QList<QKeySequence> &keys,
+                          void (KeywordGrid::*act)());
+    void insertRow();
+    void deleteRows();
+    void moveRowsUp();
+    void moveRowsDown();
+    void showMoved(Span rows);
+    void headerMenu(const QPoint &place);
+
+    Span selectedRows() const;
+    void enableActions();
+    void setKeyWidth();
+
+    KeywordRows *m_rows = nullptr;
+    QMenu *m_menu;
+    QAction *m_delete;
+    QAction *m_up;
+    QAction *m_down;
+    QPointer<QLineEdit> m_line;  ///< the text in the open editor
+};
+
+}  // namespace penwright

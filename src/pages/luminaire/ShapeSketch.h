@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+namespace penwright {
+
+/// A place on the sketch: from 0 at the left and top edge to kSketchWidth and kSketchHeight.
+struct SketchPoint {
+    double x = 0;
+    double y = 0;
+};
+
+inline constexpr double kSketchWidth = 4;
+inline constexpr double kSketchHeight = 3;
+
+enum class StrokeKind {
+    Outline,  ///< an edge of the shape, or what of its curved sides is in sight
+    Hidden,   ///< an edge of the shape that lies behind it
+    Frame,    ///< the frame of reference: what is there for every shape, and the centre lines of the flat ones
+};
+
+/// A line drawn through the points, in their order.
+struct SketchStroke {
+    StrokeKind kind = StrokeKind::Outline;
+    std::vector<SketchPoint> points;
+};
+
+/// A text at the end of a line: beside the place, on the side that a way of length 1 leads to.
+struct SketchLabel {
+    std::string_view text;
+    SketchPoint end;
+    SketchPoint away;
+};
+
+struct ShapeSketch {
+    std::vector<SketchStroke> strokes;
+    std::vector<SketchLabel> labels;
+};
+
+/// The luminous shape at a list position, seen from above in a light perspective: its length lies along the plane of 0
+/// and 180 degrees, its width along that of 90 and 270. A small frame of reference names length, width and height, and
+/// two arrows point to 0 and 90 degrees. Outside positions 0 to 14 these stand alone.
+ShapeSketch sketchOfShape(int position);
+
+}  // namespace penwright

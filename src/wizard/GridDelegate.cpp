@@ -1,0 +1,110 @@
+#include "wizard/GridDelegate.h"
+
+#include <limits>
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QLineEdit>
+#include <QPainter>
+#include <QToolTip>
+
+#include "wizard/GridChoiceBox.h"
+#include "wizard/GridModel.h"
+
+namespace penwright {
+namespace {
+
+constexpr int kArrowWidth = 20;
+
+std::vector<GridChoice> choicesOf(const QModelIndex &index)
+{
+    return static_cast<const GridModel *>(index.model())->choices(index.row() + 1, index.column());
+}
+
+void paintArrow(QPainter &painter, const QStyleOptionViewItem &cell)
+{
+    QStyleOption arrow;
+    arrow.rect = GridDelegate::arrowRect(cell.rect);
+    arrow.palette = cell.palette;
+    arrow.state = QStyle::State_Enabled;
+    painter.fillRect(arrow.rect, cell.palette.button());
+    arrow.rect.adjust(4, 4, -4, -4);
+    cell.widget->style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, cell.widget);
+}
+
+}  // namespace
+
+QLineEdit *editorLine(QWidget *editor)
+{
+    auto *box = qobject_cast<QComboBox *>(editor);
+    return box ? box->lineEdit() : qobject_cast<QLineEdit *>(editor);
+}
+
+GridDelegate::GridDelegate(QAbstractItemView *view) : QStyledItemDelegate(view), m_view(view) {}
+
+QRect GridDelegate::arrowRect(const QRect &cell)
+{
+    return cell.adjusted(std::max(0, cell.width() - kArrowWidth), 0, 0, 0);
+}
+
+void GridDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::paint(painter, option, index);
+    if (index == m_view->currentIndex() && !choicesOf(index).empty())
+        paintArrow(*painter, option);
+}
+
+void GridDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const
+{
+    QStyledItemDelegate::initStyleOption(option, index);
+    option->displayAlignment = m_alignment | Qt::AlignVCenter;
+}
+
+QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const
+{
+    const auto choices = choicesOf(index);
+    QWidget *editor =
+        choices.empty() ? static_cast<QWidget *>(new QLineEdit(parent)) : new GridChoiceBox(choices, parent);
+    editorLine(editor)->setMaxLength(std::numeric_limits<int>::max());
+    editorLine(editor)->setAlignment(m_alignment | Qt::AlignVCenter);
+    const auto *model = index.model();
+    editor->setAccessibleName(QString("Row %1, %2")
+                                  .arg(model->headerData(index.row(), Qt::Vertical, Qt::DisplayRole).toString(),
+                                       model->headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString()));
+    editor->setAutoFillBackground(true);
+    return editor;
+}
+
+void GridDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
+{
+    const QString text = index.data(Qt::EditRole).toString();
+    if (auto *box = qobject_cast<QComboBox *>(editor)) {
+        box->setCurrentIndex(box->findText(text, Qt::MatchFixedString | Qt::MatchCaseSensitive));
+        box->setEditText(text);
+    } else {
+        editorLine(editor)->setText(text);
+    }
+    editorLine(editor)->selectAll();
+}
+
+void GridDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
+{
+    model->setData(index, editorLine(editor)->text(), Qt::EditRole);
+}
+
+void GridDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option, const QModelIndex &) const
+{
+    editor->setGeometry(option.rect);
+}
+
+bool GridDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,
+                             const QModelIndex &index)
+{
+    if (event->type() != QEvent::ToolTip)
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    const bool isCut = index.isValid() && sizeHint(option, index).width() > view->visualRect(index).width();
+    const QString text = isCut ? index.data().toString() : QString();
+    QToolTip::showText(event->globalPos(), isCut ? Qt::convertFromPlainText(text) : QString(), view);
+    return isCut;
+}
+
+}  // namespace penwright

@@ -1,0 +1,192 @@
+#include <random>
+
+#include "core/NumberText.h"
+#include "pages/candela/PastedValues.h"
+#include "unit/pages/candela/CandelaTest.h"
+
+namespace penwright::test {
+namespace {
+
+struct ValuesCase {
+    std::string text;
+    std::vector<std::string> values;
+};
+
+class Values : public testing::TestWithParam<ValuesCase> {};
+
+TEST_P(Values, areSeparatedByTabsAndLineEndsAlike)
+{
+    PastedValues values(GetParam().text);
+    ASSERT_EQ(values.count(), static_cast<int>(GetParam().values.size()));
+    for (const std::string &expected : GetParam().values)
+        EXPECT_EQ(values.next(), expected);
+    EXPECT_EQ(values.next(), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, Values,
+                         testing::ValuesIn(std::vector<ValuesCase>{
+                             {"", {}},
+                             {"\r\n", {}},
+                             {"\n", {}},
+                             {"\r", {}},
+                             {"1", {"1"}},
+                             {"1\r\n", {"1"}},
+                             {"1\n", {"1"}},
+                             {"1\r", {"1"}},
+                             {"1\r\n\r\n", {"1", ""}},
+                             {"1\n\n", {"1", ""}},
+                             {"\r\n1", {"", "1"}},
+                             {"\t", {"", ""}},
+                             {"1\t", {"1", ""}},
+                             {"1\t\r\n", {"1", ""}},
+                             {"1\t2\r\n3\t4\r\n", {"1", "2", "3", "4"}},
+                             {"1\t2\n3\t4", {"1", "2", "3", "4"}},
+                             {"1\r2\r3", {"1", "2", "3"}},
+                             {"1\r\r\n2", {"1", "", "2"}},
+                             {"1\n\r\n2", {"1", "", "2"}},
+                             {" 1 \t x y ", {" 1 ", " x y "}},
+                         }));
+
+class CandelaPaste : public CandelaTest {
+protected:
+    std::string paste(const std::string &text)
+    {
+        const auto refusal = table.PasteCandelaTable(text);
+        return refusal ? told(refusal->box) : "";
+    }
+};
+
+TEST_F(CandelaPaste, fillsRowByRowWhateverTheArrangement)
+{
+    for (const std::string text :
+         {"1\t2\t3\r\n4\t5\t6\r\n7\t8\t9\r\n10\t11\t12", "1\t2\t3\t4\t5\t6\t7\t8\t9\t10\t11\t12",
+          "1\n2\n3\n4\n5\n6\n7\n8\n9\n10\n11\n12\n", "1\t2\t3\t4\r5\t6\t7\t8\r\n9\t10\t11\t12\n"}) {
+        flags = CandelaState();
+        build({0, 45, 90}, {0, 30, 60, 90});
+        EXPECT_EQ(paste(text), "") << text;
+        EXPECT_EQ(table.CopyCandelaTable(), "1\t2\t3\r\n4\t5\t6\r\n7\t8\t9\r\n10\t11\t12\r\n") << text;
+        EXPECT_EQ(work().Candela(3, 2), 6) << text;
+    }
+}
+
+struct CountCase {
+    std::string text;
+    std::string message;
+};
+
+class CandelaCount : public CandelaPaste, public testing::WithParamInterface<CountCase> {};
+
+TEST_P(CandelaCount, changesNothingUnlessAllValuesAreThere)
+{
+    build({0, 45, 90}, {0, 30, 60, 90});
+    table.write(1, 1, "5");
+    const std::string before = shown();
+    const auto refusal = table.PasteCandelaTable(GetParam().text);
+    ASSERT_TRUE(refusal);
+    EXPECT_EQ(told(refusal->box), "[PenwrightPE|0] " + GetParam().message);
+    EXPECT_EQ(refusal->row, 0);
+    EXPECT_EQ(shown(), before);
+    EXPECT_EQ(work().Candela(1, 1), 5);
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, CandelaCount,
+                         testing::ValuesIn(std::vector<CountCase>{
+                             {"1\t2\t3\t4\t5\t6\t7\t8\t9\t10", "9 values read; need 11"},
+                             {"1\t2\t3\t4\t5\t6\t7\t8\t9\t10\t11\t12\t13", "12 values read; need 11"},
+                             {"1\t2\t3\t4\t5\t6\t7\t8\t9\t10\t11\t12\t", "12 values read; need 11"},
+                             {"1\t2\t3\t4\t5\t6\t7\t8\t9\t10\t11\t12\n\n", "12 values read; need 11"},
+                             {"abc", "0 values read; need 11"},
+                             {"", "-1 values read; need 11"},
+                         }));
+
+TEST_F(CandelaPaste, doesNotAskForTheLimitsOfTypedValues)
+{
+    build({0, 90}, {0, 90});
+    EXPECT_EQ(paste("-5\t10000000\t1E-40\t3E38"), "");
+    EXPECT_EQ(table.CandelaCells()(1, 1), CandelaCell(-5.0F));
+    EXPECT_EQ(table.read(1, 2), "1E+07");
+    EXPECT_EQ(table.read(2, 2), "3E+38");
+}
+
+TEST_F(CandelaPaste, endsAtATextThatIsNoNumberAndKeepsWhatCameBefore)
+{
+    build({0, 45, 90}, {0, 30});
+    table.PasteCandelaTable("9\t9\t9\t9\t9\t9");
+    const auto refusal = table.PasteCandelaTable("1\t2\t3\r\n4\tabc\t6\r\n");
+    ASSERT_TRUE(refusal);
+    EXPECT_EQ(
+        told(refusal->box),
+        "[The page|0] Row 2, column 2 (V:30 H:45): \"abc\" is not a number. The values before it have been pasted.");
+    EXPECT_EQ(refusal->row, 2);
+    EXPECT_EQ(refusal->column, 2);
+    EXPECT_EQ(table.CopyCandelaTable(), "1\t2\t3\r\n4\t9\t9\r\n");
+    EXPECT_EQ(work().Candela(1, 2), 4);
+    EXPECT_EQ(work().Candela(2, 2), 9);
+}
+
+struct BadValueCase {
+    std::string value;
+    std::string message;
+};
+
+class CandelaBadValue : public CandelaPaste, public testing::WithParamInterface<BadValueCase> {};
+
+TEST_P(CandelaBadValue, isNamedAndChangesNothingWhenItComesFirst)
+{
+    build({0}, {0, 90});
+    EXPECT_EQ(paste(GetParam().value + "\t1"), "[The page|0] Row 1, column 1 (V:0 H:0): " + GetParam().message +
+                                                   " The values before it have been pasted.");
+    EXPECT_EQ(table.CopyCandelaTable(), " \r\n \r\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, CandelaBadValue,
+                         testing::ValuesIn(std::vector<BadValueCase>{
+                             {"", "\"\" is not a number."},
+                             {" ", "\" \" is not a number."},
+                             {"1,5", "\"1,5\" is not a number."},
+                             {"0x10", "\"0x10\" is not a number."},
+                             {"inf", "\"inf\" is not a number."},
+                             {"1E39", "\"1E39\" is too large a number."},
+                             {"-1E39", "\"-1E39\" is too large a number."},
+                             {"1E999", "\"1E999\" is not a number."},
+                             {std::string(61, 'x'), "\"" + std::string(60, 'x') + "...\" is not a number."},
+                             {std::string(59, 'x') + "\u00e9\u00e9",
+                              "\"" + std::string(59, 'x') + "...\" is not a number."},
+                         }));
+
+TEST_F(CandelaPaste, ofWhatWasCopiedChangesNoNumber)
+{
+    std::mt19937 random(20260727);
+    const auto below = [&](unsigned bound) { return static_cast<int>(random() % bound); };
+    for (int round = 0; round < 60; ++round) {
+        flags = CandelaState();
+        build(std::vector<float>(static_cast<std::size_t>(1 + below(9))),
+              std::vector<float>(static_cast<std::size_t>(1 + below(12))));
+        std::string text;
+        for (int i = 0; i < table.CandelaCells().rows() * table.CandelaCells().columns(); ++i)
+            text += (i > 0 ? "\t" : "") +
+                    generalText(static_cast<float>(below(10000000)) / static_cast<float>(1 + below(999)));
+        ASSERT_EQ(paste(text), "");
+        const OneBasedTable<CandelaCell> cells = table.CandelaCells();
+        std::string copied = table.CopyCandelaTable();
+        ASSERT_EQ(paste(copied), "");
+        ASSERT_EQ(table.CandelaCells(), cells);
+        std::string plain;
+        for (const char character : copied)
+            if (character != '\r')
+                plain += character;
+        ASSERT_EQ(paste(plain), "");
+        ASSERT_EQ(paste(plain.substr(0, plain.size() - 1)), "");
+        ASSERT_EQ(table.CandelaCells(), cells);
+        ASSERT_EQ(table.CopyCandelaTable(), copied);
+    }
+}
+
+TEST_F(CandelaPaste, needsMoreValuesThanSixteenBitsCount)
+{
+    build(std::vector<float>(1000), std::vector<float>(1000));
+    EXPECT_EQ(paste("1\t2"), "[PenwrightPE|0] 1 values read; need 999999");
+}
+
+}  // namespace
+}  // namespace penwright::test

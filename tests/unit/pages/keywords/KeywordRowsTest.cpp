@@ -1,0 +1,183 @@
+#include "pages/keywords/KeywordRows.h"
+
+#include <gtest/gtest.h>
+
+#include "pages/keywords/KeywordTable.h"
+
+namespace penwright::test {
+namespace {
+
+/// Rows with the given keys, and the key in small letters as each value.
+KeywordRows rowsOf(const std::string &keys)
+{
+    KeywordRows rows;
+    for (const char key : keys) {
+        rows.append();
+        rows.write(rows.rowCount(), KeywordRows::kKey, std::string(1, key));
+        rows.write(rows.rowCount(), KeywordRows::kValue, std::string(1, static_cast<char>(key + 32)));
+    }
+    return rows;
+}
+
+/// The rows as text: "Aa Bb", "-" for an empty one.
+std::string shown(const KeywordRows &rows)
+{
+    std::string text;
+    for (int row = 1; row <= rows.rowCount(); ++row)
+        text += (row > 1 ? " " : "") +
+                (rows.rows()(row).isEmpty() ? "-" : rows.read(row, KeywordRows::kKey) + rows.read(row, 1));
+    return text;
+}
+
+TEST(KeywordRows, haveTwoColumnsUnderTheirCaptions)
+{
+    const KeywordRows rows;
+    EXPECT_EQ(rows.columnCount(), 2);
+    EXPECT_EQ(rows.columnCaption(0), "Keyword");
+    EXPECT_EQ(rows.columnCaption(1), "Description (254 total chars max per line. or use [MORE]  )");
+    EXPECT_EQ(rows.rowCount(), 0);
+    EXPECT_TRUE(rows.canAppend());
+    EXPECT_FALSE(rows.isReadOnly(0) || rows.isReadOnly(1));
+}
+
+TEST(KeywordRows, cellKeepsItsTextWithoutOuterBlanks)
+{
+    KeywordRows rows = rowsOf("AB");
+    EXPECT_EQ(rows.write(2, 0, "  [_MY KEY] "), std::nullopt);
+    EXPECT_EQ(rows.write(2, 1, " two  words   "), std::nullopt);
+    EXPECT_EQ(rows.rows(), (OneBased<KeywordRow>{{"A", "a"}, {"[_MY KEY]", "two  words"}}));
+    rows.write(1, 1, "   ");
+    rows.write(1, 0, "\t[TEST]\t");
+    EXPECT_EQ(rows.rows()(1), (KeywordRow{"\t[TEST]\t", ""}));
+}
+
+TEST(KeywordRows, anyTextIsTaken)
+{
+    KeywordRows rows = rowsOf("A");
+    for (const std::string &text : {std::string(), std::string(1000, 'x'), std::string("\xFF"), std::string("[FOO")})
+        for (const int column : {0, 1}) {
+            EXPECT_EQ(rows.check(1, column, text), std::nullopt);
+            EXPECT_EQ(rows.write(1, column, text), std::nullopt);
+            EXPECT_EQ(rows.read(1, column), text);
+        }
+}
+
+TEST(KeywordRows, clearedCellIsEmpty)
+{
+    KeywordRows rows = rowsOf("AB");
+    rows.clear(1, 1);
+    rows.clear(2, 0);
+    EXPECT_EQ(rows.rows(), (OneBased<KeywordRow>{{"A", ""}, {"", "b"}}));
+}
+
+TEST(KeywordRows, appendKeepsTheRowsBefore)
+{
+    KeywordRows rows = rowsOf("AB");
+    rows.append();
+    EXPECT_EQ(shown(rows), "Aa Bb -");
+}
+
+struct InsertCase {
+    int row;
+    std::string after;
+};
+
+class KeywordInsert : public testing::TestWithParam<InsertCase> {};
+
+INSTANTIATE_TEST_SUITE_P(Rows, KeywordInsert,
+                         testing::Values(InsertCase{1, "- Aa Bb Cc"}, InsertCase{2, "Aa - Bb Cc"},
+                                         InsertCase{3, "Aa Bb - Cc"}, InsertCase{4, "Aa Bb Cc -"},
+                                         InsertCase{5, "Aa Bb Cc -"}, InsertCase{0, "Aa Bb Cc -"}));
+
+TEST_P(KeywordInsert, putsAnEmptyRowBeforeTheRow)
+{
+    KeywordRows rows = rowsOf("ABC");
+    rows.insert(GetParam().row);
+    EXPECT_EQ(shown(rows), GetParam().after);
+}
+
+struct BlockCase {
+    int first;
+    int last;
+    std::string after;
+};
+
+class KeywordRemove : public testing::TestWithParam<BlockCase> {};
+
+INSTANTIATE_TEST_SUITE_P(Blocks, KeywordRemove,
+                         testing::Values(BlockCase{1, 1, "Bb Cc Dd"}, BlockCase{2, 3, "Aa Dd"},
+                                         BlockCase{4, 4, "Aa Bb Cc"}, BlockCase{3, 5, "Aa Bb"}, BlockCase{1, 4, ""},
+                                         BlockCase{0, 1, "Bb Cc Dd"}, BlockCase{5, 5, "Aa Bb Cc Dd"},
+                                         BlockCase{3, 2, "Aa Bb Cc Dd"}, BlockCase{0, 0, "Aa Bb Cc Dd"}));
+
+TEST_P(KeywordRemove, takesTheRowsThatExist)
+{
+    KeywordRows rows = rowsOf("ABCD");
+    rows.remove(GetParam().first, GetParam().last);
+    EXPECT_EQ(shown(rows), GetParam().after);
+}
+
+class KeywordMoveUp : public testing::TestWithParam<BlockCase> {};
+
+INSTANTIATE_TEST_SUITE_P(Blocks, KeywordMoveUp,
+                         testing::Values(BlockCase{2, 2, "Bb Aa Cc Dd"}, BlockCase{4, 4, "Aa Bb Dd Cc"},
+                                         BlockCase{3, 4, "Aa Cc Dd Bb"}, BlockCase{2, 4, "Bb Cc Dd Aa"},
+                                         BlockCase{1, 2, ""}, BlockCase{4, 5, ""}, BlockCase{5, 5, ""},
+                                         BlockCase{0, 1, ""}, BlockCase{3, 2, ""}));
+
+TEST_P(KeywordMoveUp, goesOverTheRowBefore)
+{
+    KeywordRows rows = rowsOf("ABCD");
+    EXPECT_EQ(rows.moveUp(GetParam().first, GetParam().last), !GetParam().after.empty());
+    EXPECT_EQ(shown(rows), GetParam().after.empty() ? "Aa Bb Cc Dd" : GetParam().after);
+}
+
+class KeywordMoveDown : public testing::TestWithParam<BlockCase> {};
+
+INSTANTIATE_TEST_SUITE_P(Blocks, KeywordMoveDown,
+                         testing::Values(BlockCase{1, 1, "Bb Aa Cc Dd"}, BlockCase{3, 3, "Aa Bb Dd Cc"},
+                                         BlockCase{1, 2, "Cc Aa Bb Dd"}, BlockCase{1, 3, "Dd Aa Bb Cc"},
+                                         BlockCase{4, 4, ""}, BlockCase{3, 4, ""}, BlockCase{5, 5, ""},
+                                         BlockCase{0, 1, ""}, BlockCase{3, 2, ""}));
+
+TEST_P(KeywordMoveDown, goesOverTheRowBehind)
+{
+    KeywordRows rows = rowsOf("ABCD");
+    EXPECT_EQ(rows.moveDown(GetParam().first, GetParam().last), !GetParam().after.empty());
+    EXPECT_EQ(shown(rows), GetParam().after.empty() ? "Aa Bb Cc Dd" : GetParam().after);
+}
+
+TEST(KeywordRows, emptyRowHasNeitherKeyNorValue)
+{
+    KeywordRows rows;
+    rows.setRows({{"", ""}, {"[TEST]", ""}, {"", "value"}, {"", ""}});
+    EXPECT_EQ(rows.emptyRows(), (std::vector{1, 4}));
+    EXPECT_TRUE(KeywordRows().emptyRows().empty());
+}
+
+std::string offered(const KeywordRows &rows, int row)
+{
+    std::string text;
+    for (const GridChoice &choice : rows.choices(row, KeywordRows::kKey))
+        text += choice.text + "|" + choice.hint + "\n";
+    return text;
+}
+
+TEST(KeywordRows, keywordColumnOffersTheTableAndRowOneTheVersionsFirst)
+{
+    std::string table;
+    for (const KeywordEntry &entry : kStandardKeywords)
+        table.append(entry.keyword).append("|").append(entry.description).append("\n");
+    const KeywordRows rows = rowsOf("AB");
+    EXPECT_EQ(offered(rows, 2), table);
+    EXPECT_EQ(offered(rows, 3), table);
+    EXPECT_EQ(offered(rows, 1),
+              "IESNA:LM-63-2002|Version line of the format of 2002\n"
+              "IESNA:LM-63-1995|Version line of the format of 1995\n"
+              "IESNA91|Version line of the format of 1991\n" +
+                  table);
+    EXPECT_TRUE(rows.choices(1, KeywordRows::kValue).empty());
+}
+
+}  // namespace
+}  // namespace penwright::test

@@ -1,0 +1,135 @@
+#include "pages/luminaire/TiltTable.h"
+
+#include <gtest/gtest.h>
+
+namespace penwright::test {
+namespace {
+
+const std::string kTitle = "the page";
+
+/// A table of three angles with a value in each cell.
+TiltTable filledTable()
+{
+    TiltTable table(kTitle);
+    table.takeCount("3");
+    for (int row = 1; row <= 3; ++row) {
+        table.write(row, TiltTable::kAngle, std::to_string(row * 10));
+        table.write(row, TiltTable::kFactor, "0." + std::to_string(row));
+    }
+    return table;
+}
+
+TEST(TiltTable, isEmptyWithTwoNamedColumns)
+{
+    const TiltTable table(kTitle);
+    EXPECT_EQ(table.rowCount(), 0);
+    EXPECT_EQ(table.columnCount(), 2);
+    EXPECT_EQ(table.columnCaption(0), "Angle");
+    EXPECT_EQ(table.columnCaption(1), "Factor");
+    EXPECT_FALSE(table.canAppend());
+}
+
+struct CountCase {
+    std::string text;
+    int count;
+};
+
+class TiltCount : public testing::TestWithParam<CountCase> {};
+
+INSTANTIATE_TEST_SUITE_P(Taken, TiltCount,
+                         testing::Values(CountCase{"1", 1}, CountCase{"6", 6}, CountCase{" +4 ", 4},
+                                         CountCase{"3.0", 3}, CountCase{"2.5", 2}, CountCase{"3.5", 4},
+                                         CountCase{"0.6", 1}, CountCase{"1E3", 1000}, CountCase{"32767", 32767},
+                                         CountCase{"32767.4", 32767}));
+
+TEST_P(TiltCount, givesBothListsThatLengthAndZeros)
+{
+    TiltTable table = filledTable();
+    EXPECT_TRUE(table.takeCount(GetParam().text));
+    EXPECT_EQ(table.angles(), OneBased<float>(GetParam().count));
+    EXPECT_EQ(table.factors(), OneBased<float>(GetParam().count));
+}
+
+class TiltNoCount : public testing::TestWithParam<std::string> {};
+
+INSTANTIATE_TEST_SUITE_P(Left, TiltNoCount,
+                         testing::Values("", " ", "abc", "0", "-3", "0.0", "0.5", "0.4", "1E-50", "3x", "1,5", "32768",
+                                         "32767.5", "40000", "2147483648", "1E300"));
+
+TEST_P(TiltNoCount, leavesTheListsAsTheyAre)
+{
+    TiltTable table = filledTable();
+    EXPECT_FALSE(table.takeCount(GetParam()));
+    EXPECT_EQ(table.angles(), (OneBased<float>{10, 20, 30}));
+    EXPECT_EQ(table.factors(), (OneBased<float>{0.1F, 0.2F, 0.3F}));
+}
+
+TEST(TiltTable, sameLengthAnewSetsAllToZero)
+{
+    TiltTable table = filledTable();
+    EXPECT_TRUE(table.takeCount("3.0"));
+    EXPECT_EQ(table.angles(), OneBased<float>(3));
+}
+
+TEST(TiltTable, eachColumnHasItsOwnValues)
+{
+    TiltTable table = filledTable();
+    EXPECT_EQ(table.write(2, 0, "45"), std::nullopt);
+    EXPECT_EQ(table.write(3, 1, " .95 "), std::nullopt);
+    EXPECT_EQ(table.angles(), (OneBased<float>{10, 45, 30}));
+    EXPECT_EQ(table.factors(), (OneBased<float>{0.1F, 0.2F, 0.95F}));
+}
+
+TEST(TiltTable, showsSinglesInTheGeneralForm)
+{
+    TiltTable table = filledTable();
+    const auto shown = [&](std::string_view text) {
+        table.write(1, 0, text);
+        return table.read(1, 0);
+    };
+    EXPECT_EQ(shown("22.50"), "22.5");
+    EXPECT_EQ(shown("-0"), "0");
+    EXPECT_EQ(shown(".5"), "0.5");
+    EXPECT_EQ(shown("0.1234567891"), "0.1234568");
+    EXPECT_EQ(shown("10000000"), "1E+07");
+}
+
+struct RefusedCell {
+    int row;
+    int column;
+    std::string text;
+    std::string message;
+};
+
+class TiltRefusal : public testing::TestWithParam<RefusedCell> {};
+
+INSTANTIATE_TEST_SUITE_P(Cells, TiltRefusal,
+                         testing::Values(RefusedCell{3, 0, "abc", "Row 3, Angle: \"abc\" is not a number."},
+                                         RefusedCell{1, 1, "1,5", "Row 1, Factor: \"1,5\" is not a number."},
+                                         RefusedCell{2, 0, "", "Row 2, Angle: \"\" is not a number."},
+                                         RefusedCell{3, 0, "1E39", "Row 3, Angle: Overflow"},
+                                         RefusedCell{3, 1, "-4E38", "Row 3, Factor: Overflow"},
+                                         RefusedCell{32767, 0, "x", "Row 32767, Angle: \"x\" is not a number."}));
+
+TEST_P(TiltRefusal, namesRowColumnAndTextAndLeavesTheCell)
+{
+    const RefusedCell &cell = GetParam();
+    const MessageBox expected{.text = cell.message, .flags = kOkOnly, .title = kTitle};
+    TiltTable table = filledTable();
+    EXPECT_EQ(table.check(cell.row, cell.column, cell.text), expected);
+    EXPECT_EQ(table.write(cell.row, cell.column, cell.text), expected);
+    EXPECT_EQ(table.angles(), (OneBased<float>{10, 20, 30}));
+    EXPECT_EQ(table.factors(), (OneBased<float>{0.1F, 0.2F, 0.3F}));
+}
+
+TEST(TiltTable, clearedCellIsZero)
+{
+    TiltTable table = filledTable();
+    EXPECT_EQ(table.clear(2, 0), std::nullopt);
+    EXPECT_EQ(table.clear(3, 1), std::nullopt);
+    EXPECT_EQ(table.angles(), (OneBased<float>{10, 0, 30}));
+    EXPECT_EQ(table.factors(), (OneBased<float>{0.1F, 0.2F, 0}));
+}
+
+}  // namespace
+}  // namespace penwright::test

@@ -1,0 +1,171 @@
+#include "widgets/GridViewTest.h"
+
+namespace penwright::test {
+namespace {
+
+class GridPaste : public GridTest {
+protected:
+    void SetUp() override
+    {
+        table.cells = {{"A1", "B1"}, {"A2", "B2"}, {"A3", "B3"}};
+        show(table);
+    }
+
+    static void setClipboard(const char *text) { QApplication::clipboard()->setText(text); }
+    static std::string clipboard() { return QApplication::clipboard()->text().toStdString(); }
+    static void copy() { press(Qt::Key_C, Qt::ControlModifier); }
+    void paste(const char *text)
+    {
+        setClipboard(text);
+        press(Qt::Key_V, Qt::ControlModifier);
+        settle();
+    }
+
+    TextTable table{3, 2};
+};
+
+TEST_F(GridPaste, copiesTheSelectedBlockAsPlainText)
+{
+    grid->goTo(2, 0);
+    copy();
+    EXPECT_EQ(clipboard(), "A2");
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    copy();
+    EXPECT_EQ(clipboard(), "A2\tB2\nA3\tB3");
+    EXPECT_EQ(QApplication::clipboard()->mimeData()->formats(), QStringList("text/plain"));
+}
+
+TEST_F(GridPaste, selectAllCopiesTheTableWithoutTheRowToAppend)
+{
+    table.growing = true;
+    grid->refresh();
+    press(Qt::Key_A, Qt::ControlModifier);
+    copy();
+    EXPECT_EQ(clipboard(), "A1\tB1\nA2\tB2\nA3\tB3");
+}
+
+TEST_F(GridPaste, pastesFromTheCurrentCellWithEitherLineEnd)
+{
+    for (const char *text : {"1\t2\n3\t4", "1\t2\r\n3\t4", "1\t2\n3\t4\n", "1\t2\r\n3\t4\r\n"}) {
+        table.cells = {{"A1", "B1"}, {"A2", "B2"}, {"A3", "B3"}};
+        taken.clear();
+        grid->goTo(2, 0);
+        paste(text);
+        EXPECT_EQ(table.all(), "A1|B1 / 1|2 / 3|4");
+        EXPECT_EQ(taken, "A2 B2 A3 B3 ");
+        EXPECT_EQ(dialogs.transcript, "");
+    }
+}
+
+TEST_F(GridPaste, pastesFromTheTopLeftOfASelectedBlock)
+{
+    grid->goTo(2, 0);
+    press(Qt::Key_Right, Qt::ShiftModifier);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    paste("1\t2\n3\t4");
+    EXPECT_EQ(table.all(), "A1|B1 / 1|2 / 3|4");
+}
+
+TEST_F(GridPaste, ownCopyPastedBackChangesNothing)
+{
+    press(Qt::Key_A, Qt::ControlModifier);
+    copy();
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(taken, "");
+    EXPECT_EQ(table.all(), "A1|B1 / A2|B2 / A3|B3");
+}
+
+TEST_F(GridPaste, oneRefusedTextRefusesTheWholeBlock)
+{
+    paste("1\t2\nx3\tx4\n5\t6");
+    EXPECT_EQ(dialogs.transcript, "[PenwrightPE|0] no x3 in A2\n");
+    EXPECT_EQ(table.all(), "A1|B1 / A2|B2 / A3|B3");
+    EXPECT_EQ(current(), "A2");
+    EXPECT_EQ(focus(), "cell");
+}
+
+TEST_F(GridPaste, blockThatDoesNotFitIsRefusedWhole)
+{
+    grid->goTo(2, 1);
+    paste("1\t2\n3\t4\n5\t6");
+    EXPECT_EQ(dialogs.transcript,
+              "[the page|0] The copied block has 3 rows and 2 columns. From here on there is room for 2 rows and 1 "
+              "column.\n");
+    EXPECT_EQ(table.all(), "A1|B1 / A2|B2 / A3|B3");
+}
+
+TEST_F(GridPaste, rowsAreAppendedWhereTheyCanBe)
+{
+    table.growing = true;
+    grid->refresh();
+    grid->goTo(3, 0);
+    paste("1\t2\n3\t4\n5\t6");
+    EXPECT_EQ(table.all(), "A1|B1 / A2|B2 / 1|2 / 3|4 / 5|6");
+    EXPECT_EQ(grid->model()->rowCount(), 6);
+    grid->goTo(6, 1);
+    paste("9");
+    EXPECT_EQ(table.rowCount(), 6);
+    paste("1\t2");
+    EXPECT_EQ(dialogs.transcript,
+              "[the page|0] The copied block has 2 columns. From here on there is room for 1 column.\n");
+}
+
+TEST_F(GridPaste, refusedBlockAppendsNoRow)
+{
+    table.growing = true;
+    grid->refresh();
+    grid->goTo(3, 0);
+    paste("1\n2\nx");
+    EXPECT_EQ(dialogs.transcript, "[PenwrightPE|0] no x in A5\n");
+    EXPECT_EQ(table.all(), "A1|B1 / A2|B2 / A3|B3");
+    EXPECT_EQ(grid->model()->rowCount(), 4);
+}
+
+TEST_F(GridPaste, readOnlyColumnRefusesTheBlock)
+{
+    table.readOnlyColumn = 1;
+    paste("1\t2");
+    EXPECT_EQ(dialogs.transcript, "[the page|0] Row 1: the column \"B\" cannot be changed.\n");
+    EXPECT_EQ(table.all(), "A1|B1 / A2|B2 / A3|B3");
+}
+
+TEST_F(GridPaste, emptyClipboardChangesNothing)
+{
+    paste("");
+    EXPECT_EQ(table.all(), "A1|B1 / A2|B2 / A3|B3");
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
+TEST_F(GridPaste, linesMayDifferInLength)
+{
+    paste("1\n2\t3\n");
+    EXPECT_EQ(table.all(), "1|B1 / 2|3 / A3|B3");
+}
+
+TEST_F(GridPaste, openEditorCopiesAndPastesItsOwnText)
+{
+    type("abc");
+    press(Qt::Key_A, Qt::ControlModifier);
+    copy();
+    EXPECT_EQ(clipboard(), "abc");
+    press(Qt::Key_End);
+    paste("de");
+    press(Qt::Key_Return);
+    EXPECT_EQ(table.cells[0][0], "abcde");
+}
+
+TEST_F(GridPaste, blockDropsAnOpenEditor)
+{
+    for (const char *text : {"1\t2", "1\n"}) {
+        grid->goTo(2, 0);
+        type("abc");
+        paste(text);
+        EXPECT_FALSE(grid->isEditing());
+        EXPECT_EQ(table.cells[1][0], "1");
+        press(Qt::Key_Delete);
+    }
+}
+
+}  // namespace
+}  // namespace penwright::test
