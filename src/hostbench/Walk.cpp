@@ -128,11 +128,15 @@ QImage Walk::areaImage() const
 
 bool Walk::takePicture(int page)
 {
-    // A page is on screen when the picture is another than before and stays as it is.
+    // A page is on screen with all that was typed when the picture is another than before and has stayed as it is for a
+    // while; shorter than a caret blinks.
+    constexpr int kStillLooks = 8;
     QImage image;
+    int looks = 0;
     const auto isStill = [&] {
         const QImage before = std::exchange(image, areaImage());
-        return !image.isNull() && image == before && image != m_lastImage;
+        looks = image == before ? looks + 1 : 0;
+        return !image.isNull() && looks >= kStillLooks && image != m_lastImage;
     };
     if (!waitFor(isStill, QStringLiteral("a still picture of page %1").arg(page)))
         return false;
