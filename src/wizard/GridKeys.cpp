@@ -53,7 +53,7 @@ bool GridView::gridKey(const QKeyEvent &event)
     if (event.matches(QKeySequence::Copy))
         copy();
     else if (event.matches(QKeySequence::Paste))
-        paste();
+        pasteClipboard();
     else if (event.key() == Qt::Key_Delete && !(event.modifiers() & ~Qt::KeypadModifier))
         clearSelected();
     else if (isEnter(event))
@@ -78,9 +78,8 @@ bool GridView::editorKey(QKeyEvent &event)
     } else if (movesRows(event)) {
         if (commitEdit())
             QTableView::keyPressEvent(&event);
-    } else if (event.matches(QKeySequence::Paste) && clipboardHoldsBlock()) {
-        dropEdit();
-        paste();
+    } else if (event.matches(QKeySequence::Paste)) {
+        pasteClipboard();
     } else {
         return false;
     }

@@ -44,7 +44,7 @@ std::string GridModel::read(int row, int column) const
 
 std::optional<MessageBox> GridModel::take(int row, int column, std::string_view text)
 {
-    if (!source() || text == read(row, column))
+    if (!source() || m_source->kept(text) == read(row, column))
         return std::nullopt;
     if (auto refusal = m_source->check(row, column, text))
         return refusal;

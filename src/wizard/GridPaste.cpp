@@ -1,19 +1,16 @@
 // What the grid does with blocks of cells: clear, copy, paste.
 #include <algorithm>
-#include <QApplication>
-#include <QClipboard>
+#include <QLineEdit>
 
+#include "platform/qt/ViewText.h"
+#include "wizard/ClipboardText.h"
 #include "wizard/GridBlock.h"
+#include "wizard/GridDelegate.h"
 #include "wizard/GridModel.h"
 #include "wizard/GridView.h"
 
 namespace penwright {
 namespace {
-
-std::string clipboardText()
-{
-    return QApplication::clipboard()->text().toStdString();
-}
 
 std::size_t widest(const GridLines &lines)
 {
@@ -30,9 +27,18 @@ std::string counted(std::size_t number, const std::string &thing)
 
 }  // namespace
 
-bool GridView::clipboardHoldsBlock()
+void GridView::pasteClipboard()
 {
-    return isGridBlock(clipboardText());
+    try {
+        const std::string text = readClipboardText();  // once: its owner may take long to answer
+        if (m_editor && !isGridBlock(text))
+            return editorLine(m_editor)->insert(fromView(text));
+        dropEdit();
+        paste(text);
+    } catch (const std::exception &error) {
+        tellRefusal(currentRow(), currentColumn(),
+                    {.text = error.what(), .title = window()->windowTitle().toStdString()});
+    }
 }
 
 GridView::Block GridView::selectedBlock() const
@@ -68,12 +74,12 @@ void GridView::copy()
         }
     }
     if (lastRow >= block.firstRow && lastRow >= 1)
-        QApplication::clipboard()->setText(QString::fromStdString(text));
+        writeClipboardText(text);
 }
 
-void GridView::paste()
+void GridView::paste(std::string_view text)
 {
-    const GridLines lines = splitGridBlock(clipboardText());
+    const GridLines lines = splitGridBlock(text);
     const Block block = selectedBlock();
     if (lines.empty() || block.firstRow < 1 || !fits(block, lines.size(), widest(lines)))
         return;

@@ -42,6 +42,10 @@ public:
         return static_cast<void>(row), static_cast<void>(column), static_cast<void>(text), std::nullopt;
     }
 
+    /// What of a text would be kept, for a source that keeps less than all: a text that changes nothing is no new
+    /// value.
+    virtual std::string_view kept(std::string_view text) const { return text; }
+
     /// Takes a text typed or pasted for a cell. A refused one leaves everything as it is; the message tells why.
     virtual std::optional<MessageBox> write(int row, int column, std::string_view text) = 0;
 

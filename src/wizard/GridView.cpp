@@ -1,9 +1,11 @@
 #include "wizard/GridView.h"
 
 #include <algorithm>
+#include <cmath>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QHeaderView>
+#include <QProxyStyle>
 #include <QScopedValueRollback>
 
 #include "wizard/GridDelegate.h"
@@ -11,6 +13,33 @@
 #include "wizard/GridRefusal.h"
 
 namespace penwright {
+namespace {
+
+/// Draws the lines between cells as visibly on dark as on light; the desktop's own colour may be that of the cells.
+class GridLinesStyle : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returned) const override
+    {
+        if (hint != SH_Table_GridLineColor || !widget)
+            return QProxyStyle::styleHint(hint, option, widget, returned);
+        return static_cast<int>(mixed(widget->palette(), kTextShare).rgba());
+    }
+
+private:
+    static constexpr double kTextShare = 0.22;
+
+    static QColor mixed(const QPalette &palette, double share)
+    {
+        const QColor paper = palette.color(QPalette::Base);
+        const QColor text = palette.color(QPalette::Text);
+        const auto mix = [share](double from, double to) { return static_cast<float>(from + (to - from) * share); };
+        return QColor::fromRgbF(mix(paper.redF(), text.redF()), mix(paper.greenF(), text.greenF()),
+                                mix(paper.blueF(), text.blueF()));
+    }
+};
+
+}  // namespace
 
 GridView::GridView(QWidget *parent)
     : QTableView(parent),
@@ -18,6 +47,9 @@ GridView::GridView(QWidget *parent)
       m_delegate(new GridDelegate(this)),
       m_refusal(new GridRefusal(this))
 {
+    auto *lines = new GridLinesStyle;
+    lines->setParent(this);
+    setStyle(lines);
     setModel(m_model);
     setItemDelegate(m_delegate);
     setEditTriggers(DoubleClicked | EditKeyPressed | AnyKeyPressed);
@@ -134,6 +166,24 @@ void GridView::changeEvent(QEvent *event)
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
         setHeaderSizes();
+}
+
+void GridView::useGrowingColumns()
+{
+    horizontalHeader()->setMinimumSectionSize(kColumnWidth);
+    narrowColumns();
+}
+
+void GridView::narrowColumns()
+{
+    horizontalHeader()->setDefaultSectionSize(kColumnWidth);
+}
+
+void GridView::growColumn(int column, double width)
+{
+    const int needed = static_cast<int>(std::ceil(width));
+    if (needed > columnWidth(column))
+        setColumnWidth(column, needed);
 }
 
 void GridView::setHeaderSizes()

@@ -73,9 +73,18 @@ protected:
     /// Puts the selected block on the clipboard, a line for each row.
     virtual void copy();
 
-    /// Pastes the clipboard's block from the top left cell of the selection on, which is the current cell when only
-    /// one is selected: the whole block or, with one message, nothing of it. Rows are appended where they can be.
-    virtual void paste();
+    /// Pastes a block from the top left cell of the selection on, which is the current cell when only one is selected:
+    /// the whole block or, with one message, nothing of it. Rows are appended where they can be.
+    virtual void paste(std::string_view text);
+
+    /// Has columns begin 600 twips wide and never become narrower.
+    void useGrowingColumns();
+
+    /// Gives such columns, those that stay too, the width that they begin with.
+    void narrowColumns();
+
+    /// Widens a column to `width` logical pixels where it is narrower.
+    void growColumn(int column, double width);
 
     /// Has the refusal of a cell's text told once the event is over.
     void tellRefusal(int row, int column, const MessageBox &box);
@@ -104,7 +113,7 @@ private:
 
     Block selectedBlock() const;
     void clearSelected();
-    static bool clipboardHoldsBlock();
+    void pasteClipboard();
     bool fits(const Block &block, std::size_t rows, std::size_t columns);
 
     bool gridKey(const QKeyEvent &event);
@@ -122,6 +131,8 @@ private:
     bool openList();
     bool isOnArrow(const QPoint &place) const;
     void setHeaderSizes();
+
+    static constexpr int kColumnWidth = 40;  ///< logical pixels, 600 twips
 
     GridModel *m_model;
     GridDelegate *m_delegate;

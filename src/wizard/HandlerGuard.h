@@ -17,7 +17,7 @@ bool guardHandler(Dialogs &dialogs, std::string_view title, const Body &body)
         body();
         return true;
     } catch (const std::exception &error) {
-        dialogs.show({.text = error.what(), .flags = kOkOnly, .title = std::string(title)});
+        dialogs.show({.text = error.what(), .title = std::string(title)});
         return false;
     }
 }

@@ -7,6 +7,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "platform/qt/ViewText.h"
 #include "wizard/HandlerGuard.h"
 #include "wizard/QuietLabel.h"
 #include "wizard/WarningDialog.h"
@@ -17,11 +18,6 @@ namespace {
 const PageRow &rowOf(int index)
 {
     return kPages.at(static_cast<std::size_t>(index));
-}
-
-QString fromView(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 QLabel *makeHeading(const QString &text)

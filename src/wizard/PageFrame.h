@@ -31,6 +31,9 @@ public:
     /// Opens the help file at a context id.
     virtual void ShowHelp(int contextId) = 0;
 
+    /// Called after each re-size of an angle list; returns false and does nothing else.
+    virtual bool ReDo() = 0;
+
     /// Whether a post waits, a dialog is open or the window unloads, so that a button pressed by other means than keys
     /// and clicks is refused.
     virtual bool isBusy() const = 0;

@@ -53,6 +53,7 @@ public:
     void ShowPage(int index) override;
     void ConfirmCancel() override;
     void ShowHelp(int contextId) override;
+    bool ReDo() override { return false; }
     bool isBusy() const override;
 
     /// Shows page 1 and the window, not modal, and takes the keyboard focus.
@@ -64,9 +65,6 @@ public:
 
     /// One more help handler, which no control leads to: it opens the topic of page 4.
     void cmdHelp_Click();
-
-    /// Returns false and does nothing else.
-    bool ReDo() { return false; }
 
     /// The form's state variable: 0 from the creation on.
     std::int16_t formState() const { return m_formState; }

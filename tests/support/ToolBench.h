@@ -1,6 +1,5 @@
 #pragma once
 
-#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,27 +9,12 @@
 #include "platform/HelpViewer.h"
 #include "platform/HostEmbedding.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
-#include "platform/TextFiles.h"
 #include "support/FakeDialogs.h"
 #include "support/FakeEventWait.h"
+#include "support/FakeTextFiles.h"
 #include "support/TempFolder.h"
 
 namespace penwright::test {
-
-/// Files that are only noted, in their order, each as path and text; failures are taken from a queue of errno values.
-struct FakeTextFiles : TextFiles {
-    int replace(const std::string &path, std::string_view text) override
-    {
-        written.emplace_back(path, text);
-        if (failures.empty())
-            return 0;
-        const int failure = failures.front();
-        failures.pop_front();
-        return failure;
-    }
-    std::vector<std::pair<std::string, std::string>> written;
-    std::deque<int> failures;
-};
 
 /// A window among the display's windows that keeps a transcript of what was done to it.
 struct FakeEmbedding : HostEmbedding {

@@ -155,7 +155,7 @@ TEST_F(CandelaPageEntry, absurdClipboardIsRefusedWithAWord)
     QCoreApplication::processEvents();
     EXPECT_EQ(dialogs.transcript,
               "[New Photometric file: (5 of 6) Candela Values|0] The clipboard holds 70 million "
-              "characters, far more than a candela table can have. Nothing was pasted.\n");
+              "characters, far more than a table can have. Nothing was pasted.\n");
     QGuiApplication::clipboard()->clear();
 }
 

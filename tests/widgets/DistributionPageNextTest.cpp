@@ -174,12 +174,16 @@ TEST_F(DistributionNext, unloadingDropsAHalfTypedCell)
     EXPECT_EQ(cells(verticalGrid()), " | ");
 }
 
+/// What two picks leave: each is a change of the text and a pick, and each of these makes the list anew.
+const std::string kRedone = "redo\nredo\nredo\nredo\n";
+
 /// A page of its own, whose turns and builds are noted in their order.
 class DistributionBuild : public WizardTest, public Navigator {
 protected:
     void ShowPage(int index) override { noted += "page " + std::to_string(index) + "\n"; }
     void ConfirmCancel() override {}
     void ShowHelp(int) override {}
+    bool ReDo() override { return noted += "redo\n", false; }
     bool isBusy() const override { return false; }
 
     std::string noted;
@@ -197,7 +201,7 @@ TEST_F(DistributionBuild, everyAcceptedNextBuildsThePageThatFollows)
         QTest::keyClick(page.findChild<QComboBox *>(name), Qt::Key_Down);
     for (int i = 0; i < 2; ++i)
         QTest::mouseClick(page.findChild<QPushButton *>("cmdNext30"), Qt::LeftButton);
-    EXPECT_EQ(noted, "build 10\npage 4\nbuild 10\npage 4\n");
+    EXPECT_EQ(noted, kRedone + "build 10\npage 4\nbuild 10\npage 4\n");
 }
 
 TEST_F(DistributionBuild, failedBuildLeavesThePage)
@@ -210,7 +214,7 @@ TEST_F(DistributionBuild, failedBuildLeavesThePage)
     for (const char *name : {"phoCmbVert", "phoCmbHorz"})
         QTest::keyClick(page.findChild<QComboBox *>(name), Qt::Key_Down);
     QTest::mouseClick(page.findChild<QPushButton *>("cmdNext30"), Qt::LeftButton);
-    EXPECT_EQ(noted, "");
+    EXPECT_EQ(noted, kRedone);
     EXPECT_EQ(dialogs.transcript, "[" + kCaptions[kDistributionPage] + "|0] Overflow\n");
 }
 

@@ -66,23 +66,6 @@ protected:
     }
     static int columns(const GridView *grid) { return grid->model()->columnCount(); }
 
-    /// Acts, and closes the warning dialog with Enter when it opens; its text.
-    std::string warningsOf(const std::function<void()> &act)
-    {
-        std::string text;
-        QTimer poll;
-        QObject::connect(&poll, &QTimer::timeout, [&] {
-            auto *dialog = dynamic_cast<WarningDialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            text = dialog->list().text();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        poll.start(1);
-        act();
-        QApplication::setActiveWindow(window.get());  // as a window manager does when a dialog has closed
-        return text;
-    }
     std::string warningsOfNext()
     {
         return warningsOf([this] { click("cmdNext30"); });

@@ -223,6 +223,15 @@ TEST_F(KeywordPageRows, freeTextIsTakenWithoutItsOuterBlanks)
     EXPECT_EQ(dialogs.transcript, "");
 }
 
+TEST_F(KeywordPageRows, blanksAloneAppendNoRow)
+{
+    typeInto(6, 0, "  ");
+    EXPECT_EQ(order(), "1ABCD");
+    typeInto(6, 0, " x ");
+    EXPECT_EQ(grid()->model()->index(5, 0).data().toString(), "x");
+    EXPECT_EQ(grid()->model()->rowCount(), 7);
+}
+
 TEST_F(KeywordPageRows, spreadsheetRowsArePastedAndAppended)
 {
     grid()->goTo(5, 0);

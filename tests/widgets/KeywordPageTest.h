@@ -57,22 +57,9 @@ protected:
     }
     static void settle() { QCoreApplication::processEvents(); }
 
-    /// Presses Next and closes the warning dialog with Enter when it opens; its text.
     std::string warningsOfNext()
     {
-        std::string text;
-        QTimer poll;
-        QObject::connect(&poll, &QTimer::timeout, [&] {
-            auto *dialog = dynamic_cast<WarningDialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            text = dialog->list().text();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        poll.start(1);
-        click("cmdNext20");
-        QApplication::setActiveWindow(window.get());  // as a window manager does when a dialog has closed
-        return text;
+        return warningsOf([this] { click("cmdNext20"); });
     }
 
     PhotometricRecord &record() { return state.PhotFiles(1); }

@@ -13,6 +13,11 @@ protected:
 
     QComboBox *shapes() { return find<QComboBox>("lmpCmbShape"); }
     QLineEdit *box(const std::string &name) { return find<QLineEdit>(name); }
+    std::string warningsOfNext()
+    {
+        return warningsOf([this] { click("cmdNext10"); });
+    }
+
     PhotometricRecord &record() { return state.PhotFiles(1); }
 
     /// Clicks into a box, which selects what is there, and types.
@@ -46,28 +51,6 @@ protected:
         typeInto("txtMultiplier", "1.5");
         typeInto("txtBallast", "0.95");
         typeInto("txtWatt", "36.5");
-    }
-
-    /// Does something that presses Next, and closes the warning dialog with Enter; its text, "" when it did not open.
-    std::string warningsOf(const std::function<void()> &press)
-    {
-        std::string text;
-        QTimer poll;
-        QObject::connect(&poll, &QTimer::timeout, [&] {
-            auto *dialog = dynamic_cast<WarningDialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            text = dialog->list().text();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        poll.start(1);
-        press();
-        QApplication::setActiveWindow(window.get());  // as a window manager does when a dialog has closed
-        return text;
-    }
-    std::string warningsOfNext()
-    {
-        return warningsOf([this] { click("cmdNext10"); });
     }
 };
 

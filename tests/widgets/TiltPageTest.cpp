@@ -68,22 +68,9 @@ protected:
         return std::to_string(grid()->currentRow()) + "," + std::to_string(grid()->currentColumn());
     }
 
-    /// Presses Next and closes the warning dialog with Enter; its text, or nothing when it did not open.
     std::string warningsOfNext()
     {
-        std::string text;
-        QTimer poll;
-        QObject::connect(&poll, &QTimer::timeout, [&] {
-            auto *dialog = dynamic_cast<WarningDialog *>(QApplication::activeModalWidget());
-            if (!dialog)
-                return;
-            text = dialog->list().text();
-            QTest::keyClick(dialog, Qt::Key_Return);
-        });
-        poll.start(1);
-        click("cmdNext15");
-        QApplication::setActiveWindow(window.get());  // as a window manager does when a dialog has closed
-        return text;
+        return warningsOf([this] { click("cmdNext15"); });
     }
 
     PhotometricRecord &record() { return state.PhotFiles(1); }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <QTest>
@@ -27,6 +28,7 @@
 #include "support/TempFolder.h"
 #include "wizard/FinishPage.h"
 #include "wizard/GridView.h"
+#include "wizard/WarningDialog.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright::test {
@@ -123,6 +125,24 @@ protected:
         find<QLineEdit>(box)->setText(QString::fromStdString(text));
     }
     std::string text(const std::string &box) { return find<QLineEdit>(box)->text().toStdString(); }
+
+    /// Acts, and closes the warning dialog with Enter when it opens; its text.
+    std::string warningsOf(const std::function<void()> &act)
+    {
+        std::string text;
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            auto *dialog = dynamic_cast<WarningDialog *>(QApplication::activeModalWidget());
+            if (!dialog)
+                return;
+            text = dialog->list().text();
+            QTest::keyClick(dialog, Qt::Key_Return);
+        });
+        poll.start(1);
+        act();
+        QApplication::setActiveWindow(window.get());  // as a window manager does when a dialog has closed
+        return text;
+    }
 
     /// Gives page 1 values that pass its checks.
     void fillPageOne()

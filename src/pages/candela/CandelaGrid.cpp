@@ -10,15 +10,10 @@
 
 #include "pages/candela/CandelaTable.h"
 #include "pages/candela/CandelaWidths.h"
-#include "pages/candela/ClipboardText.h"
 #include "pages/candela/LabelColumn.h"
+#include "wizard/ClipboardText.h"
 
 namespace penwright {
-namespace {
-
-constexpr int kColumnWidth = 40;  // logical pixels, 600 twips
-
-}  // namespace
 
 CandelaGrid::CandelaGrid(QWidget *parent) : GridView(parent)
 {
@@ -28,8 +23,7 @@ CandelaGrid::CandelaGrid(QWidget *parent) : GridView(parent)
     verticalHeader()->hide();
     setCornerButtonEnabled(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);  // nothing is cut off by a drag either
-    horizontalHeader()->setMinimumSectionSize(kColumnWidth);
-    horizontalHeader()->setDefaultSectionSize(kColumnWidth);
+    useGrowingColumns();
     horizontalHeader()->setHighlightSections(true);
     m_labels = new LabelColumn(this);
     connect(m_labels, &LabelColumn::rowPressed, this, [this](int row) { goTo(row + 1, std::max(1, currentColumn())); });
@@ -53,7 +47,7 @@ void CandelaGrid::setTable(CandelaTable &table, Dialogs &dialogs)
 void CandelaGrid::rebuild()
 {
     refresh();
-    horizontalHeader()->setDefaultSectionSize(kColumnWidth);  // of the columns that stay, too
+    narrowColumns();
     growColumns();
     horizontalScrollBar()->setValue(0);
     goTo(1, 1);
@@ -79,13 +73,6 @@ void CandelaGrid::growColumns()
     }
 }
 
-void CandelaGrid::growColumn(int column, double width)
-{
-    const int needed = static_cast<int>(std::ceil(width));
-    if (needed > columnWidth(column))
-        setColumnWidth(column, needed);
-}
-
 /// What a cell adds to its text: the delegate's margins and the line of the grid.
 double CandelaGrid::padding() const
 {
@@ -99,17 +86,11 @@ void CandelaGrid::copy()
         writeClipboardText(m_table->CopyCandelaTable());
 }
 
-void CandelaGrid::paste()
+void CandelaGrid::paste(std::string_view text)
 {
     if (!m_table)
         return;
-    std::optional<CandelaTable::PasteRefusal> refusal;
-    try {
-        refusal = m_table->PasteCandelaTable(readClipboardText());
-    } catch (const std::exception &error) {
-        refusal = CandelaTable::PasteRefusal{
-            .box = {.text = error.what(), .flags = kOkOnly, .title = window()->windowTitle().toStdString()}};
-    }
+    const auto refusal = m_table->PasteCandelaTable(text);
     if (!refusal || refusal->row > 0) {
         growColumns();
         viewport()->update();

@@ -16,7 +16,7 @@ class CandelaGrid : public GridView {
 public:
     explicit CandelaGrid(QWidget *parent = nullptr);
 
-    /// Serves `table`; both outlive the grid.
+    /// Serves `table`, as setSource does.
     void setTable(CandelaTable &table, Dialogs &dialogs);
 
     /// Reads the table anew after a build and makes its first cell the current one, with the focus.
@@ -39,7 +39,7 @@ signals:
 
 protected:
     void copy() override;
-    void paste() override;
+    void paste(std::string_view text) override;
     QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void scrollContentsBy(int dx, int dy) override;
@@ -52,7 +52,6 @@ protected slots:
 
 private:
     void growColumns();
-    void growColumn(int column, double width);
     double padding() const;
 
     CandelaTable *m_table = nullptr;

@@ -40,10 +40,7 @@ CandelaPage::CandelaPage(const PageContext &context, CandelaState &flags)
     addButtons([this] { cmdNext50_Click(); }, [this] { cmdBack50_Click(); });
 }
 
-CandelaPage::~CandelaPage()
-{
-    delete m_form->cdaGridCd;  // it reads the table, which ends before the page's widgets do
-}
+CandelaPage::~CandelaPage() = default;
 
 void CandelaPage::load()
 {
@@ -126,7 +123,7 @@ void CandelaPage::refreshPlot()
 // Once the event is over: the pass may run in a mouse press or in a change of the focus.
 void CandelaPage::tellPlotError()
 {
-    const auto tell = [this] { services().dialogs.show({.text = "err in paintCda", .flags = kOkOnly}); };
+    const auto tell = [this] { services().dialogs.show({.text = "err in paintCda"}); };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 

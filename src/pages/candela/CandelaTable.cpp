@@ -1,5 +1,6 @@
 #include "pages/candela/CandelaTable.h"
 
+#include "core/CodePoints.h"
 #include "core/NumberText.h"
 #include "pages/candela/PastedValues.h"
 
@@ -10,16 +11,12 @@ constexpr std::string_view kLabelCaption = "  ";
 
 constexpr double kRefusedFrom = 9999999;  // though the message speaks of 10 million
 
-/// The beginning of a text that a message box has room for, cut between characters.
+/// The beginning of a text that a message box has room for.
 std::string shortened(std::string_view text)
 {
     constexpr std::size_t kMostBytes = 60;
-    if (text.size() <= kMostBytes)
-        return std::string(text);
-    std::size_t end = kMostBytes;
-    while (end > 0 && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
-        --end;
-    return std::string(text.substr(0, end)) + "...";
+    const std::string_view beginning = withinBytes(text, kMostBytes);
+    return std::string(beginning) + (beginning.size() < text.size() ? "..." : "");
 }
 
 }  // namespace
@@ -78,8 +75,7 @@ std::optional<CandelaTable::PasteRefusal> CandelaTable::PasteCandelaTable(std::s
     const int highest = values.count() - 1;
     const int needed = m_cells.rows() * m_cells.columns() - 1;
     if (highest != needed)
-        return PasteRefusal{
-            {.text = generalText(highest) + " values read; need " + generalText(needed), .flags = kOkOnly}};
+        return PasteRefusal{{.text = generalText(highest) + " values read; need " + generalText(needed)}};
     for (int v = 1; v <= m_cells.columns(); ++v)
         for (int h = 1; h <= m_cells.rows(); ++h) {
             const std::string_view value = values.next();
@@ -99,7 +95,6 @@ MessageBox CandelaTable::pasteRefusal(int h, int v, std::string_view text) const
         place += " (V:" + generalText(angles->vertical) + " H:" + generalText(angles->horizontal) + ")";
     const std::string why = isNumeric(text) ? " is too large a number." : " is not a number.";
     return {.text = place + ": \"" + shortened(text) + '"' + why + " The values before it have been pasted.",
-            .flags = kOkOnly,
             .title = m_title};
 }
 
@@ -168,12 +163,12 @@ std::string CandelaTable::read(int row, int column) const
 std::optional<MessageBox> CandelaTable::check(int, int, std::string_view text) const
 {
     if (!isNumeric(text))
-        return MessageBox{.text = "Not a number I know.", .flags = kOkOnly, .title = "Invalid entry"};
+        return MessageBox{.text = "Not a number I know.", .title = "Invalid entry"};
     const double value = toDouble(text);
     if (value < 0)
-        return MessageBox{.text = "candela values cannot be negative!", .flags = kOkOnly};
+        return MessageBox{.text = "candela values cannot be negative!"};
     if (!(value < kRefusedFrom))
-        return MessageBox{.text = "candel values must be less than 10 million.", .flags = kOkOnly};
+        return MessageBox{.text = "candel values must be less than 10 million."};
     return std::nullopt;
 }
 

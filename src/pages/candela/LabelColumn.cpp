@@ -87,7 +87,7 @@ void LabelColumn::paintEvent(QPaintEvent *)
     const int bottom = m_table->viewport()->height();
     for (int row = first; row >= 0 && row < rows && m_table->rowViewportPosition(row) < bottom; ++row)
         paintRow(painter, row);
-    painter.fillRect(labels - kLine, 0, kLine, height(), palette().mid());
+    painter.fillRect(labels - kLine, 0, kLine, height(), gridColour());
 }
 
 void LabelColumn::paintRow(QPainter &painter, int row) const

@@ -1,8 +1,6 @@
 #include "pages/distribution/AngleGrid.h"
 
 #include <algorithm>
-#include <QApplication>
-#include <QClipboard>
 #include <QHeaderView>
 #include <QScrollBar>
 
@@ -11,13 +9,11 @@
 namespace penwright {
 namespace {
 
-constexpr int kColumnWidth = 40;  // logical pixels, 600 twips
-
-/// The cells of the clipboard in reading order: in one row, line ends mean no more than tabs.
-std::vector<std::string> clipboardCells()
+/// The cells of a block in reading order: in one row, line ends mean no more than tabs.
+std::vector<std::string> cellsInOrder(std::string_view text)
 {
     std::vector<std::string> cells;
-    for (auto &line : splitGridBlock(QApplication::clipboard()->text().toStdString()))
+    for (auto &line : splitGridBlock(text))
         std::move(line.begin(), line.end(), std::back_inserter(cells));
     return cells;
 }
@@ -29,10 +25,9 @@ AngleGrid::AngleGrid(QWidget *parent) : GridView(parent)
     setTextAlignment(Qt::AlignRight);
     verticalHeader()->hide();
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    horizontalHeader()->setMinimumSectionSize(kColumnWidth);
-    horizontalHeader()->setDefaultSectionSize(kColumnWidth);
+    useGrowingColumns();
     setHeights();
-    connect(this, &GridView::cellTaken, this, [this](int, int column) { growColumn(column); });
+    connect(this, &GridView::cellTaken, this, [this](int, int column) { fitColumn(column); });
 }
 
 void AngleGrid::rebuildColumns()
@@ -40,23 +35,21 @@ void AngleGrid::rebuildColumns()
     refresh();
     selectionModel()->clear();
     horizontalScrollBar()->setValue(0);
-    horizontalHeader()->setDefaultSectionSize(kColumnWidth);  // of the columns that stay, too
+    narrowColumns();
     for (int column = 0; column < model()->columnCount(); ++column)
-        growColumn(column);
+        fitColumn(column);
 }
 
-void AngleGrid::growColumn(int column)
+void AngleGrid::fitColumn(int column)
 {
     constexpr int kGridLine = 1;
     const int cell = sizeHintForIndex(model()->index(0, column)).width() + kGridLine;
-    const int needed = std::max(cell, horizontalHeader()->sectionSizeHint(column));
-    if (needed > columnWidth(column))
-        setColumnWidth(column, needed);
+    growColumn(column, std::max(cell, horizontalHeader()->sectionSizeHint(column)));
 }
 
-void AngleGrid::paste()
+void AngleGrid::paste(std::string_view text)
 {
-    const std::vector<std::string> cells = clipboardCells();
+    const std::vector<std::string> cells = cellsInOrder(text);
     const QItemSelection selection = selectionModel()->selection();
     if (cells.empty() || selection.isEmpty())
         return;

@@ -16,11 +16,11 @@ public:
     void rebuildColumns();
 
 protected:
-    void paste() override;
+    void paste(std::string_view text) override;
     void changeEvent(QEvent *event) override;
 
 private:
-    void growColumn(int column);
+    void fitColumn(int column);
     void setHeights();
 };
 

@@ -8,14 +8,10 @@
 #include <utility>
 
 #include "pages/distribution/PredefinedAngles.h"
+#include "platform/qt/ViewText.h"
 
 namespace penwright {
 namespace {
-
-QString fromView(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 /// Selects its whole text at the click that brings the focus, and at any click on the prompt: what is typed into the
 /// middle of either would not be understood. A part can still be selected by dragging, or after a second click.
@@ -99,7 +95,7 @@ void AngleListBox::tellPick()
 void AngleListBox::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
-        emit entered();
+        event->ignore();  // the page presses Next; the toolkit would pick the entry that equals the text
     else
         DropDownList::keyPressEvent(event);
 }

@@ -35,9 +35,6 @@ signals:
     /// The text has changed, or an entry was picked, be it the same one again.
     void changed();
 
-    /// Enter was pressed while the list was closed.
-    void entered();
-
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 

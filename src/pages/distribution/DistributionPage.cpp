@@ -22,18 +22,11 @@ DistributionPage::DistributionPage(const PageContext &context, std::function<voi
     connect(m_form->phoCmbVert, &AngleListBox::changed, this, &DistributionPage::phoCmbVert_Change);
     connect(m_form->phoCmbHorz, &AngleListBox::changed, this, &DistributionPage::phoCmbHorz_Change);
     addButtons([this] { cmdNext30_Click(); }, [this] { cmdBack30_Click(); });
-    for (AngleListBox *list : {m_form->phoCmbVert, m_form->phoCmbHorz}) {
+    for (AngleListBox *list : {m_form->phoCmbVert, m_form->phoCmbHorz})
         list->lineEdit()->setAccessibleName(list->accessibleName());
-        connect(list, &AngleListBox::entered, findChild<QPushButton *>("cmdNext30"), &QPushButton::click);
-    }
 }
 
-DistributionPage::~DistributionPage()
-{
-    // They read their lists as long as they live.
-    delete m_form->phoGridVert;
-    delete m_form->phoGridHorz;
-}
+DistributionPage::~DistributionPage() = default;
 
 void DistributionPage::rdoC_Click()
 {
@@ -70,6 +63,7 @@ void DistributionPage::resizeAngles(AngleListBox &list, AngleList &angles, Angle
     if (done == AngleList::Resizing::BecameOne)
         list.replaceText("1");
     grid.rebuildColumns();
+    navigator().ReDo();
 }
 
 void DistributionPage::cmdNext30_Click()

@@ -1,6 +1,6 @@
 #include "pages/keywords/KeywordDefaults.h"
 
-#include "pages/keywords/CodePoints.h"
+#include "core/CodePoints.h"
 #include "platform/RunTimeError.h"
 #include "platform/SettingsStore.h"
 

@@ -7,6 +7,7 @@
 #include <QMenu>
 
 #include "pages/keywords/KeywordTable.h"
+#include "platform/qt/ViewText.h"
 #include "wizard/GridDelegate.h"
 
 namespace penwright {
@@ -16,8 +17,7 @@ int widestKey(const QFontMetrics &metrics)
 {
     int widest = 0;
     const auto look = [&](const KeywordEntry &entry) {
-        const auto size = static_cast<qsizetype>(entry.keyword.size());
-        widest = std::max(widest, metrics.horizontalAdvance(QString::fromUtf8(entry.keyword.data(), size)));
+        widest = std::max(widest, metrics.horizontalAdvance(fromView(entry.keyword)));
     };
     std::for_each(kStandardKeywords.begin(), kStandardKeywords.end(), look);
     std::for_each(kVersionLines.begin(), kVersionLines.end(), look);

@@ -20,7 +20,7 @@ class KeywordGrid : public GridView {
 public:
     explicit KeywordGrid(QWidget *parent = nullptr);
 
-    /// Serves `rows`, which outlive the grid.
+    /// Serves `rows`, as setSource does.
     void setRows(KeywordRows &rows, Dialogs &dialogs);
 
     /// Shows the rows anew after they have been replaced; drops an open editor.

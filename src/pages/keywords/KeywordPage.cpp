@@ -19,10 +19,7 @@ KeywordPage::KeywordPage(const PageContext &context)
     addButtons([this] { cmdNext20_Click(); }, [this] { cmdBack20_Click(); });
 }
 
-KeywordPage::~KeywordPage()
-{
-    delete m_form->keyGrid;  // it reads the rows, which end before the page's widgets do
-}
+KeywordPage::~KeywordPage() = default;
 
 void KeywordPage::enter()
 {

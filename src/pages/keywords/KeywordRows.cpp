@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "pages/keywords/CodePoints.h"
+#include "core/CodePoints.h"
 #include "pages/keywords/KeywordTable.h"
 
 namespace penwright {
@@ -87,7 +87,7 @@ std::string KeywordRows::read(int row, int column) const
 
 std::optional<MessageBox> KeywordRows::write(int row, int column, std::string_view text)
 {
-    (column == kKey ? m_rows(row).key : m_rows(row).value) = withoutOuterBlanks(text);
+    (column == kKey ? m_rows(row).key : m_rows(row).value) = kept(text);
     return std::nullopt;
 }
 

@@ -53,7 +53,8 @@ public:
     std::string columnCaption(int column) const override;
     std::string read(int row, int column) const override;
 
-    /// Takes the text without its leading and trailing blanks.
+    /// The text without its leading and trailing blanks.
+    std::string_view kept(std::string_view text) const override { return withoutOuterBlanks(text); }
     std::optional<MessageBox> write(int row, int column, std::string_view text) override;
 
     bool canAppend() const override { return true; }

@@ -2,16 +2,12 @@
 
 #include "pages/luminaire/InputUnits.h"
 #include "pages/luminaire/LuminousShapes.h"
+#include "platform/qt/ViewText.h"
 #include "ui_LampPage.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {
 namespace {
-
-QString fromView(std::string_view text)
-{
-    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 void apply(const DimensionLook &look, QLabel &label, QLineEdit &box)
 {

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include "pages/luminaire/LuminousShapes.h"
+#include "platform/qt/ViewText.h"
 
 namespace penwright {
 namespace {
@@ -50,8 +51,7 @@ ShapeSketchView::ShapeSketchView(QWidget *parent) : QWidget(parent)
 void ShapeSketchView::setShape(int position)
 {
     const LuminousShape *shape = luminousShapeAt(position);
-    setAccessibleDescription(shape ? QString::fromUtf8(shape->name.data(), static_cast<qsizetype>(shape->name.size()))
-                                   : "No shape");
+    setAccessibleDescription(shape ? fromView(shape->name) : "No shape");
     m_sketch = sketchOfShape(position);
     update();
 }
@@ -90,7 +90,7 @@ void ShapeSketchView::paintEvent(QPaintEvent *)
     }
     painter.setPen(colour);
     for (const SketchLabel &label : m_sketch.labels) {
-        const QString text = QString::fromUtf8(label.text.data(), static_cast<qsizetype>(label.text.size()));
+        const QString text = fromView(label.text);
         const QPointF end = place(label.end);
         painter.drawText(boxBeside(end, {label.away.x, label.away.y}, text, fontMetrics()),
                          Qt::AlignCenter | Qt::TextDontClip, text);

@@ -4,32 +4,14 @@
 
 #include "core/NumberText.h"
 #include "platform/RunTimeError.h"
-#include "platform/TextFiles.h"
 #include "support/FakeDialogs.h"
+#include "support/FakeTextFiles.h"
 #include "support/SampleRecords.h"
 
 #include <cerrno>
-#include <deque>
 
 namespace penwright {
 namespace {
-
-/// Files that note what they are given and fail as they are told.
-class ScriptedFiles : public TextFiles {
-public:
-    int replace(const std::string &path, std::string_view text) override
-    {
-        written.emplace_back(path, text);
-        if (failures.empty())
-            return 0;
-        const int failure = failures.front();
-        failures.pop_front();
-        return failure;
-    }
-
-    std::vector<std::pair<std::string, std::string>> written;
-    std::deque<int> failures;
-};
 
 /// The writer by its definition: every piece is held against the text so far, as one would do it by hand.
 class Model {
@@ -99,7 +81,7 @@ private:
 
 class Writer : public testing::Test {
 protected:
-    ScriptedFiles files;
+    test::FakeTextFiles files;
     test::FakeDialogs dialogs;
     IesWriter writer{files, dialogs};
     PhotometricRecord record = test::smallRecord();

@@ -6,7 +6,7 @@
 
 #include <csignal>
 
-#include "pages/keywords/CodePoints.h"
+#include "core/CodePoints.h"
 #include "platform/RunTimeError.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "support/TempFolder.h"

@@ -117,33 +117,37 @@ TEST_P(KeywordRemove, takesTheRowsThatExist)
     EXPECT_EQ(shown(rows), GetParam().after);
 }
 
-class KeywordMoveUp : public testing::TestWithParam<BlockCase> {};
+struct MoveCase {
+    bool (KeywordRows::*move)(int first, int last);
+    int first;
+    int last;
+    std::string after;  ///< "" when nothing can be moved
+};
 
-INSTANTIATE_TEST_SUITE_P(Blocks, KeywordMoveUp,
-                         testing::Values(BlockCase{2, 2, "Bb Aa Cc Dd"}, BlockCase{4, 4, "Aa Bb Dd Cc"},
-                                         BlockCase{3, 4, "Aa Cc Dd Bb"}, BlockCase{2, 4, "Bb Cc Dd Aa"},
-                                         BlockCase{1, 2, ""}, BlockCase{4, 5, ""}, BlockCase{5, 5, ""},
-                                         BlockCase{0, 1, ""}, BlockCase{3, 2, ""}));
+constexpr auto up = &KeywordRows::moveUp;
+constexpr auto down = &KeywordRows::moveDown;
 
-TEST_P(KeywordMoveUp, goesOverTheRowBefore)
+void PrintTo(const MoveCase &block, std::ostream *out)
 {
-    KeywordRows rows = rowsOf("ABCD");
-    EXPECT_EQ(rows.moveUp(GetParam().first, GetParam().last), !GetParam().after.empty());
-    EXPECT_EQ(shown(rows), GetParam().after.empty() ? "Aa Bb Cc Dd" : GetParam().after);
+    *out << (block.move == up ? "up " : "down ") << block.first << " to " << block.last;
 }
 
-class KeywordMoveDown : public testing::TestWithParam<BlockCase> {};
+class KeywordMove : public testing::TestWithParam<MoveCase> {};
 
-INSTANTIATE_TEST_SUITE_P(Blocks, KeywordMoveDown,
-                         testing::Values(BlockCase{1, 1, "Bb Aa Cc Dd"}, BlockCase{3, 3, "Aa Bb Dd Cc"},
-                                         BlockCase{1, 2, "Cc Aa Bb Dd"}, BlockCase{1, 3, "Dd Aa Bb Cc"},
-                                         BlockCase{4, 4, ""}, BlockCase{3, 4, ""}, BlockCase{5, 5, ""},
-                                         BlockCase{0, 1, ""}, BlockCase{3, 2, ""}));
+INSTANTIATE_TEST_SUITE_P(Blocks, KeywordMove,
+                         testing::Values(MoveCase{up, 2, 2, "Bb Aa Cc Dd"}, MoveCase{up, 4, 4, "Aa Bb Dd Cc"},
+                                         MoveCase{up, 3, 4, "Aa Cc Dd Bb"}, MoveCase{up, 2, 4, "Bb Cc Dd Aa"},
+                                         MoveCase{up, 1, 2, ""}, MoveCase{up, 4, 5, ""}, MoveCase{up, 5, 5, ""},
+                                         MoveCase{up, 0, 1, ""}, MoveCase{up, 3, 2, ""},
+                                         MoveCase{down, 1, 1, "Bb Aa Cc Dd"}, MoveCase{down, 3, 3, "Aa Bb Dd Cc"},
+                                         MoveCase{down, 1, 2, "Cc Aa Bb Dd"}, MoveCase{down, 1, 3, "Dd Aa Bb Cc"},
+                                         MoveCase{down, 4, 4, ""}, MoveCase{down, 3, 4, ""}, MoveCase{down, 5, 5, ""},
+                                         MoveCase{down, 0, 1, ""}, MoveCase{down, 3, 2, ""}));
 
-TEST_P(KeywordMoveDown, goesOverTheRowBehind)
+TEST_P(KeywordMove, goesOverTheRowBesideTheBlock)
 {
     KeywordRows rows = rowsOf("ABCD");
-    EXPECT_EQ(rows.moveDown(GetParam().first, GetParam().last), !GetParam().after.empty());
+    EXPECT_EQ((rows.*GetParam().move)(GetParam().first, GetParam().last), !GetParam().after.empty());
     EXPECT_EQ(shown(rows), GetParam().after.empty() ? "Aa Bb Cc Dd" : GetParam().after);
 }
 

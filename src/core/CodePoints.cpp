@@ -1,4 +1,4 @@
-#include "pages/keywords/CodePoints.h"
+#include "core/CodePoints.h"
 
 #include <algorithm>
 
@@ -22,6 +22,15 @@ std::size_t announcedLength(char first)
 int codePointCount(std::string_view text)
 {
     return static_cast<int>(std::count_if(text.begin(), text.end(), [](char byte) { return !isContinuation(byte); }));
+}
+
+std::string_view withinBytes(std::string_view text, std::size_t bytes)
+{
+    if (text.size() <= bytes)
+        return text;
+    while (bytes > 0 && isContinuation(text[bytes]))
+        --bytes;
+    return text.substr(0, bytes);
 }
 
 std::string codePointText(char32_t codePoint)

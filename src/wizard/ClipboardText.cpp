@@ -1,8 +1,9 @@
-#include "pages/candela/ClipboardText.h"
+#include "wizard/ClipboardText.h"
 
 #include <QApplication>
 #include <QClipboard>
 
+#include "platform/qt/ViewText.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {
@@ -17,7 +18,7 @@ std::string readClipboardText()
     const QString text = QApplication::clipboard()->text();
     if (text.size() > kMostCharacters)
         throw RunTimeError(7, "The clipboard holds " + std::to_string(text.size() / (1024 * 1024)) +
-                                  " million characters, far more than a candela table can have. Nothing was pasted.");
+                                  " million characters, far more than a table can have. Nothing was pasted.");
     return text.toStdString();
 }
 
@@ -25,7 +26,7 @@ void writeClipboardText(std::string_view text)
 {
     QClipboard &clipboard = *QApplication::clipboard();
     clipboard.clear();
-    clipboard.setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    clipboard.setText(fromView(text));
 }
 
 }  // namespace penwright

@@ -1,4 +1,4 @@
-#include "pages/keywords/CodePoints.h"
+#include "core/CodePoints.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +12,18 @@ TEST(CodePoints, areCountedNotBytes)
     EXPECT_EQ(codePointCount("Größe 5\u00B5m"), 9);
     EXPECT_EQ(codePointCount("\u20AC\U0001F4A1"), 2);
     EXPECT_EQ(codePointCount("e\u0301"), 2);
+}
+
+TEST(CodePoints, areNeverCutInTwo)
+{
+    EXPECT_EQ(withinBytes("", 3), "");
+    EXPECT_EQ(withinBytes("abc", 3), "abc");
+    EXPECT_EQ(withinBytes("abcd", 3), "abc");
+    EXPECT_EQ(withinBytes("ab\u20AC", 5), "ab\u20AC");
+    EXPECT_EQ(withinBytes("ab\u20AC", 4), "ab");
+    EXPECT_EQ(withinBytes("ab\u20AC", 3), "ab");
+    EXPECT_EQ(withinBytes("\x80\x80\x80", 2), "");
+    EXPECT_EQ(withinBytes("abc", 0), "");
 }
 
 struct EncodedCase {

@@ -8,6 +8,9 @@ namespace penwright {
 /// The number of characters of a UTF-8 text, counted as code points.
 int codePointCount(std::string_view text);
 
+/// The longest beginning of a text that has at most `bytes` bytes, cut between characters.
+std::string_view withinBytes(std::string_view text, std::size_t bytes);
+
 /// A code point in UTF-8.
 std::string codePointText(char32_t codePoint);
 
