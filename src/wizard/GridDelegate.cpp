@@ -1,5 +1,6 @@
 #include "wizard/GridDelegate.h"
 
+#include <algorithm>
 #include <limits>
 #include <QAbstractItemView>
 #include <QHelpEvent>
@@ -9,6 +10,7 @@
 
 #include "wizard/GridChoiceBox.h"
 #include "wizard/GridModel.h"
+#include "wizard/OneLine.h"
 
 namespace penwright {
 namespace {
@@ -65,12 +67,15 @@ QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     QWidget *editor =
         choices.empty() ? static_cast<QWidget *>(new QLineEdit(parent)) : new GridChoiceBox(choices, parent);
     editorLine(editor)->setMaxLength(std::numeric_limits<int>::max());
+    editorLine(editor)->setValidator(new OneLine(editor));
     editorLine(editor)->setAlignment(m_alignment | Qt::AlignVCenter);
     const auto *model = index.model();
     editor->setAccessibleName(QString("Row %1, %2")
                                   .arg(model->headerData(index.row(), Qt::Vertical, Qt::DisplayRole).toString(),
                                        model->headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString()));
     editor->setAutoFillBackground(true);
+    connect(editorLine(editor), &QLineEdit::textChanged, this,
+            [this, editor, cell = QPersistentModelIndex(index)] { fit(*editor, m_view->visualRect(cell)); });
     return editor;
 }
 
@@ -88,12 +93,29 @@ void GridDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
 
 void GridDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
-    model->setData(index, editorLine(editor)->text(), Qt::EditRole);
+    const QLineEdit &line = *editorLine(editor);
+    // What is typed is a new value even where it reads the same: a cell may hold more digits than it shows.
+    if (line.isModified() || line.text() != index.data(Qt::EditRole).toString())
+        model->setData(index, line.text(), Qt::EditRole);
 }
 
 void GridDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option, const QModelIndex &) const
 {
-    editor->setGeometry(option.rect);
+    fit(*editor, option.rect);
+}
+
+void GridDelegate::fit(QWidget &editor, const QRect &cell) const
+{
+    constexpr int kAround = 14;  // the line's frame and margins, and the cursor
+    const QLineEdit &line = *editorLine(&editor);
+    const int needed = line.fontMetrics().horizontalAdvance(line.text()) + kAround;
+    const int room = editor.parentWidget()->width();
+    QRect place = cell;
+    if (&line == &editor && needed > cell.width()) {
+        place.setWidth(std::max(cell.width(), std::min(needed, room)));
+        place.moveLeft(std::max(0, std::min(cell.left(), room - place.width())));
+    }
+    editor.setGeometry(place);
 }
 
 bool GridDelegate::helpEvent(QHelpEvent *event, QAbstractItemView *view, const QStyleOptionViewItem &option,

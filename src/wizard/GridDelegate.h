@@ -5,7 +5,7 @@
 namespace penwright {
 
 /// Paints the cells of a GridView and makes their editors: a line of text, or a box with a list where the cell has
-/// choices. The grid itself handles the editors' keys.
+/// choices. A line is as wide as its text where the cell is narrower. The grid itself handles the editors' keys.
 class GridDelegate : public QStyledItemDelegate {
     Q_OBJECT
 
@@ -33,6 +33,8 @@ protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 
 private:
+    void fit(QWidget &editor, const QRect &cell) const;
+
     QAbstractItemView *m_view;
     Qt::Alignment m_alignment = Qt::AlignLeft;
 };

@@ -44,7 +44,7 @@ std::string GridModel::read(int row, int column) const
 
 std::optional<MessageBox> GridModel::take(int row, int column, std::string_view text)
 {
-    if (!source() || m_source->kept(text) == read(row, column))
+    if (!source() || (row > sourceRows() && m_source->kept(text).empty()))
         return std::nullopt;
     if (auto refusal = m_source->check(row, column, text))
         return refusal;
@@ -103,10 +103,11 @@ std::optional<GridModel::Refusal> GridModel::clearBlock(int firstRow, int firstC
         for (int column = firstColumn; column <= lastColumn; ++column) {
             if (isReadOnly(column))
                 continue;
+            const std::string before = read(row, column);
             const auto box = m_source->clear(row, column);
-            if (!box)
+            if (!box && read(row, column) != before)
                 changed.emplace_back(row, column);
-            else if (!refusal)
+            else if (box && !refusal)
                 refusal = {row, column, *box};
         }
     noteChanges(changed);
@@ -161,8 +162,6 @@ QVariant GridModel::data(const QModelIndex &index, int role) const
 bool GridModel::setData(const QModelIndex &index, const QVariant &value, int)
 {
     const int row = index.row() + 1;
-    if (value == data(index, Qt::EditRole))  // compared as shown, for a text whose encoding is broken
-        return true;
     const auto refusal = take(row, index.column(), value.toString().toStdString());
     if (refusal)
         emit refused(row, index.column(), *refusal);

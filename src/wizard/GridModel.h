@@ -30,7 +30,7 @@ public:
     /// The text of a cell; "" in the row to append.
     std::string read(int row, int column) const;
 
-    /// Takes a text for a cell and appends the rows up to it. The text that the cell shows already is not a new value.
+    /// Takes a text for a cell and appends the rows up to it; nothing, in the row to append, where none would be kept.
     std::optional<MessageBox> take(int row, int column, std::string_view text);
 
     /// A refused text and the cell that it was meant for.

@@ -16,6 +16,14 @@ struct GridChoice {
     std::string hint;  ///< shown beside the entry, "" for none
 };
 
+/// The answer to a grid that asks for the row at a distance from another.
+struct RelativeRow {
+    std::string position;  ///< the row's number, "" when there is no such row
+    int approximate = 0;   ///< the row's number, whether it exists or not
+
+    bool operator==(const RelativeRow &) const = default;
+};
+
 /// What stands behind a grid: the grid holds no data and asks here for every cell. Rows are counted from 1, columns
 /// from 0, as the grids' columns are numbered. Nothing here raises an error: what cannot be taken is refused.
 class GridSource {
@@ -42,8 +50,7 @@ public:
         return static_cast<void>(row), static_cast<void>(column), static_cast<void>(text), std::nullopt;
     }
 
-    /// What of a text would be kept, for a source that keeps less than all: a text that changes nothing is no new
-    /// value.
+    /// What of a text would be kept, for a source that keeps less than all; nothing of it appends no row.
     virtual std::string_view kept(std::string_view text) const { return text; }
 
     /// Takes a text typed or pasted for a cell. A refused one leaves everything as it is; the message tells why.

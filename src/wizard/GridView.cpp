@@ -11,6 +11,7 @@
 #include "wizard/GridDelegate.h"
 #include "wizard/GridModel.h"
 #include "wizard/GridRefusal.h"
+#include "wizard/InView.h"
 
 namespace penwright {
 namespace {
@@ -102,6 +103,7 @@ void GridView::goTo(int row, int column)
     moveTo(cell);
     scrollTo(cell);
     setFocus(Qt::OtherFocusReason);
+    bringIntoView(*this);
 }
 
 int GridView::currentRow() const

@@ -1,5 +1,6 @@
 #include "wizard/LongTextBox.h"
 
+#include <QMouseEvent>
 #include <QResizeEvent>
 #include <QTextBlock>
 
@@ -37,6 +38,17 @@ void LongTextBox::showLines(QString lines)
         joinIntoBlocks(lines);
     setPlainText(lines);
     countLines();
+}
+
+void LongTextBox::mousePressEvent(QMouseEvent *event)
+{
+    QPlainTextEdit::mousePressEvent(event);
+    QTextCursor cursor = cursorForPosition(event->position().toPoint());
+    // The third click of a row selects a block.
+    if (!m_isLong || textCursor().selectionStart() != cursor.block().position() || !textCursor().hasSelection())
+        return;
+    cursor.select(QTextCursor::LineUnderCursor);
+    setTextCursor(cursor);
 }
 
 void LongTextBox::resizeEvent(QResizeEvent *event)

@@ -17,6 +17,7 @@ public:
     void showLines(QString lines);
 
 protected:
+    void mousePressEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 

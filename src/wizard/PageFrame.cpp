@@ -9,6 +9,7 @@
 
 #include "platform/qt/ViewText.h"
 #include "wizard/HandlerGuard.h"
+#include "wizard/InView.h"
 #include "wizard/QuietLabel.h"
 #include "wizard/WarningDialog.h"
 
@@ -76,7 +77,10 @@ void PageFrame::focusFirstField()
     QWidget *widget = m_formArea->nextInFocusChain();
     while (widget != m_formArea && !(m_formArea->isAncestorOf(widget) && takesFocus(*widget, *this)))
         widget = widget->nextInFocusChain();
-    (widget == m_formArea ? m_next : widget)->setFocus(Qt::OtherFocusReason);
+    if (widget == m_formArea)
+        widget = m_next;
+    widget->setFocus(Qt::OtherFocusReason);
+    bringIntoView(*widget);
 }
 
 void PageFrame::showValuesComeFromHost()
@@ -132,6 +136,8 @@ void PageFrame::focusFirstFault()
 {
     if (const auto &place = dlgWarn().list().firstFault())
         focusFault(*place);
+    if (QWidget *focus = window()->focusWidget(); focus && isAncestorOf(focus))
+        bringIntoView(*focus);
 }
 
 void PageFrame::focusFault(const FaultPlace &) {}

@@ -3,6 +3,8 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 
+#include "wizard/OneLine.h"
+
 namespace penwright {
 
 /// A text box of one value: a click into it selects the whole text, so that typing replaces the value.
@@ -10,7 +12,7 @@ class TextBox : public QLineEdit {
     Q_OBJECT
 
 public:
-    using QLineEdit::QLineEdit;
+    explicit TextBox(QWidget *parent = nullptr) : QLineEdit(parent) { setValidator(new OneLine(this)); }
 
 protected:
     void mouseReleaseEvent(QMouseEvent *event) override

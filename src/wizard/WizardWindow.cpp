@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QTextCursor>
 #include <QTimer>
 
@@ -55,14 +56,14 @@ void WizardWindow::makeLayout()
     m_stack = new QWidget;
     auto *stack = new QGridLayout(m_stack);
     stack->setContentsMargins(0, 0, 0, 0);
-    auto *scroll = new QScrollArea;
-    scroll->setWidget(m_stack);
-    scroll->setWidgetResizable(true);
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setFocusPolicy(Qt::NoFocus);
+    m_scroll = new QScrollArea;
+    m_scroll->setWidget(m_stack);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setFocusPolicy(Qt::NoFocus);
     auto *layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(scroll);
+    layout->addWidget(m_scroll);
 }
 
 void WizardWindow::makeHiddenBoxes()
@@ -136,6 +137,8 @@ void WizardWindow::ShowPage(int index)
     m_shownPage = index;
     PageFrame *page = m_pages[static_cast<std::size_t>(index)];
     page->show();
+    for (QScrollBar *bar : {m_scroll->horizontalScrollBar(), m_scroll->verticalScrollBar()})
+        bar->setValue(0);
     setWindowTitle(page->caption());
     page->focusFirstField();
 }

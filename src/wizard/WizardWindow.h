@@ -14,6 +14,7 @@
 
 class QLineEdit;
 class QPlainTextEdit;
+class QScrollArea;
 class QTimer;
 
 namespace penwright {
@@ -102,6 +103,7 @@ private:
     std::int16_t m_formState = 0;
     std::size_t m_shownEntries = 0;  ///< entries of the log that `txtCmds` has been given
 
+    QScrollArea *m_scroll = nullptr;
     QWidget *m_stack = nullptr;
     WarningDialog *m_dlgWarn = nullptr;
     QTimer *m_tmrDataExchange = nullptr;

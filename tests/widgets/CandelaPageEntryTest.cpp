@@ -41,6 +41,29 @@ INSTANTIATE_TEST_SUITE_P(Texts, CandelaPageRefusal,
                              {"9999999", "[PenwrightPE|0] candel values must be less than 10 million."},
                          }));
 
+TEST_F(CandelaPageEntry, valueThatReadsAsTheCellDoesIsTakenAllTheSame)
+{
+    ASSERT_NE(12.34568F, 12.34567891F);
+    showTable({0}, {0});
+    for (const char *text : {"12.34567891", "12.34568"})
+        enterValue(1, 1, text);
+    EXPECT_EQ(cell(1, 1), "12.34568");
+    click("cmdNext50");
+    EXPECT_EQ(state.PhotFiles(1).Candela(1, 1), double{12.34568F});
+}
+
+TEST_F(CandelaPageEntry, deletedBlanksAreNoValues)
+{
+    showTable({0, 90}, {0, 45, 90});
+    int values = 0;
+    QObject::connect(&grid(), &GridView::cellTaken, &grid(), [&] { ++values; });
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_Delete);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(values, 0);
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
 TEST_F(CandelaPageEntry, copyTakesTheWholeTableWithItsLineEnds)
 {
     showTable({0, 90}, {0, 90});

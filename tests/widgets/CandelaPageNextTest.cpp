@@ -57,6 +57,19 @@ TEST_F(CandelaPageNext, storesACompleteTableAndShowsTheLastPage)
     EXPECT_EQ(state.PhotFiles(1).Candela, expected);
 }
 
+TEST_F(CandelaPageNext, beginsItsListAnewAndTakesTheMendedTable)
+{
+    showTable({0}, {0, 90});
+    for (int press = 1; press <= 2; ++press)
+        EXPECT_EQ(pressNext(),
+                  "value H:0 V:0 is not a valid numeric value.\r\n"
+                  "value H:0 V:90 is not a valid numeric value.\r\n");
+    QApplication::setActiveWindow(window.get());
+    paste("1\n2");
+    EXPECT_EQ(pressNext(), std::nullopt);
+    EXPECT_EQ(shownPage(), kFinishPage);
+}
+
 TEST_F(CandelaPageNext, takesAnEditInProgress)
 {
     showTable({0}, {0});
@@ -146,6 +159,16 @@ TEST_F(CandelaPageNext, startingTheWizardAgainBeginsWithBlanks)
     EXPECT_EQ(cell(1, 1), " ");
     EXPECT_TRUE(candela.GridStarted);
     EXPECT_EQ(candela.plotValue, 0.01F);
+}
+
+TEST_F(CandelaPageNext, plotValueIsRaisedToTheLeastOnlyWhereItIsNotPositive)
+{
+    showTable({0}, {0, 45, 90});
+    for (const auto &[before, after] : {std::pair(-1.0F, 0.01F), std::pair(0.0F, 0.01F), std::pair(5.0F, 5.0F)}) {
+        candela.plotValue = before;
+        press(grid().currentRow() == 3 ? Qt::Key_Up : Qt::Key_Down);
+        EXPECT_EQ(candela.plotValue, after) << before;
+    }
 }
 
 }  // namespace

@@ -5,6 +5,16 @@
 namespace penwright::test {
 namespace {
 
+struct KeyCounter : QObject {
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_PageUp)
+            ++pageUps;
+        return false;
+    }
+    int pageUps = 0;
+};
+
 TEST_F(CandelaPageTest, hasAllItsControlsUnderTheirCaptions)
 {
     showTable({0}, {0, 90});
@@ -59,6 +69,24 @@ TEST_F(CandelaPageTest, showsTheConeForTypeCAlone)
     showTable({0, 90}, {0, 90}, kTypeC);
     EXPECT_TRUE(find("rtbHorz")->isVisible());
     EXPECT_TRUE(find("Label50a")->isVisible());
+}
+
+TEST_F(CandelaPageTest, namesPlaneAndConeInSingleForm)
+{
+    showTable({0, 0.1F, 33.3F}, {0, 66.7F});
+    grid().goTo(2, 3);
+    EXPECT_EQ(planes(), "33.3 / 66.7");
+    EXPECT_EQ(grid().model()->headerData(2, Qt::Horizontal).toString(), "0.1");
+}
+
+TEST_F(CandelaPageTest, keysHaveTheColoursOfTheirCurves)
+{
+    showTable({0, 90}, {0, 90});
+    for (const auto &[key, colour] :
+         {std::pair("planeKey", QColor(0, 0, 255)), std::pair("coneKey", QColor(255, 0, 0))}) {
+        const QImage image = find(key)->grab().toImage();
+        EXPECT_EQ(image.pixelColor(image.rect().center()), colour) << key;
+    }
 }
 
 TEST_F(CandelaPageTest, columnsGrowToTheirValuesAndNeverShrinkUntilTheNextBuild)
@@ -206,10 +234,12 @@ TEST_F(CandelaPageTest, flipScrollsOnceForEachBuild)
     showTable({0, 90}, angles(91, 1));
     EXPECT_TRUE(tmrFlip().isActive());
     grid().goTo(60, 2);
+    KeyCounter keys;
+    grid().installEventFilter(&keys);
     ASSERT_TRUE(waitForFlip());
+    EXPECT_EQ(keys.pageUps, 3);
     EXPECT_EQ(grid().verticalScrollBar()->value(), 0);
-    const int moved = grid().currentRow();
-    EXPECT_LT(moved, 60);  // three pages up
+    EXPECT_LT(grid().currentRow(), 60);
     EXPECT_EQ(grid().currentColumn(), 2);
     showTable({0, 90}, angles(91, 1));
     EXPECT_TRUE(tmrFlip().isActive());

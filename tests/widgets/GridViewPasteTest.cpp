@@ -167,5 +167,17 @@ TEST_F(GridPaste, blockDropsAnOpenEditor)
     }
 }
 
+TEST_F(GridPaste, menuOfTheEditorPastesOneLine)
+{
+    setClipboard("a\tb\nc\n");
+    press(Qt::Key_F2);
+    auto *line = qobject_cast<QLineEdit *>(QApplication::focusWidget());
+    ASSERT_NE(line, nullptr);
+    line->selectAll();
+    line->paste();
+    press(Qt::Key_Return);
+    EXPECT_EQ(table.cells[0][0], "a b c");
+}
+
 }  // namespace
 }  // namespace penwright::test

@@ -1,7 +1,9 @@
 #include <cmath>
 
+#include "pages/luminaire/ShapeSketch.h"
 #include "pages/luminaire/ShapeSketchView.h"
 #include "widgets/LampPageTest.h"
+#include "widgets/PaintNotes.h"
 
 namespace penwright::test {
 namespace {
@@ -195,6 +197,26 @@ TEST(ShapeSketchViewTest, drawsInTheTextColourOfAnyPalette)
         const QImage picture = view.grab().toImage();
         EXPECT_GT(countNear(picture, ink), 500);
         EXPECT_GT(countNear(picture, paper), picture.width() * picture.height() / 2);
+    }
+}
+
+TEST(ShapeSketchViewTest, outlinesAreTwoPixelsWideAndHiddenEdgesDottedWithOne)
+{
+    ShapeSketchView view;
+    view.resize(240, 180);
+    for (int position = 0; position < 15; ++position) {
+        view.setShape(position);
+        PaintNotes notes;
+        NotedPaper paper(notes);
+        view.render(&paper, {}, {}, {});
+        const ShapeSketch sketch = sketchOfShape(position);
+        ASSERT_EQ(notes.lines.size(), sketch.strokes.size()) << position;
+        for (std::size_t i = 0; i < notes.lines.size(); ++i) {
+            const QPen &pen = notes.lines[i].pen;
+            const StrokeKind kind = sketch.strokes[i].kind;
+            EXPECT_EQ(pen.widthF(), kind == StrokeKind::Outline ? 2 : 1) << position << " " << i;
+            EXPECT_EQ(pen.style() == Qt::SolidLine, kind != StrokeKind::Hidden) << position << " " << i;
+        }
     }
 }
 

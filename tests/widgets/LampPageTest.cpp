@@ -252,5 +252,28 @@ TEST_F(LampPageTest, smallWindowScrollsThePageInsteadOfSqueezingIt)
     }
 }
 
+struct PastedCase {
+    const char *pasted;
+    const char *kept;
+};
+
+class PastedIntoABox : public LampPageTest, public testing::WithParamInterface<PastedCase> {};
+
+INSTANTIATE_TEST_SUITE_P(LineEnds, PastedIntoABox,
+                         testing::Values(PastedCase{"5\n", "5"}, PastedCase{"900\r\n", "900"}, PastedCase{"5\n\n", "5"},
+                                         PastedCase{"5\n6\n", "5 6"}, PastedCase{"5\r\n6", "5 6"},
+                                         PastedCase{"5\t6", "5 6"}, PastedCase{"\n", ""}, PastedCase{" 5 ", " 5 "}));
+
+TEST_P(PastedIntoABox, becomesOneLine)
+{
+    find("txtNumLamps")->setFocus();
+    QGuiApplication::clipboard()->setText(GetParam().pasted);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(text("txtNumLamps"), GetParam().kept);
+    box("txtNumLamps")->clear();
+    box("txtNumLamps")->paste();  // as the menu does
+    EXPECT_EQ(text("txtNumLamps"), GetParam().kept);
+}
+
 }  // namespace
 }  // namespace penwright::test

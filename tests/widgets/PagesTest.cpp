@@ -146,7 +146,58 @@ TEST_P(Page, scrollsBelowItsMinimumToEveryButton)
     }
 }
 
+TEST_P(Page, opensAtItsTopWithItsFirstFieldInView)
+{
+    for (const QSize size : {QSize(554, 347), QSize(300, 200)}) {
+        window->resize(size);
+        auto *scroll = window->findChild<QScrollArea *>();
+        scroll->verticalScrollBar()->setValue(scroll->verticalScrollBar()->maximum());
+        scroll->horizontalScrollBar()->setValue(scroll->horizontalScrollBar()->maximum());
+        window->ShowPage(GetParam().index);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(focusName(), GetParam().firstField);
+        EXPECT_FALSE(find(GetParam().firstField)->visibleRegion().isEmpty()) << size.width();
+        if (size.width() > 500)
+            EXPECT_EQ(scroll->verticalScrollBar()->value(), 0);
+    }
+}
+
 class Pages : public WizardTest {};
+
+TEST_F(Pages, faultyFieldIsInViewAfterItsWarnings)
+{
+    startWizard();
+    window->resize(554, 347);
+    auto *scroll = window->findChild<QScrollArea *>();
+    QCoreApplication::processEvents();
+    scroll->verticalScrollBar()->setValue(scroll->verticalScrollBar()->maximum());
+    ASSERT_TRUE(find("txtNumLamps")->visibleRegion().isEmpty());
+    EXPECT_NE(warningsOf([this] { click("cmdNext10"); }), "");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(focusName(), "txtNumLamps");
+    EXPECT_EQ(find("txtNumLamps")->visibleRegion(), QRegion(find("txtNumLamps")->rect()));
+}
+
+TEST_F(Pages, faultyCellIsInViewAfterItsWarnings)
+{
+    startWizard();
+    fillPageTwo();
+    window->ShowPage(kTiltPage);
+    window->resize(420, 260);
+    QCoreApplication::processEvents();
+    auto *grid = find<GridView>("lmpGridTiltMultiplier");
+    grid->goTo(1, 0);
+    typeText("5");
+    press(Qt::Key_Return);
+    auto *scroll = window->findChild<QScrollArea *>();
+    scroll->horizontalScrollBar()->setValue(0);
+    scroll->verticalScrollBar()->setValue(scroll->verticalScrollBar()->maximum());
+    EXPECT_NE(warningsOf([this] { find<QAbstractButton>("cmdNext15")->click(); }), "");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(focusName(), "lmpGridTiltMultiplier");
+    const QRect cell = grid->visualRect(grid->currentIndex());
+    EXPECT_TRUE(grid->viewport()->visibleRegion().contains(cell.center())) << cell.x() << " " << cell.y();
+}
 
 TEST_F(Pages, buttonsThatLeadNowhereAreDisabled)
 {

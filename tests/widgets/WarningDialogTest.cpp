@@ -94,6 +94,24 @@ TEST_F(Warning, canBeCopiedFromByKeyboardAlone)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "Watts is empty.\nWidth is empty.\n");
 }
 
+TEST_F(Warning, tripleClickSelectsOneLineHoweverLongTheList)
+{
+    for (const int lines : {20, 20'000}) {
+        window->dlgWarn().Clear();
+        for (int i = 1; i <= lines; ++i)
+            window->dlgWarn().Add("line " + std::to_string(i));
+        EXPECT_TRUE(showAnd([&](WarningDialog &open) {
+            const QPoint spot(20, text()->fontMetrics().lineSpacing() * 7 / 2);
+            QTest::mouseDClick(text()->viewport(), Qt::LeftButton, {}, spot);
+            QTest::mouseClick(text()->viewport(), Qt::LeftButton, {}, spot);
+            QString selected = text()->textCursor().selectedText();
+            selected.remove(QChar(QChar::ParagraphSeparator));
+            EXPECT_TRUE(selected == "line 3" || selected == "line 4") << selected.toStdString();
+            open.accept();
+        }));
+    }
+}
+
 TEST_F(Warning, longListIsTheSameTextAndScrollsToItsVeryEnd)
 {
     std::string expected;

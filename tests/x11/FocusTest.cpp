@@ -259,5 +259,22 @@ TEST_F(WithManager, aClickOnTheHostTakesTheFocusAway)
     EXPECT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
 }
 
+TEST_F(WithManager, aDialogOfAWizardWithoutAHostKeepsTheKeyboardWhenTheWizardIsClicked)
+{
+    window->move(100, 100);
+    show();
+    ASSERT_TRUE(spinUntil([this] { return window->isActiveWindow(); }));
+    whenDialogIsUp([this](QDialog &box) {
+        ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow() && display.focus() == idOf(box); }));
+        box.move(800, 600);
+        settle();
+        clickAt(*first);
+        settle();
+        EXPECT_TRUE(spinUntil([&] { return display.focus() == idOf(box); }));
+        xdotool({"key", "Escape"});
+    });
+    EXPECT_EQ(dialogs.show(kQuestion), Answer::No);
+}
+
 }  // namespace
 }  // namespace penwright::test

@@ -58,6 +58,11 @@ public:
     /// leaves the value as it came; the difference is meant.
     void readCell(int column, std::string &value) const;
 
+    /// The row `offset` rows from a position, "" being the place before the first row or, to go back, the first row
+    /// itself: the grid has one row. Nothing here calls it; the toolkit counts rows itself. Error 13 or 6 for a
+    /// position that is no row number.
+    static RelativeRow relativeRow(std::string_view start, int offset);
+
     int rowCount() const override { return 1; }
     int columnCount() const override { return m_cells.size(); }
     std::string columnCaption(int column) const override { return std::to_string(column + 1); }

@@ -9,6 +9,7 @@
 
 #include "pages/distribution/PredefinedAngles.h"
 #include "platform/qt/ViewText.h"
+#include "wizard/OneLine.h"
 
 namespace penwright {
 namespace {
@@ -16,6 +17,9 @@ namespace {
 /// Selects its whole text at the click that brings the focus, and at any click on the prompt: what is typed into the
 /// middle of either would not be understood. A part can still be selected by dragging, or after a second click.
 class AngleEdit : public QLineEdit {
+public:
+    AngleEdit() { setValidator(new OneLine(this)); }
+
 protected:
     void focusInEvent(QFocusEvent *event) override
     {

@@ -21,6 +21,13 @@ std::string TiltTable::read(int row, int column) const
     return generalText(column == kAngle ? m_angles(row) : m_factors(row));
 }
 
+RelativeRow TiltTable::relativeRow(std::string_view start, int offset) const
+{
+    const int fromNowhere = offset < 0 ? rowCount() + 1 : 0;
+    const int row = (start.empty() ? fromNowhere : toInt32(start)) + offset;
+    return {row >= 1 && row <= rowCount() ? std::to_string(row) : "", row};
+}
+
 std::optional<MessageBox> TiltTable::check(int row, int column, std::string_view text) const
 {
     const std::string cell = "Row " + std::to_string(row) + ", " + columnCaption(column) + ": ";

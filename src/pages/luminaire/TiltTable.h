@@ -29,6 +29,10 @@ public:
     const OneBased<float> &angles() const { return m_angles; }
     const OneBased<float> &factors() const { return m_factors; }
 
+    /// The row `offset` rows from a position, "" being the place before the first row or, to go back, behind the last.
+    /// Nothing here calls it; the toolkit counts rows itself. Error 13 or 6 for a position that is no row number.
+    RelativeRow relativeRow(std::string_view start, int offset) const;
+
     int rowCount() const override { return m_angles.size(); }
     int columnCount() const override { return 2; }
     std::string columnCaption(int column) const override { return column == kAngle ? "Angle" : "Factor"; }

@@ -103,13 +103,13 @@ void X11Focus::onDialog(QWidget &dialog, QEvent::Type type)
 
 void X11Focus::onFocusWindow(QWindow *focused)
 {
-    if (!m_host || !m_window)
+    if (!m_window)
         return;
     // A click on the blocked wizard still makes the toolkit believe that the wizard is active.
     if (focused == m_window->windowHandle() && QApplication::activeModalWidget())
         QTimer::singleShot(0, this, activateModal);
     // A window manager that notices late that a dialog is gone gives the focus to the host after it was taken here.
-    else if (!focused && !m_contested.hasExpired() && hasHostTakenIt())
+    else if (m_host && !focused && !m_contested.hasExpired() && hasHostTakenIt())
         take();
 }
 

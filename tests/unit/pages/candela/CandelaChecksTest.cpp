@@ -59,8 +59,10 @@ TEST_F(CandelaChecks, compareTheZenithOnlyAt180)
     EXPECT_EQ(check({{"1", "1", "1"}, {"3", "3", "4"}}),
               "Zenith (Top) Candela do not agree.  H:180 not equal to H:0\r\n");
     EXPECT_EQ(firstFault(), (FaultPlace{.row = 2, .column = 3}));
-    giveAngles({0, 90, 180}, {0, 179.9F});
-    EXPECT_EQ(check({{"1", "1", "1"}, {"3", "3", "4"}}), "");
+    for (const float top : {179.9F, 180.1F}) {
+        giveAngles({0, 90, 180}, {0, top});
+        EXPECT_EQ(check({{"1", "1", "1"}, {"3", "3", "4"}}), "") << top;
+    }
 }
 
 TEST_F(CandelaChecks, nadirIsNotComparedWhenACellIsBlank)

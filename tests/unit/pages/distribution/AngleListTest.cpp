@@ -125,6 +125,18 @@ TEST_P(EntryText, isReadAtTheTokensOfItsTypeAndAxis)
     EXPECT_EQ(shown(list.cells()), GetParam().cells);
 }
 
+TEST(AngleList, hasOneRowAtAnyDistance)
+{
+    EXPECT_EQ(AngleList::relativeRow("", 1), (RelativeRow{"1", 1}));
+    EXPECT_EQ(AngleList::relativeRow("", 2), (RelativeRow{"", 2}));
+    EXPECT_EQ(AngleList::relativeRow("", 0), (RelativeRow{"", 0}));
+    EXPECT_EQ(AngleList::relativeRow("", -1), (RelativeRow{"", 0}));
+    EXPECT_EQ(AngleList::relativeRow("1", 0), (RelativeRow{"1", 1}));
+    EXPECT_EQ(AngleList::relativeRow("1", 1), (RelativeRow{"", 2}));
+    EXPECT_EQ(AngleList::relativeRow("1", -1), (RelativeRow{"", 0}));
+    EXPECT_EQ(AngleList::relativeRow("2", -1), (RelativeRow{"1", 1}));
+}
+
 TEST(AngleListResize, computesInSinglePrecision)
 {
     AngleList list(V);

@@ -131,5 +131,20 @@ TEST(TiltTable, clearedCellIsZero)
     EXPECT_EQ(table.factors(), (OneBased<float>{0.1F, 0.2F, 0}));
 }
 
+TEST(TiltTable, tellsRowsAtADistance)
+{
+    const TiltTable table = filledTable();
+    EXPECT_EQ(table.relativeRow("", 1), (RelativeRow{"1", 1}));
+    EXPECT_EQ(table.relativeRow("", 3), (RelativeRow{"3", 3}));
+    EXPECT_EQ(table.relativeRow("", 4), (RelativeRow{"", 4}));
+    EXPECT_EQ(table.relativeRow("", 0), (RelativeRow{"", 0}));
+    EXPECT_EQ(table.relativeRow("", -1), (RelativeRow{"3", 3}));
+    EXPECT_EQ(table.relativeRow("", -4), (RelativeRow{"", 0}));
+    EXPECT_EQ(table.relativeRow("2", 1), (RelativeRow{"3", 3}));
+    EXPECT_EQ(table.relativeRow("2", -1), (RelativeRow{"1", 1}));
+    EXPECT_EQ(table.relativeRow("2", -2), (RelativeRow{"", 0}));
+    EXPECT_EQ(table.relativeRow("3", 1), (RelativeRow{"", 4}));
+}
+
 }  // namespace
 }  // namespace penwright::test
