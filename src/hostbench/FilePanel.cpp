@@ -11,7 +11,9 @@
 #include <QVBoxLayout>
 
 #include "core/StartupState.h"
+#include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/TwoLineDelegate.h"
+#include "platform/RunTimeError.h"
 
 namespace penwright {
 

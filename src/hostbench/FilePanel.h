@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "hostbench/hostlib/HeldFiles.h"
+#include "hostbench/HeldFiles.h"
 
 class QLabel;
 class QListWidget;

@@ -13,6 +13,7 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/HostStyle.h"
 #include "hostbench/LinkLog.h"
 #include "platform/RunTimeError.h"
@@ -36,7 +37,7 @@ QSize startSize()
 
 }  // namespace
 
-HostWindow::HostWindow(SettingsStore &store, QString toolProgram, QWidget *parent)
+HostWindow::HostWindow(HostStore &store, QString toolProgram, QWidget *parent)
     : QMainWindow(parent), m_store(store), m_toolProgram(std::move(toolProgram))
 {
     setObjectName("hostWindow");
@@ -126,7 +127,7 @@ void HostWindow::connectButtons()
     connect(m_new, &QPushButton::clicked, this, &HostWindow::startTool);
     connect(m_dataChanged, &QPushButton::clicked, this, &HostWindow::sendDataChanged);
     connect(m_deleteFile, &QPushButton::clicked, this, &HostWindow::sendDeleteFile);
-    connect(m_close, &QPushButton::clicked, this, [this] { shownTool()->run().link().sendClose(); });
+    connect(m_close, &QPushButton::clicked, this, [this] { shownTool()->run().tool().sendClose(); });
     connect(m_tabs, &QTabWidget::currentChanged, this, &HostWindow::enableButtons);
     connect(m_panel, &FilePanel::selectionChanged, this, [this] {
         showSelectedText();
@@ -147,7 +148,7 @@ ToolTab *HostWindow::startTool()
     auto *tab = new ToolTab(*m_tabs, m_store, address);
     m_tools.append(tab);
     connect(&tab->run(), &ToolRun::logged, this,
-            [this, tab](LinkWay way, const QString &text) { m_log->append(tab->run().name(), way, text); });
+            [this, tab](ToolRun::Line line, const QString &text) { m_log->append(tab->run().name(), line, text); });
     connect(&tab->run(), &ToolRun::commandTaken, this, [this, tab](const ToolCommand &command) { take(tab, command); });
     connect(&tab->run(), &ToolRun::recordsWanted, this, [this, tab] { storeSelected(tab); });
     // Queued: a tool that cannot be started ends before its tab has begun.
@@ -171,9 +172,9 @@ void HostWindow::storeSelected(ToolTab *tab)
     if (m_panel->selected() < 0)
         return;
     try {
-        tab->run().link().storeRecords({m_files.at(m_panel->selected()).record});
-    } catch (const RunTimeError &error) {
-        note(tab, QString::fromStdString(error.description()));
+        tab->run().tool().storeRecords({hostRecord(m_files.at(m_panel->selected()).record)});
+    } catch (const std::exception &error) {
+        note(tab, QString::fromStdString(error.what()));
     }
 }
 
@@ -181,12 +182,12 @@ void HostWindow::sendDataChanged()
 {
     ToolTab *tab = shownTool();
     storeSelected(tab);
-    tab->run().link().sendDataChanged();
+    tab->run().tool().sendDataChanged();
 }
 
 void HostWindow::sendDeleteFile()
 {
-    shownTool()->run().link().sendDeleteFile(m_files.at(m_panel->selected()).record.Filename);
+    shownTool()->run().tool().sendDeleteFile(m_files.at(m_panel->selected()).record.Filename);
 }
 
 void HostWindow::take(ToolTab *tab, const ToolCommand &command)
@@ -194,22 +195,22 @@ void HostWindow::take(ToolTab *tab, const ToolCommand &command)
     if (bringsRecord(command.word))
         takeRecord(tab, isSavedOnDisk(command.word));
     if (expectsClose(command.word))
-        tab->run().link().sendClose();
+        tab->run().tool().sendClose();
     emit commandDone(tab, command);
 }
 
 void HostWindow::takeRecord(ToolTab *tab, bool isSaved)
 {
     try {
-        for (const ReadRecord &read : tab->run().link().loadRecords()) {
-            const QString name = QString::fromStdString(read.record.Filename);
+        for (const LoadedRecord &read : tab->run().tool().loadRecords()) {
+            const QString name = QString::fromStdString(read.record.filename);
             if (!read.problem.empty())
                 note(tab, tr("%1: %2").arg(name, QString::fromStdString(read.problem)));
-            else if (!addFile({read.record, isSaved}))
+            else if (!addFile({photometricRecord(read.record), isSaved}))
                 note(tab, tr("%1 is not added: the list is full").arg(name));
         }
-    } catch (const RunTimeError &error) {
-        note(tab, QString::fromStdString(error.description()));
+    } catch (const std::exception &error) {
+        note(tab, QString::fromStdString(error.what()));
     }
 }
 
@@ -257,7 +258,7 @@ void HostWindow::closeTools()
 {
     enableButtons();
     for (ToolTab *tab : std::as_const(m_tools))
-        tab->run().link().sendClose();
+        tab->run().tool().sendClose();
     QTimer::singleShot(kClosingLimit, this, [this] {
         for (ToolTab *tab : std::as_const(m_tools))
             tab->run().kill();
@@ -266,7 +267,7 @@ void HostWindow::closeTools()
 
 void HostWindow::note(ToolTab *tab, const QString &text)
 {
-    m_log->append(tab->run().name(), LinkWay::Note, text);
+    m_log->append(tab->run().name(), ToolRun::Line::Note, text);
 }
 
 void HostWindow::showSelectedText()

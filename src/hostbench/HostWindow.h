@@ -3,7 +3,7 @@
 #include <QMainWindow>
 
 #include "hostbench/FilePanel.h"
-#include "hostbench/hostlib/HeldFiles.h"
+#include "hostbench/HeldFiles.h"
 #include "hostbench/ToolTab.h"
 
 class QPlainTextEdit;
@@ -21,7 +21,7 @@ class HostWindow : public QMainWindow {
 
 public:
     /// `toolProgram` is the executable that "New Photometric File..." starts.
-    HostWindow(SettingsStore &store, QString toolProgram, QWidget *parent = nullptr);
+    HostWindow(HostStore &store, QString toolProgram, QWidget *parent = nullptr);
     ~HostWindow() override;
 
     /// Starts one more tool in a tab of its own; the tab lives until the tool has ended.
@@ -66,7 +66,7 @@ private:
     void enableButtons();
     ToolTab *shownTool() const;
 
-    SettingsStore &m_store;
+    HostStore &m_store;
     QString m_toolProgram;
     HeldFiles m_files;
     QList<ToolTab *> m_tools;

@@ -15,12 +15,12 @@ enum Column { kTime, kTool, kWay, kText };
 constexpr int kMostLines = 1000;
 constexpr int kMostCharacters = 300;
 
-QString wayText(LinkWay way)
+QString wayText(ToolRun::Line way)
 {
     switch (way) {
-        case LinkWay::ToTool:
+        case ToolRun::Line::ToTool:
             return LinkLog::tr("to tool \u2192");
-        case LinkWay::FromTool:
+        case ToolRun::Line::FromTool:
             return LinkLog::tr("\u2190 from tool");
         default:
             return {};
@@ -43,17 +43,17 @@ LinkLog::LinkLog(QWidget *parent) : QTreeWidget(parent)
     const QFontMetrics metrics(font());
     setColumnWidth(kTime, metrics.horizontalAdvance("00:00:00.000") + 28);
     setColumnWidth(kTool, metrics.horizontalAdvance("Tool 000") + 28);
-    setColumnWidth(kWay, metrics.horizontalAdvance(wayText(LinkWay::FromTool)) + 28);
+    setColumnWidth(kWay, metrics.horizontalAdvance(wayText(ToolRun::Line::FromTool)) + 28);
 }
 
-void LinkLog::append(const QString &tool, LinkWay way, const QString &text)
+void LinkLog::append(const QString &tool, ToolRun::Line way, const QString &text)
 {
     // A tool may post megabytes; a line of the log is for reading.
     const bool isLong = text.size() > kMostCharacters;
     const QString shown = isLong ? text.left(kMostCharacters) + QChar(0x2026) : text;
     auto *line = new QTreeWidgetItem({QTime::currentTime().toString("HH:mm:ss.zzz"), tool, wayText(way), shown});
     line->setToolTip(kText, shown);
-    if (way == LinkWay::Note)
+    if (way == ToolRun::Line::Note)
         for (int column = kTime; column <= kText; ++column)
             line->setForeground(column, quietText(palette()));
     addTopLevelItem(line);

@@ -13,7 +13,7 @@ class LinkLog : public QTreeWidget {
 public:
     explicit LinkLog(QWidget *parent = nullptr);
 
-    void append(const QString &tool, LinkWay way, const QString &text);
+    void append(const QString &tool, ToolRun::Line way, const QString &text);
 };
 
 }  // namespace penwright

@@ -1,100 +1,70 @@
 #include "hostbench/ToolRun.h"
 
-#include "platform/RunTimeError.h"
+#include <exception>
 
 namespace penwright {
 
-ToolRun::ToolRun(SettingsStore &store, ToolAddress address, QObject *parent)
-    : QObject(parent), m_link(store, std::move(address))
+ToolRun::ToolRun(HostStore &store, ToolAddress address, QObject *parent)
+    : QObject(parent), m_tool(store, std::move(address))
 {
-    m_process.setProcessChannelMode(QProcess::ForwardedChannels);
-    m_process.setStandardInputFile(QProcess::nullDevice());
-    connect(&m_process, &QProcess::finished, this, &ToolRun::finish);
-    connect(&m_process, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart)
-            finish();
-    });
+    m_tool.onText([this](LinkWay way, const std::string &text) { logText(way, text); });
+    m_tool.onCommand([this](const ToolCommand &command) { emit commandTaken(command); });
+    m_tool.onRecordsWanted([this] { emit recordsWanted(); });
+    m_tool.onEnded([this] { noteEnd(); });
     connect(&m_poll, &QTimer::timeout, this, &ToolRun::poll);
-}
-
-ToolRun::~ToolRun()
-{
-    m_process.disconnect(this);
-    if (m_process.state() == QProcess::NotRunning)
-        return;
-    m_process.kill();
-    m_process.waitForFinished();
 }
 
 void ToolRun::start(const QString &program)
 {
-    const QString commandLine = QString::fromStdString(m_link.commandLine());
-    emit logged(LinkWay::Note, tr("Starts %1 \"%2\"").arg(program.section('/', -1), commandLine));
-    m_process.start(program, {commandLine});
-    m_poll.start(100);
+    emit logged(Line::Note,
+                tr("Starts %1 \"%2\"").arg(program.section('/', -1), QString::fromStdString(m_tool.commandLine())));
+    try {
+        m_tool.start(program.toLocal8Bit().toStdString());
+        m_poll.start(100);
+    } catch (const std::exception &error) {
+        emit logged(Line::Note, tr("Could not be started: %1").arg(QString::fromLocal8Bit(error.what())));
+        emit ended();
+    }
 }
 
 QString ToolRun::name() const
 {
-    return tr("Tool %1").arg(QString::fromStdString(m_link.address().tag));
+    return tr("Tool %1").arg(QString::fromStdString(m_tool.address().tag));
 }
 
-int ToolRun::exitStatus() const
+void ToolRun::kill()
 {
-    const bool byItself = m_isOver && m_process.error() == QProcess::UnknownError;
-    return byItself && m_process.exitStatus() == QProcess::NormalExit ? m_process.exitCode() : -1;
+    m_isKilled = true;
+    m_tool.kill();
 }
 
 void ToolRun::poll()
 {
     try {
-        deliverAndTake();
+        m_tool.poll();
         m_storeFailed = false;
-    } catch (const RunTimeError &error) {
+    } catch (const std::exception &error) {
         if (!std::exchange(m_storeFailed, true))
-            emit logged(LinkWay::Note, QString::fromStdString(error.description()));
+            emit logged(Line::Note, QString::fromStdString(error.what()));
     }
 }
 
-void ToolRun::deliverAndTake()
+void ToolRun::logText(LinkWay way, const std::string &text)
 {
-    if (const std::string text = m_link.deliver(); !text.empty())
-        emit logged(LinkWay::ToTool, QString::fromStdString(text));
-    if (const auto waiting = parseToolCommand(m_link.waiting()); waiting && waiting->word == ToolWord::RefreshData)
-        emit recordsWanted();
-    const std::string text = m_link.take();
-    if (text.empty())
-        return;
-    emit logged(LinkWay::FromTool, QString::fromStdString(text));
-    if (const auto command = parseToolCommand(text))
-        emit commandTaken(*command);
-    else
-        emit logged(LinkWay::Note, tr("Not a command of a tool; ignored"));
+    emit logged(way == LinkWay::ToTool ? Line::ToTool : Line::FromTool, QString::fromStdString(text));
+    if (way == LinkWay::FromTool && !parseToolCommand(text))
+        emit logged(Line::Note, tr("Not a command of a tool; ignored"));
 }
 
 void ToolRun::noteEnd()
 {
-    if (m_process.error() == QProcess::FailedToStart)
-        emit logged(LinkWay::Note, tr("Could not be started: %1").arg(m_process.errorString()));
-    else if (m_process.exitStatus() == QProcess::CrashExit)
-        emit logged(LinkWay::Note, tr("Died"));
-    else
-        emit logged(LinkWay::Note, tr("Ended with status %1").arg(m_process.exitCode()));
-}
-
-void ToolRun::finish()
-{
-    if (std::exchange(m_isOver, true))
-        return;
     m_poll.stop();
-    // What the tool posted last is taken even when it did not live to see it.
-    poll();
-    noteEnd();
-    try {
-        m_link.forget();
-    } catch (const RunTimeError &error) {
-        emit logged(LinkWay::Note, QString::fromStdString(error.description()));
-    }
+    if (m_isKilled && m_tool.exitStatus() < 0)
+        emit logged(Line::Note, tr("Did not close in time; killed"));
+    else if (m_tool.exitStatus() < 0)
+        emit logged(Line::Note, tr("Died"));
+    else
+        emit logged(Line::Note, tr("Ended with status %1").arg(m_tool.exitStatus()));
     emit ended();
 }
 

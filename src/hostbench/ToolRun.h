@@ -1,46 +1,36 @@
 #pragma once
 
-#include <QObject>
-#include <QProcess>
-#include <QTimer>
+#include <penwright_host/HostedTool.h>
 
-#include "hostbench/hostlib/ToolCommand.h"
-#include "hostbench/hostlib/ToolLink.h"
+#include <QObject>
+#include <QTimer>
 
 namespace penwright {
 
-/// Which way a line of the link's log went; a note is the host's own remark.
-enum class LinkWay { ToTool, FromTool, Note };
-
-/// One tool from its start to its end: its process, its link, and the poll of the host's inbox every 100 ms.
+/// One tool in the host's event loop: polled every 100 milliseconds, its callbacks as signals, with texts for the log.
 class ToolRun : public QObject {
     Q_OBJECT
 
 public:
-    ToolRun(SettingsStore &store, ToolAddress address, QObject *parent = nullptr);
+    /// What a line of the log is; a note is the host's own remark.
+    enum class Line { ToTool, FromTool, Note };
 
-    /// Kills the tool if it still runs.
-    ~ToolRun() override;
+    ToolRun(HostStore &store, ToolAddress address, QObject *parent = nullptr);
 
-    /// Starts the executable with the link's command line; `ended` follows at once when that fails.
+    /// Starts the executable; `ended` follows at once when that fails.
     void start(const QString &program);
 
-    ToolLink &link() { return m_link; }
+    HostedTool &tool() { return m_tool; }
 
     /// What the host calls this tool: "Tool " and its tag.
     QString name() const;
 
-    qint64 processId() const { return m_process.processId(); }
-
-    /// Exit status of a tool that has ended by itself, -1 otherwise.
-    int exitStatus() const;
-
-    void kill() { m_process.kill(); }
+    void kill();
 
 signals:
-    void logged(penwright::LinkWay way, const QString &text);
+    void logged(penwright::ToolRun::Line line, const QString &text);
 
-    /// "RefreshData" waits in the inbox; the tool reads the store as soon as it has been taken.
+    /// The tool reads the store as soon as this returns.
     void recordsWanted();
     void commandTaken(const penwright::ToolCommand &command);
 
@@ -49,15 +39,13 @@ signals:
 
 private:
     void poll();
-    void deliverAndTake();
+    void logText(LinkWay way, const std::string &text);
     void noteEnd();
-    void finish();
 
-    ToolLink m_link;
-    QProcess m_process;
+    HostedTool m_tool;
     QTimer m_poll;
     bool m_storeFailed = false;
-    bool m_isOver = false;
+    bool m_isKilled = false;
 };
 
 }  // namespace penwright

@@ -5,7 +5,7 @@
 
 namespace penwright {
 
-ToolTab::ToolTab(QTabWidget &tabs, SettingsStore &store, ToolAddress address)
+ToolTab::ToolTab(QTabWidget &tabs, HostStore &store, ToolAddress address)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -29,13 +29,13 @@ void ToolTab::start(const QString &program)
 {
     m_run->start(program);
     followSize();
-    m_run->link().sendStart();
+    m_run->tool().sendStart();
 }
 
 void ToolTab::followSize()
 {
     const QSize size = m_area->pixels();
-    m_run->link().sendMoveWindow(0, 0, size.width(), size.height());
+    m_run->tool().sendMoveWindow(0, 0, size.width(), size.height());
 }
 
 }  // namespace penwright

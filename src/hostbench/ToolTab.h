@@ -15,7 +15,7 @@ class ToolTab : public QWidget {
 
 public:
     /// Adds itself to `tabs`, as the tab shown. `address.window` is filled in here.
-    ToolTab(QTabWidget &tabs, SettingsStore &store, ToolAddress address);
+    ToolTab(QTabWidget &tabs, HostStore &store, ToolAddress address);
 
     /// Starts the tool and shows it as soon as it listens.
     void start(const QString &program);

@@ -11,8 +11,10 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/HostWindow.h"
 #include "hostbench/SampleLuminaire.h"
+#include "hostlink/RecordText.h"
 #include "wizard/PageTable.h"
 
 namespace penwright {
@@ -70,7 +72,7 @@ Walk::Walk(HostWindow &window, QString folder) : m_window(window), m_folder(std:
                      [this](ToolTab *, const ToolCommand &command) { m_taken.push_back(command); });
     QObject::connect(&m_window, &HostWindow::toolEnded, &m_window, [this](ToolTab *tab) {
         m_hasEnded = true;
-        m_exitStatus = tab->run().exitStatus();
+        m_exitStatus = tab->run().tool().exitStatus();
     });
 }
 
@@ -254,7 +256,7 @@ bool Walk::typeName()
 
 bool Walk::checkRecord()
 {
-    const std::string tag = m_tab ? m_tab->run().link().address().tag : "";
+    const std::string tag = m_tab ? m_tab->run().tool().address().tag : "";
     if (m_taken.front() != ToolCommand{ToolWord::SendNewDataClose, std::string(kToolName), tag})
         return fail(QStringLiteral("the command is not \"SendNewDataClose,\" with the tool's name and tag"));
     const HeldFile &file = m_window.files().at(m_window.files().count() - 1);

@@ -1,6 +1,7 @@
 #include <xcb/xcb.h>
 
 #include <cstdio>
+#include <exception>
 #include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
@@ -8,8 +9,6 @@
 
 #include "hostbench/HostWindow.h"
 #include "hostbench/Walk.h"
-#include "platform/RunTimeError.h"
-#include "platform/sqlite/SqliteSettingsStore.h"
 
 namespace {
 
@@ -77,7 +76,7 @@ int walk(penwright::HostWindow &window, const QString &folder)
 
 int runHost(QApplication &application, const Options &options)
 {
-    penwright::SqliteSettingsStore store(penwright::SqliteSettingsStore::userPath());
+    penwright::HostStore store;
     penwright::HostWindow window(store, QCoreApplication::applicationDirPath() + "/PenwrightPE");
     if (!options.walkFolder.isEmpty())
         return walk(window, options.walkFolder);
@@ -111,7 +110,7 @@ int main(int argc, char **argv)
     QApplication::setStyle("Fusion");
     try {
         return runHost(application, options);
-    } catch (const penwright::RunTimeError &error) {
-        return fail(QString::fromStdString(error.description()));
+    } catch (const std::exception &error) {
+        return fail(QString::fromStdString(error.what()));
     }
 }

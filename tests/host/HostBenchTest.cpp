@@ -4,7 +4,7 @@
 #include <QImage>
 #include <set>
 
-#include "hostbench/hostlib/HeldFiles.h"
+#include "hostbench/HeldFiles.h"
 #include "hostbench/SampleLuminaire.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "support/Process.h"

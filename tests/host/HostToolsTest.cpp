@@ -12,7 +12,6 @@
 #include "hostbench/LuminaireTyper.h"
 #include "hostbench/SampleLuminaire.h"
 #include "hostbench/XDisplay.h"
-#include "platform/sqlite/SqliteSettingsStore.h"
 #include "support/Xvfb.h"
 
 namespace penwright {
@@ -85,7 +84,7 @@ protected:
         return waitFor([&] { return m_window.toolCount() == count; });
     }
 
-    SqliteSettingsStore m_store{SqliteSettingsStore::userPath()};
+    HostStore m_store;
     HostWindow m_window{m_store, PENWRIGHT};
     XDisplay m_display;
     const PhotometricRecord m_luminaire = sampleLuminaire();
@@ -110,7 +109,7 @@ TEST_F(HostToolsTest, twoToolsRunSideBySideAndEndByThemselves)
     ToolTab *one = startAndShow();
     ToolTab *two = startAndShow();
     EXPECT_TRUE(shows(one, kFirstPage));
-    EXPECT_NE(one->run().processId(), two->run().processId());
+    EXPECT_NE(one->run().tool().processId(), two->run().tool().processId());
     typeGeneralInfo();
     m_display.pressKey('n', kKeyAlt);
     EXPECT_TRUE(waitFor([&] { return !shows(two, kFirstPage); }));
@@ -118,7 +117,7 @@ TEST_F(HostToolsTest, twoToolsRunSideBySideAndEndByThemselves)
     m_window.findChild<QPushButton *>("sendClose")->click();
     EXPECT_TRUE(waitForToolCount(1));
     EXPECT_TRUE(shows(one, kFirstPage));
-    one->run().link().sendClose();
+    one->run().tool().sendClose();
     EXPECT_TRUE(waitForToolCount(0));
 }
 
@@ -127,7 +126,7 @@ TEST_F(HostToolsTest, anUnnamedFileComesBackAndIsHeld)
     ToolTab *tab = startAndShow();
     m_window.addFile({m_luminaire, false});
     m_window.sendDataChanged();
-    ASSERT_TRUE(waitFor([&] { return tab->run().link().isAllTaken(); }));
+    ASSERT_TRUE(waitFor([&] { return tab->run().tool().isAllTaken(); }));
     ASSERT_TRUE(walkToLastPage());
     m_display.pressKey(kKeySpace);
     ASSERT_TRUE(waitForToolCount(0));

@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QTreeWidget>
 
+#include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/SampleLuminaire.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "support/TempFolder.h"
@@ -32,7 +33,7 @@ protected:
         qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(m_folder.path().string()));
         qputenv("FAKE_TOOL_LOG", QByteArray::fromStdString(m_folder.file("log")));
         behave("wait");
-        m_store = std::make_unique<SqliteSettingsStore>(SqliteSettingsStore::userPath());
+        m_store = std::make_unique<HostStore>();
         open(FAKE_TOOL);
     }
 
@@ -74,7 +75,7 @@ protected:
     }
 
     test::TempFolder m_folder;
-    std::unique_ptr<SqliteSettingsStore> m_store;
+    std::unique_ptr<HostStore> m_store;
     std::unique_ptr<HostWindow> m_window;
 };
 
@@ -88,7 +89,7 @@ TEST_F(HostWindowTest, aToolGetsItsPlaceAndThenIsShown)
 {
     ToolTab *tab = m_window->startTool();
     ASSERT_TRUE(waitNoted("START"));
-    const ToolAddress &address = tab->run().link().address();
+    const ToolAddress &address = tab->run().tool().address();
     EXPECT_EQ(noted()[0], QStringLiteral("%1,1,HostInbox,1,0,%2")
                               .arg(tab->area().windowNumber())
                               .arg(QString::fromStdString(address.section)));
@@ -205,8 +206,8 @@ TEST_F(HostWindowTest, twoToolsRunSideBySide)
     behave("SendNewDataClose");
     ToolTab *one = m_window->startTool();
     ToolTab *two = m_window->startTool();
-    EXPECT_NE(one->run().link().address().tag, two->run().link().address().tag);
-    EXPECT_NE(one->run().link().address().section, two->run().link().address().section);
+    EXPECT_NE(one->run().tool().address().tag, two->run().tool().address().tag);
+    EXPECT_NE(one->run().tool().address().section, two->run().tool().address().section);
     EXPECT_NE(one->area().windowNumber(), two->area().windowNumber());
     ASSERT_TRUE(waitForNoTools());
     EXPECT_EQ(m_window->files().count(), 2);
@@ -216,9 +217,9 @@ TEST_F(HostWindowTest, aRunningToolCountsAsAFile)
 {
     for (int i = 0; i < 23; ++i)
         m_window->addFile({sampleLuminaire(), false});
-    EXPECT_EQ(m_window->startTool()->run().link().address().openFiles, 23);
-    EXPECT_EQ(m_window->startTool()->run().link().address().openFiles, 24);
-    EXPECT_EQ(m_window->startTool()->run().link().address().openFiles, 25);
+    EXPECT_EQ(m_window->startTool()->run().tool().address().openFiles, 23);
+    EXPECT_EQ(m_window->startTool()->run().tool().address().openFiles, 24);
+    EXPECT_EQ(m_window->startTool()->run().tool().address().openFiles, 25);
 }
 
 TEST_F(HostWindowTest, dataChangedHandsOverTheSelectedFile)
@@ -231,10 +232,10 @@ TEST_F(HostWindowTest, dataChangedHandsOverTheSelectedFile)
     ASSERT_TRUE(waitNoted("START"));
     button("sendDataChanged")->click();
     ASSERT_TRUE(waitNoted("DATACHANGED"));
-    const auto stored = tab->run().link().loadRecords();
+    const auto stored = tab->run().tool().loadRecords();
     ASSERT_EQ(stored.size(), 1U);
-    EXPECT_EQ(iesFileText(stored[0].record), iesFileText(record));
-    EXPECT_EQ(stored[0].record.Filename, "the other");
+    EXPECT_EQ(iesText(stored[0].record), iesFileText(record));
+    EXPECT_EQ(stored[0].record.filename, "the other");
 }
 
 TEST_F(HostWindowTest, freshRecordsAreThereBeforeTheRequestIsTaken)
@@ -280,9 +281,9 @@ TEST_F(HostWindowTest, nothingCanBeSentWithoutATool)
 TEST_F(HostWindowTest, nothingOfAToolStaysInTheStore)
 {
     behave("SendNewDataClose");
-    const std::string section = m_window->startTool()->run().link().address().section;
+    const std::string section = m_window->startTool()->run().tool().address().section;
     ASSERT_TRUE(waitForNoTools());
-    EXPECT_TRUE(m_store->readAll("Lumentor_PE", section).empty());
+    EXPECT_TRUE(SqliteSettingsStore(HostStore::userPath()).readAll("Lumentor_PE", section).empty());
 }
 
 TEST_F(HostWindowTest, closingTheWindowClosesItsToolsFirst)
@@ -304,7 +305,7 @@ TEST_F(HostWindowTest, aToolThatDoesNotCloseDoesNotKeepTheWindow)
     ASSERT_TRUE(waitNoted("START"));
     m_window->close();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !m_window->isVisible(); }, 20'000));
-    EXPECT_TRUE(logged().contains("Died"));
+    EXPECT_TRUE(logged().contains("Did not close in time; killed"));
 }
 
 TEST_F(HostWindowTest, itsListsAndTextFollowThePalette)

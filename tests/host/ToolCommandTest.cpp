@@ -1,4 +1,4 @@
-#include "hostbench/hostlib/ToolCommand.h"
+#include <penwright_host/ToolCommand.h>
 
 #include <gtest/gtest.h>
 

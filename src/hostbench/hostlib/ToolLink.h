@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstdint>
+#include <penwright_host/ToolAddress.h>
+
 #include <deque>
 #include <string>
 #include <string_view>
@@ -11,16 +12,6 @@
 #include "platform/SettingsStore.h"
 
 namespace penwright {
-
-/// What a host settles for one tool before it starts it. No field may hold a comma or a line end.
-struct ToolAddress {
-    std::uint32_t window = 0;  ///< X11 number of the host's window that the tool becomes a child of
-    bool embedded = true;      ///< whether the tool gives its window back when it ends
-    std::string inbox;         ///< settings value through which the tool's commands come
-    std::string tag;           ///< the instance's tag, which the tool repeats in its commands
-    int openFiles = 0;         ///< photometric files that the host holds; at 25 the tool refuses
-    std::string section;       ///< settings section of all exchange with this instance
-};
 
 /// A host's end of the link to one tool: its command line, commands to it and from it, and the records in the store.
 /// Each instance that runs at the same time needs a section of its own. Routines that write raise the store's errors.

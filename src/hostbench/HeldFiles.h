@@ -33,7 +33,4 @@ private:
     std::vector<HeldFile> m_files;
 };
 
-/// The text of the record's IES file as it stands on disk; error 6 or 9 when its counts and arrays disagree.
-std::string iesFileText(const PhotometricRecord &record);
-
 }  // namespace penwright
