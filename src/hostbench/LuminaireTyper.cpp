@@ -1,12 +1,34 @@
 #include "hostbench/LuminaireTyper.h"
 
 #include "core/NumberText.h"
+#include "wizard/PageTable.h"
 
 namespace penwright {
 
 LuminaireTyper::LuminaireTyper(XDisplay &display, const PhotometricRecord &luminaire)
     : m_display(display), m_luminaire(luminaire)
 {
+}
+
+QString LuminaireTyper::captionOf(int page)
+{
+    return QString::fromStdString(std::string(kPages.at(static_cast<std::size_t>(page - 1)).caption));
+}
+
+void LuminaireTyper::typePage(int page)
+{
+    switch (page) {
+        case 1:
+            return typeGeneralInfo();
+        case 2:
+            return typeTilt();
+        case 3:
+            return typeKeywords();
+        case 4:
+            return typeDistribution();
+        default:
+            return pasteCandelas();
+    }
 }
 
 void LuminaireTyper::press(std::uint32_t key, int times, std::uint32_t modifier)

@@ -14,6 +14,12 @@ public:
     /// Both outlive the typer. The luminaire's shape is a rectangle with luminous sides: all dimensions positive.
     LuminaireTyper(XDisplay &display, const PhotometricRecord &luminaire);
 
+    /// What a page, counted from 1, has as its caption and as the title of the wizard's window.
+    static QString captionOf(int page);
+
+    /// Fills in one of pages 1 to 5.
+    void typePage(int page);
+
     /// Page 1: all fields, meters, and tilt information included.
     void typeGeneralInfo();
 

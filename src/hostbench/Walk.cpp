@@ -15,7 +15,6 @@
 #include "hostbench/HostWindow.h"
 #include "hostbench/SampleLuminaire.h"
 #include "hostlink/RecordText.h"
-#include "wizard/PageTable.h"
 
 namespace penwright {
 
@@ -25,12 +24,6 @@ namespace {
 constexpr int kWaitLimit = 15'000;
 
 const QString kSaveTitle = QStringLiteral("Save New Photometric file As...");
-
-QString captionOf(int page)
-{
-    const std::string_view caption = kPages[static_cast<std::size_t>(page - 1)].caption;
-    return QString::fromUtf8(caption.data(), static_cast<qsizetype>(caption.size()));
-}
 
 /// The field word of the first text of the store in which two records differ, "" when they are the same there. Candelas
 /// pass through the store with 15 digits, so the values themselves need not be equal to the last bit.
@@ -106,7 +99,7 @@ bool Walk::waitFor(const std::function<bool()> &condition, const QString &what)
 bool Walk::waitForPage(int page)
 {
     // Somebody else's window may take the focus at any time, so every key waits for it anew.
-    const QString caption = captionOf(page);
+    const QString caption = LuminaireTyper::captionOf(page);
     if (!waitFor([&] { return m_hasEnded || m_display.focusedTitle() == caption; }, "the keyboard focus"))
         return fail(
             QStringLiteral("the keyboard focus is in \"%1\", not in \"%2\"").arg(m_display.focusedTitle(), caption));
