@@ -98,8 +98,15 @@ int FilePanel::selected() const
 
 void FilePanel::enableButtons()
 {
-    m_save->setEnabled(selected() >= 0 && !m_files.at(selected()).isSaved);
-    m_remove->setEnabled(selected() >= 0);
+    const bool isAny = selected() >= 0;
+    const bool isSaved = isAny && m_files.at(selected()).isSaved;
+    m_save->setEnabled(isAny && !isSaved);
+    m_save->setToolTip(!isAny    ? tr("No file is selected")
+                       : isSaved ? tr("The selected file is saved already")
+                                 : tr("Saves the selected file under a name"));
+    m_remove->setEnabled(isAny);
+    m_remove->setToolTip(isAny ? tr("Takes the selected file off the list; one on disk stays there")
+                               : tr("No file is selected"));
 }
 
 void FilePanel::saveSelected()

@@ -28,7 +28,10 @@ QPushButton[primary="true"]:hover, QPushButton[primary="true"]:focus:active { ba
 QPushButton[primary="true"]:disabled { color: @disabled; border-color: @line; background: @window; }
 QLabel[heading="true"] { font-weight: bold; color: @text; }
 QLabel[quiet="true"] { color: @quiet; }
-QListWidget, QTreeWidget, QPlainTextEdit#fileText { border: 1px solid @line; background: @base;
+QPushButton:checked { background: @hover; }
+QToolButton { font-weight: bold; color: @text; border: none; padding: 2px; }
+QToolButton:focus { color: @accent; }
+QListWidget, QTreeWidget, QPlainTextEdit#fileText, QFrame#picture { border: 1px solid @line; background: @base;
                                               selection-background-color: #1d5fa8; selection-color: #ffffff; }
 QSplitter::handle { background: transparent; image: none; }
 QTreeWidget::item { padding: 3px; }

@@ -2,10 +2,9 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFontDatabase>
 #include <QGuiApplication>
 #include <QHBoxLayout>
-#include <QPlainTextEdit>
+#include <QLabel>
 #include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
@@ -13,9 +12,10 @@
 #include <QTabWidget>
 #include <QTimer>
 
+#include "hostbench/FileView.h"
 #include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/HostStyle.h"
-#include "hostbench/LinkLog.h"
+#include "hostbench/LogPanel.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {
@@ -29,6 +29,9 @@ constexpr int kClosingLimit = 6000;
 constexpr QSize kFrame{12, 40};
 
 constexpr QSize kComfortableSize{1240, 860};
+
+/// A window less wide has no room for the files beside a tool; one less high, none for the log below it.
+constexpr QSize kRoomy{1000, 800};
 
 QSize startSize()
 {
@@ -53,15 +56,15 @@ HostWindow::HostWindow(HostStore &store, QString toolProgram, QWidget *parent)
     connectButtons();
     enableButtons();
     resize(startSize());
+    makeRoom();
 }
 
 HostWindow::~HostWindow() = default;
 
-QPushButton *HostWindow::addButton(QHBoxLayout *row, const char *name, const QString &caption, const QString &tip)
+QPushButton *HostWindow::addButton(QHBoxLayout *row, const char *name, const QString &caption)
 {
     auto *button = new QPushButton(caption);
     button->setObjectName(name);
-    button->setToolTip(tip);
     row->addWidget(button);
     return button;
 }
@@ -71,66 +74,70 @@ QWidget *HostWindow::makeToolBar()
     auto *bar = new QWidget;
     bar->setObjectName("toolBar");
     auto *row = new QHBoxLayout(bar);
-    row->setContentsMargins(16, 12, 16, 12);
+    row->setContentsMargins(16, 10, 16, 10);
     row->setSpacing(8);
-    m_new = addButton(row, "newFile", tr("New Photometric File..."), tr("Starts the tool in a tab of its own"));
+    m_new = addButton(row, "newFile", tr("New Photometric File..."));
     m_new->setProperty("primary", true);
-    row->addStretch();
-    m_dataChanged = addButton(row, "sendDataChanged", tr("Send DATACHANGED"),
-                              tr("Puts the selected file into the store of the tool shown and tells it"));
-    m_deleteFile = addButton(row, "sendDeleteFile", tr("Send DELETEFILE"),
-                             tr("Tells the tool shown that the selected file is gone"));
-    m_close = addButton(row, "sendClose", tr("Send CLOSE"), tr("Closes the tool shown"));
+    m_showFiles = addButton(row, "showFiles", tr("Files"));
+    m_showFiles->setCheckable(true);
+    m_showFiles->setToolTip(tr("Shows or hides the files"));
+    m_hint = new QLabel;
+    m_hint->setObjectName("hint");
+    m_hint->setProperty("quiet", true);
+    m_hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    m_hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    row->addWidget(m_hint, 1);
+    row->addSpacing(4);
+    m_dataChanged = addButton(row, "sendDataChanged", tr("Send DATACHANGED"));
+    m_deleteFile = addButton(row, "sendDeleteFile", tr("Send DELETEFILE"));
+    m_close = addButton(row, "sendClose", tr("Send CLOSE"));
     return bar;
 }
 
 QWidget *HostWindow::makeCentre()
 {
     m_panel = new FilePanel(m_files);
-    m_text = new QPlainTextEdit;
-    m_text->setObjectName("fileText");
-    m_text->setAccessibleName(tr("Text of the selected file"));
-    m_text->setReadOnly(true);
-    m_text->document()->setDocumentMargin(10);
-    m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    m_text->setPlaceholderText(tr("Select a file to see its text, or start with New Photometric File..."));
+    m_view = new FileView;
     m_tabs = new QTabWidget;
     m_tabs->setObjectName("tabs");
     m_tabs->setDocumentMode(true);
     m_tabs->tabBar()->setDrawBase(false);
-    m_tabs->addTab(m_text, tr("File Text"));
-    m_log = new LinkLog;
+    m_tabs->addTab(m_view, tr("File"));
+    m_log = new LogPanel;
 
     auto *right = new QSplitter(Qt::Vertical);
     right->addWidget(m_tabs);
     right->addWidget(m_log);
     right->setStretchFactor(0, 1);
-    // On a small screen the tool gets the room.
-    const bool isSmall = startSize() != kComfortableSize;
-    right->setSizes({640, isSmall ? 90 : 150});
+    // Sizes in proportion; nothing gets less than it needs.
+    connect(m_log, &LogPanel::folded, right, [right](bool isFolded) { right->setSizes({640, isFolded ? 1 : 150}); });
+    m_log->setFolded(startSize().height() < kRoomy.height());
     right->setChildrenCollapsible(false);
     auto *centre = new QSplitter;
     centre->addWidget(m_panel);
     centre->addWidget(right);
     centre->setStretchFactor(1, 1);
-    centre->setSizes({isSmall ? 190 : 240, 960});
+    centre->setSizes({240, 960});
     centre->setChildrenCollapsible(false);
-    centre->setContentsMargins(16, 12, 16, 16);
-    centre->setHandleWidth(12);
-    right->setHandleWidth(12);
+    centre->setContentsMargins(16, 10, 16, 10);
+    for (QSplitter *splitter : {right, centre})
+        splitter->setHandleWidth(10);
     return centre;
 }
 
 void HostWindow::connectButtons()
 {
     connect(m_new, &QPushButton::clicked, this, &HostWindow::startTool);
+    connect(m_showFiles, &QPushButton::toggled, m_panel, &QWidget::setVisible);
     connect(m_dataChanged, &QPushButton::clicked, this, &HostWindow::sendDataChanged);
     connect(m_deleteFile, &QPushButton::clicked, this, &HostWindow::sendDeleteFile);
     connect(m_close, &QPushButton::clicked, this, [this] { shownTool()->run().tool().sendClose(); });
-    connect(m_tabs, &QTabWidget::currentChanged, this, &HostWindow::enableButtons);
+    connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
+        makeRoom();
+        enableButtons();
+    });
     connect(m_panel, &FilePanel::selectionChanged, this, [this] {
-        showSelectedText();
+        showSelected();
         enableButtons();
     });
 }
@@ -154,6 +161,8 @@ ToolTab *HostWindow::startTool()
     // Queued: a tool that cannot be started ends before its tab has begun.
     connect(
         &tab->run(), &ToolRun::ended, this, [this, tab] { removeTool(tab); }, Qt::QueuedConnection);
+    // The room that the tab has made comes with the layout; the tool is to open at its size at once.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     tab->start(m_toolProgram);
     enableButtons();
     return tab;
@@ -240,9 +249,7 @@ void HostWindow::followPalette()
     if (sheet == styleSheet())
         return;  // setting it would be told as a change again
     setStyleSheet(sheet);
-    QPalette own = m_text->palette();
-    own.setColor(QPalette::PlaceholderText, quietText(QApplication::palette()));
-    m_text->setPalette(own);
+    m_view->followPalette();
 }
 
 void HostWindow::closeEvent(QCloseEvent *event)
@@ -270,26 +277,52 @@ void HostWindow::note(ToolTab *tab, const QString &text)
     m_log->append(tab->run().name(), ToolRun::Line::Note, text);
 }
 
-void HostWindow::showSelectedText()
+void HostWindow::showSelected()
 {
     const int place = m_panel->selected();
-    if (place < 0)
-        return m_text->clear();
-    try {
-        m_text->setPlainText(QString::fromStdString(iesFileText(m_files.at(place).record)));
-    } catch (const RunTimeError &error) {
-        m_text->setPlainText(QString::fromStdString(error.description()));
-    }
+    place < 0 ? m_view->clear() : m_view->showFile(m_files.at(place).record);
+}
+
+bool HostWindow::isNarrow() const
+{
+    return width() < kRoomy.width();
+}
+
+void HostWindow::makeRoom()
+{
+    m_showFiles->setChecked(!isNarrow() || !shownTool());
+}
+
+void HostWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    if (std::exchange(m_wasNarrow, isNarrow()) == isNarrow())
+        return;
+    makeRoom();
+    enableButtons();
+}
+
+/// Enables a button, or says on it what it lacks.
+void HostWindow::enable(QPushButton *button, const QString &whatItDoes, const QString &whatLacks)
+{
+    button->setEnabled(whatLacks.isEmpty());
+    button->setToolTip(whatLacks.isEmpty() ? whatItDoes : whatLacks);
+    button->setAccessibleDescription(button->toolTip());
 }
 
 void HostWindow::enableButtons()
 {
-    const bool isTool = shownTool() && !m_isClosing;
-    const bool isFile = m_panel->selected() >= 0;
-    m_new->setEnabled(!m_isClosing);
-    m_close->setEnabled(isTool);
-    m_dataChanged->setEnabled(isTool && isFile);
-    m_deleteFile->setEnabled(isTool && isFile);
+    const QString noTool = m_isClosing         ? tr("The window is closing")
+                           : m_tools.isEmpty() ? tr("No tool is running to send commands to")
+                           : shownTool()       ? QString()
+                                               : tr("Choose the tab of a tool to send it commands");
+    const QString noFile = m_panel->selected() >= 0 ? QString() : tr("No file is selected to tell the tool of");
+    const QString noToolOrFile = noTool.isEmpty() ? noFile : noTool;
+    enable(m_new, tr("Starts the tool in a tab of its own"), m_isClosing ? noTool : QString());
+    enable(m_close, tr("Closes the tool shown"), noTool);
+    enable(m_dataChanged, tr("Puts the selected file into the store of the tool shown and tells it"), noToolOrFile);
+    enable(m_deleteFile, tr("Tells the tool shown that the selected file is gone"), noToolOrFile);
+    m_hint->setText(isNarrow() ? QString() : noToolOrFile);
 }
 
 ToolTab *HostWindow::shownTool() const

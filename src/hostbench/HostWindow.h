@@ -6,16 +6,18 @@
 #include "hostbench/HeldFiles.h"
 #include "hostbench/ToolTab.h"
 
-class QPlainTextEdit;
+class QLabel;
 class QPushButton;
 class QTabWidget;
 
 namespace penwright {
 
-class LinkLog;
+class FileView;
+class LogPanel;
 
-/// The stand-in host's window: the files it holds, the text of the one selected, a tab for each tool that runs, and the
-/// log of the link. Closing it closes the tools first.
+/// The stand-in host's window: the files it holds, text and picture of the one selected, a tab for each tool that runs,
+/// and the log of the link. Where there is little room, the tool shown gets that of the files. Closing it closes the
+/// tools first.
 class HostWindow : public QMainWindow {
     Q_OBJECT
 
@@ -48,10 +50,12 @@ signals:
 protected:
     bool event(QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     QWidget *makeToolBar();
-    QPushButton *addButton(class QHBoxLayout *row, const char *name, const QString &caption, const QString &tip);
+    QPushButton *addButton(class QHBoxLayout *row, const char *name, const QString &caption);
+    static void enable(QPushButton *button, const QString &whatItDoes, const QString &whatLacks);
     QWidget *makeCentre();
     void connectButtons();
     void followPalette();
@@ -62,7 +66,9 @@ private:
     void removeTool(ToolTab *tab);
     void closeTools();
     void note(ToolTab *tab, const QString &text);
-    void showSelectedText();
+    void showSelected();
+    void makeRoom();
+    bool isNarrow() const;
     void enableButtons();
     ToolTab *shownTool() const;
 
@@ -71,12 +77,15 @@ private:
     HeldFiles m_files;
     QList<ToolTab *> m_tools;
     int m_started = 0;
+    bool m_wasNarrow = false;
     bool m_isClosing = false;
 
     FilePanel *m_panel = nullptr;
     QTabWidget *m_tabs = nullptr;
-    QPlainTextEdit *m_text = nullptr;
-    LinkLog *m_log = nullptr;
+    FileView *m_view = nullptr;
+    LogPanel *m_log = nullptr;
+    QLabel *m_hint = nullptr;
+    QPushButton *m_showFiles = nullptr;
     QPushButton *m_new = nullptr;
     QPushButton *m_dataChanged = nullptr;
     QPushButton *m_deleteFile = nullptr;

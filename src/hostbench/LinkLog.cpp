@@ -62,4 +62,14 @@ void LinkLog::append(const QString &tool, ToolRun::Line way, const QString &text
     scrollToItem(line);
 }
 
+QString LinkLog::newestLine() const
+{
+    if (topLevelItemCount() == 0)
+        return {};
+    const QTreeWidgetItem *line = topLevelItem(topLevelItemCount() - 1);
+    return QStringList{line->text(kTime), line->text(kTool), line->text(kWay), line->text(kText)}
+        .join("  ")
+        .simplified();
+}
+
 }  // namespace penwright

@@ -14,6 +14,9 @@ public:
     explicit LinkLog(QWidget *parent = nullptr);
 
     void append(const QString &tool, ToolRun::Line way, const QString &text);
+
+    /// The newest line as one text, "" while there is none.
+    QString newestLine() const;
 };
 
 }  // namespace penwright

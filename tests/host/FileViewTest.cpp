@@ -1,0 +1,124 @@
+#include "hostbench/FileView.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QPlainTextEdit>
+#include <QTest>
+
+#include "hostbench/PolarPicture.h"
+#include "hostbench/SampleLuminaire.h"
+
+namespace penwright {
+namespace {
+
+class FileViewTest : public testing::Test {
+protected:
+    FileViewTest()
+    {
+        m_view.resize(900, 500);
+        m_view.followPalette();
+        m_view.show();
+    }
+
+    QComboBox *choice(const char *name) const { return m_view.findChild<QComboBox *>(name); }
+    PolarPicture *picture() const { return m_view.findChild<PolarPicture *>("polarPicture"); }
+
+    /// Pixels of the picture that are nearer to a colour than antialiasing comes to any other.
+    int count(const QColor &colour) const
+    {
+        const QImage image = picture()->grab().toImage();
+        int pixels = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x) {
+                const QColor pixel = image.pixelColor(x, y);
+                pixels += std::abs(pixel.red() - colour.red()) + std::abs(pixel.green() - colour.green()) +
+                              std::abs(pixel.blue() - colour.blue()) <
+                          40;
+            }
+        return pixels;
+    }
+
+    FileView m_view;
+};
+
+TEST_F(FileViewTest, showsThePlaneOfTheLargestValueAndACone)
+{
+    m_view.showFile(sampleLuminaire());
+    EXPECT_EQ(choice("plane")->currentText(), "0\u00b0");
+    EXPECT_EQ(choice("cone")->currentText(), "45\u00b0");
+    EXPECT_EQ(choice("plane")->count(), 5);
+    EXPECT_EQ(choice("cone")->count(), 37);
+    EXPECT_GT(count(picture()->planeColour()), 200);
+    EXPECT_GT(count(picture()->coneColour()), 200);
+    EXPECT_TRUE(picture()->accessibleDescription().contains("2480.4"))
+        << qPrintable(picture()->accessibleDescription());
+}
+
+TEST_F(FileViewTest, theLargestValueNeedNotBeTheFirst)
+{
+    PhotometricRecord record = sampleLuminaire();
+    record.Candela(4, 13) = 9000;
+    m_view.showFile(record);
+    EXPECT_EQ(choice("plane")->currentText(), "67.5\u00b0");
+    EXPECT_EQ(choice("cone")->currentText(), "60\u00b0");
+    EXPECT_TRUE(picture()->accessibleDescription().contains("9000"));
+}
+
+TEST_F(FileViewTest, anotherPlaneIsAnotherPicture)
+{
+    m_view.showFile(sampleLuminaire());
+    const QString before = picture()->accessibleDescription();
+    const QImage picturedBefore = picture()->grab().toImage();
+    choice("plane")->setFocus();
+    QTest::keyClick(choice("plane"), Qt::Key_End);
+    EXPECT_EQ(choice("plane")->currentText(), "90\u00b0");
+    EXPECT_NE(picture()->accessibleDescription(), before);
+    EXPECT_NE(picture()->grab().toImage(), picturedBefore);
+}
+
+TEST_F(FileViewTest, typeBHasNoCone)
+{
+    PhotometricRecord record = sampleLuminaire();
+    record.PhotometricType = kTypeB;
+    m_view.showFile(record);
+    EXPECT_FALSE(choice("cone")->isVisible());
+    EXPECT_GT(count(picture()->planeColour()), 100);
+    EXPECT_EQ(count(picture()->coneColour()), 0);
+    m_view.showFile(sampleLuminaire());
+    EXPECT_TRUE(choice("cone")->isVisible());
+}
+
+TEST_F(FileViewTest, withoutAFileTheGridIsEmpty)
+{
+    m_view.showFile(sampleLuminaire());
+    m_view.clear();
+    EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "");
+    EXPECT_EQ(count(picture()->planeColour()), 0);
+    EXPECT_FALSE(choice("plane")->isEnabled());
+    EXPECT_EQ(picture()->accessibleDescription(), "");
+}
+
+TEST_F(FileViewTest, aRecordWhoseListsDisagreeShowsWhy)
+{
+    PhotometricRecord torn = sampleLuminaire();
+    torn.NumVertAngles = 40;
+    m_view.showFile(torn);
+    EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "Subscript out of range");
+    EXPECT_EQ(count(picture()->planeColour()), 0);
+}
+
+TEST_F(FileViewTest, curvesStandOutOnDarkToo)
+{
+    const QPalette light = QApplication::palette();
+    m_view.showFile(sampleLuminaire());
+    const QColor onLight = picture()->planeColour();
+    QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return picture()->planeColour().lightness() > onLight.lightness() + 40; }));
+    EXPECT_GT(count(picture()->planeColour()), 200);
+    QApplication::setPalette(light);
+}
+
+}  // namespace
+}  // namespace penwright
