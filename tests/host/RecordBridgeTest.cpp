@@ -40,6 +40,9 @@ TEST(RecordBridge, listsThatDisagreeAreErrors)
     HostRecord fewerFactors = hostRecord(sampleLuminaire());
     fewerFactors.tiltFactors.pop_back();
     EXPECT_THROW(iesText(fewerFactors), std::runtime_error);
+    HostRecord moreFactors = hostRecord(sampleLuminaire());
+    moreFactors.tiltFactors.push_back(1);
+    EXPECT_THROW(iesText(moreFactors), std::runtime_error);
     HostRecord tooLong = hostRecord(sampleLuminaire());
     tooLong.horizontalAngles.clear();
     tooLong.candela.clear();
