@@ -3,15 +3,14 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
 #include <QScreen>
 #include <QSplitter>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTimer>
+#include <QVBoxLayout>
 
+#include "hostbench/CommandBar.h"
 #include "hostbench/FileView.h"
 #include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/HostStyle.h"
@@ -49,7 +48,8 @@ HostWindow::HostWindow(HostStore &store, QString toolProgram, QWidget *parent)
     auto *layout = new QVBoxLayout(whole);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(makeToolBar());
+    m_bar = new CommandBar;
+    layout->addWidget(m_bar);
     layout->addWidget(makeCentre(), 1);
     setCentralWidget(whole);
     followPalette();
@@ -60,39 +60,6 @@ HostWindow::HostWindow(HostStore &store, QString toolProgram, QWidget *parent)
 }
 
 HostWindow::~HostWindow() = default;
-
-QPushButton *HostWindow::addButton(QHBoxLayout *row, const char *name, const QString &caption)
-{
-    auto *button = new QPushButton(caption);
-    button->setObjectName(name);
-    row->addWidget(button);
-    return button;
-}
-
-QWidget *HostWindow::makeToolBar()
-{
-    auto *bar = new QWidget;
-    bar->setObjectName("toolBar");
-    auto *row = new QHBoxLayout(bar);
-    row->setContentsMargins(16, 10, 16, 10);
-    row->setSpacing(8);
-    m_new = addButton(row, "newFile", tr("New Photometric File..."));
-    m_new->setProperty("primary", true);
-    m_showFiles = addButton(row, "showFiles", tr("Files"));
-    m_showFiles->setCheckable(true);
-    m_showFiles->setToolTip(tr("Shows or hides the files"));
-    m_hint = new QLabel;
-    m_hint->setObjectName("hint");
-    m_hint->setProperty("quiet", true);
-    m_hint->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    m_hint->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    row->addWidget(m_hint, 1);
-    row->addSpacing(4);
-    m_dataChanged = addButton(row, "sendDataChanged", tr("Send DATACHANGED"));
-    m_deleteFile = addButton(row, "sendDeleteFile", tr("Send DELETEFILE"));
-    m_close = addButton(row, "sendClose", tr("Send CLOSE"));
-    return bar;
-}
 
 QWidget *HostWindow::makeCentre()
 {
@@ -127,11 +94,11 @@ QWidget *HostWindow::makeCentre()
 
 void HostWindow::connectButtons()
 {
-    connect(m_new, &QPushButton::clicked, this, &HostWindow::startTool);
-    connect(m_showFiles, &QPushButton::toggled, m_panel, &QWidget::setVisible);
-    connect(m_dataChanged, &QPushButton::clicked, this, &HostWindow::sendDataChanged);
-    connect(m_deleteFile, &QPushButton::clicked, this, &HostWindow::sendDeleteFile);
-    connect(m_close, &QPushButton::clicked, this, [this] { shownTool()->run().tool().sendClose(); });
+    connect(m_bar, &CommandBar::newFile, this, &HostWindow::startTool);
+    connect(m_bar, &CommandBar::filesShown, m_panel, &QWidget::setVisible);
+    connect(m_bar, &CommandBar::sendDataChanged, this, &HostWindow::sendDataChanged);
+    connect(m_bar, &CommandBar::sendDeleteFile, this, &HostWindow::sendDeleteFile);
+    connect(m_bar, &CommandBar::sendClose, this, [this] { shownTool()->run().tool().sendClose(); });
     connect(m_tabs, &QTabWidget::currentChanged, this, [this] {
         makeRoom();
         enableButtons();
@@ -290,7 +257,7 @@ bool HostWindow::isNarrow() const
 
 void HostWindow::makeRoom()
 {
-    m_showFiles->setChecked(!isNarrow() || !shownTool());
+    m_bar->setFilesShown(!isNarrow() || !shownTool());
 }
 
 void HostWindow::resizeEvent(QResizeEvent *event)
@@ -302,27 +269,13 @@ void HostWindow::resizeEvent(QResizeEvent *event)
     enableButtons();
 }
 
-/// Enables a button, or says on it what it lacks.
-void HostWindow::enable(QPushButton *button, const QString &whatItDoes, const QString &whatLacks)
-{
-    button->setEnabled(whatLacks.isEmpty());
-    button->setToolTip(whatLacks.isEmpty() ? whatItDoes : whatLacks);
-    button->setAccessibleDescription(button->toolTip());
-}
-
 void HostWindow::enableButtons()
 {
-    const QString noTool = m_isClosing         ? tr("The window is closing")
-                           : m_tools.isEmpty() ? tr("No tool is running to send commands to")
-                           : shownTool()       ? QString()
-                                               : tr("Choose the tab of a tool to send it commands");
-    const QString noFile = m_panel->selected() >= 0 ? QString() : tr("No file is selected to tell the tool of");
-    const QString noToolOrFile = noTool.isEmpty() ? noFile : noTool;
-    enable(m_new, tr("Starts the tool in a tab of its own"), m_isClosing ? noTool : QString());
-    enable(m_close, tr("Closes the tool shown"), noTool);
-    enable(m_dataChanged, tr("Puts the selected file into the store of the tool shown and tells it"), noToolOrFile);
-    enable(m_deleteFile, tr("Tells the tool shown that the selected file is gone"), noToolOrFile);
-    m_hint->setText(isNarrow() ? QString() : noToolOrFile);
+    m_bar->follow({.isClosing = m_isClosing,
+                   .isToolRunning = !m_tools.isEmpty(),
+                   .isToolShown = shownTool() != nullptr,
+                   .isFileSelected = m_panel->selected() >= 0,
+                   .isNarrow = isNarrow()});
 }
 
 ToolTab *HostWindow::shownTool() const

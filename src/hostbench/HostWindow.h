@@ -6,12 +6,11 @@
 #include "hostbench/HeldFiles.h"
 #include "hostbench/ToolTab.h"
 
-class QLabel;
-class QPushButton;
 class QTabWidget;
 
 namespace penwright {
 
+class CommandBar;
 class FileView;
 class LogPanel;
 
@@ -53,9 +52,6 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
-    QWidget *makeToolBar();
-    QPushButton *addButton(class QHBoxLayout *row, const char *name, const QString &caption);
-    static void enable(QPushButton *button, const QString &whatItDoes, const QString &whatLacks);
     QWidget *makeCentre();
     void connectButtons();
     void followPalette();
@@ -84,12 +80,7 @@ private:
     QTabWidget *m_tabs = nullptr;
     FileView *m_view = nullptr;
     LogPanel *m_log = nullptr;
-    QLabel *m_hint = nullptr;
-    QPushButton *m_showFiles = nullptr;
-    QPushButton *m_new = nullptr;
-    QPushButton *m_dataChanged = nullptr;
-    QPushButton *m_deleteFile = nullptr;
-    QPushButton *m_close = nullptr;
+    CommandBar *m_bar = nullptr;
 };
 
 }  // namespace penwright

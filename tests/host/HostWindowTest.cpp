@@ -1,92 +1,13 @@
-#include "hostbench/HostWindow.h"
+#include "host/HostWindowBench.h"
 
-#include <gtest/gtest.h>
-
-#include <memory>
-#include <QApplication>
-#include <QLabel>
 #include <QPlainTextEdit>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTabWidget>
-#include <QTest>
-#include <QToolButton>
-#include <QTreeWidget>
 
 #include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/SampleLuminaire.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
-#include "support/TempFolder.h"
 
-/// Texts in failures are printed to be read.
-void PrintTo(const QString &text, std::ostream *out)
-{
-    *out << '"' << qPrintable(text) << '"';
-}
-
-namespace penwright {
+namespace penwright::test {
 namespace {
-
-/// The host's window with tools that are told what to do, over a store of its own.
-class HostWindowTest : public testing::Test {
-protected:
-    HostWindowTest()
-    {
-        qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(m_folder.path().string()));
-        qputenv("FAKE_TOOL_LOG", QByteArray::fromStdString(m_folder.file("log")));
-        behave("wait");
-        m_store = std::make_unique<HostStore>();
-        open(FAKE_TOOL);
-    }
-
-    void open(const QString &program)
-    {
-        m_window = std::make_unique<HostWindow>(*m_store, program);
-        m_window->show();
-    }
-
-    static void behave(const QByteArray &behaviour) { qputenv("FAKE_TOOL", behaviour); }
-
-    /// What the tools have noted so far: their command lines and the commands they took.
-    QStringList noted() const
-    {
-        if (!std::filesystem::exists(m_folder.file("log")))
-            return {};
-        return QString::fromStdString(test::contentOf(m_folder.file("log"))).split('\n', Qt::SkipEmptyParts);
-    }
-
-    bool waitNoted(const QString &line) const
-    {
-        return QTest::qWaitFor([&] { return noted().contains(line); }, 20'000);
-    }
-
-    bool waitForNoTools() const
-    {
-        return QTest::qWaitFor([&] { return m_window->toolCount() == 0; }, 20'000);
-    }
-
-    QPushButton *button(const char *name) const { return m_window->findChild<QPushButton *>(name); }
-
-    /// Unfolds the log if a small screen has folded it.
-    void openLog() const
-    {
-        if (!m_window->findChild<QTreeWidget *>("linkLog")->isVisible())
-            m_window->findChild<QToolButton *>("foldLog")->click();
-    }
-
-    QStringList logged() const
-    {
-        QStringList texts;
-        const auto *log = m_window->findChild<QTreeWidget *>("linkLog");
-        for (int i = 0; i < log->topLevelItemCount(); ++i)
-            texts.append(log->topLevelItem(i)->text(3));
-        return texts;
-    }
-
-    test::TempFolder m_folder;
-    std::unique_ptr<HostStore> m_store;
-    std::unique_ptr<HostWindow> m_window;
-};
 
 QString moveTo(ToolTab *tab)
 {
@@ -287,65 +208,6 @@ TEST_F(HostWindowTest, nothingCanBeSentWithoutATool)
     EXPECT_TRUE(button("sendDeleteFile")->isEnabled());
 }
 
-TEST_F(HostWindowTest, aDisabledButtonSaysWhatItLacks)
-{
-    const auto lacks = [this](const char *name) { return button(name)->isEnabled() ? "" : button(name)->toolTip(); };
-    EXPECT_EQ(lacks("sendClose"), "No tool is running to send commands to");
-    EXPECT_EQ(lacks("sendDataChanged"), "No tool is running to send commands to");
-    EXPECT_EQ(lacks("saveAs"), "No file is selected");
-    EXPECT_EQ(lacks("remove"), "No file is selected");
-    m_window->startTool();
-    EXPECT_EQ(lacks("sendClose"), "");
-    EXPECT_EQ(lacks("sendDeleteFile"), "No file is selected to tell the tool of");
-    m_window->addFile({sampleLuminaire(), true});
-    EXPECT_EQ(lacks("sendDeleteFile"), "");
-    EXPECT_EQ(lacks("saveAs"), "The selected file is saved already");
-    m_window->findChild<QTabWidget *>("tabs")->setCurrentIndex(0);
-    EXPECT_EQ(lacks("sendDeleteFile"), "Choose the tab of a tool to send it commands");
-    m_window->resize(1240, 860);
-    EXPECT_EQ(m_window->findChild<QLabel *>("hint")->text(), "Choose the tab of a tool to send it commands");
-    EXPECT_EQ(lacks("newFile"), "");
-    m_window->close();
-    EXPECT_EQ(lacks("newFile"), "The window is closing");
-}
-
-TEST_F(HostWindowTest, inANarrowWindowAToolGetsTheRoomOfTheFiles)
-{
-    const auto isShown = [this] { return m_window->findChild<QWidget *>("fileList")->isVisible(); };
-    m_window->resize(788, 560);
-    EXPECT_TRUE(isShown());
-    m_window->startTool();
-    EXPECT_FALSE(isShown());
-    button("showFiles")->click();
-    EXPECT_TRUE(isShown());
-    auto *tabs = m_window->findChild<QTabWidget *>("tabs");
-    tabs->setCurrentIndex(0);
-    tabs->setCurrentIndex(1);
-    EXPECT_FALSE(isShown());
-    m_window->resize(1240, 860);
-    EXPECT_TRUE(isShown());
-}
-
-TEST_F(HostWindowTest, theLogFoldsAwayAndShowsItsNewestLine)
-{
-    ToolTab *tab = m_window->startTool();
-    ASSERT_TRUE(waitNoted("START"));
-    const auto *log = m_window->findChild<QTreeWidget *>("linkLog");
-    const auto *newest = m_window->findChild<QLabel *>("newestLine");
-    auto *fold = m_window->findChild<QToolButton *>("foldLog");
-    openLog();
-    const int before = tab->area().height();
-    fold->click();
-    EXPECT_FALSE(log->isVisible());
-    EXPECT_TRUE(newest->isVisible());
-    EXPECT_TRUE(newest->text().endsWith("Tool 1 to tool \u2192 START")) << qPrintable(newest->text());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return tab->area().height() > before + 60; }, 20'000));
-    fold->click();
-    EXPECT_TRUE(log->isVisible());
-    EXPECT_FALSE(newest->isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return tab->area().height() == before; }, 20'000));
-}
-
 TEST_F(HostWindowTest, nothingOfAToolStaysInTheStore)
 {
     behave("SendNewDataClose");
@@ -376,28 +238,8 @@ TEST_F(HostWindowTest, aToolThatDoesNotCloseDoesNotKeepTheWindow)
     EXPECT_TRUE(logged().contains("Did not close in time; killed"));
 }
 
-TEST_F(HostWindowTest, itsListsAndTextFollowThePalette)
-{
-    const auto background = [this](const char *name) {
-        const auto *area = m_window->findChild<QAbstractScrollArea *>(name);
-        return area->viewport()->grab().toImage().pixelColor(area->viewport()->rect().center()).lightness();
-    };
-    openLog();
-    const QPalette light = QApplication::palette();
-    QPalette dark(Qt::darkGray, Qt::black);
-    dark.setColor(QPalette::PlaceholderText, Qt::black);  // as some desktops' dark palettes have it
-    QApplication::setPalette(dark);
-    for (const char *name : {"fileList", "linkLog", "fileText"})
-        EXPECT_TRUE(QTest::qWaitFor([&] { return background(name) < 60; }, 20'000)) << name;
-    const auto *text = m_window->findChild<QPlainTextEdit *>("fileText");
-    EXPECT_GT(text->palette().color(QPalette::PlaceholderText).lightness(), 180);
-    QApplication::setPalette(light);
-    for (const char *name : {"fileList", "linkLog", "fileText"})
-        EXPECT_TRUE(QTest::qWaitFor([&] { return background(name) > 200; }, 20'000)) << name;
-}
-
 }  // namespace
-}  // namespace penwright
+}  // namespace penwright::test
 
 int main(int argc, char **argv)
 {
