@@ -25,6 +25,7 @@ const std::map<Room, std::set<Room>> kMayInclude{
     {"hostlink", {"hostlink", "core", "platform"}},
     {"wizard", {"wizard", "hostlink", "core", "platform"}},
     {"pages/", {"pages/", "wizard", "core", "platform"}},
+    {"platform/chm", {"platform/chm", "platform"}},
     {"platform/posix", {"platform/posix", "platform"}},
     {"platform/sqlite", {"platform/sqlite", "platform"}},
     {"platform/qt", {"platform/qt", "platform"}},
@@ -157,10 +158,20 @@ TEST(IncludeTable, librariesAreKnownWhereTheyAreWrapped)
         for (const std::string &name : includesOf(file, kSystemInclude)) {
             if (name.find("sqlite3") != std::string::npos)
                 EXPECT_EQ(room, "platform/sqlite") << file;
+            if (name.find("mspack") != std::string::npos)
+                EXPECT_EQ(room, "platform/chm") << file;
             if (name.rfind("xcb/", 0) == 0)
                 EXPECT_TRUE(room == "platform/qt" || room == "hostbench") << file;
         }
     }
+}
+
+// The reader of help files is no rule, for it wraps a library, and yet knows nothing of the toolkit.
+TEST(IncludeTable, helpFilesAreReadWithoutTheToolkit)
+{
+    for (const fs::path &file : sources())
+        if (roomOf(file) == "platform/chm" || roomOf(file) == "platform/posix" || roomOf(file) == "platform/sqlite")
+            EXPECT_FALSE(includesQt(file)) << file;
 }
 
 TEST(IncludeTable, nobodyIncludesTheApp)
@@ -182,6 +193,7 @@ TEST(IncludeTable, tableTellsNeighboursApart)
     EXPECT_FALSE(mayInclude("wizard+", "pages/luminaire+"));
     EXPECT_FALSE(mayInclude("platform/qt", "core"));
     EXPECT_FALSE(mayInclude("platform/sqlite", "platform/qt"));
+    EXPECT_FALSE(mayInclude("platform/qt", "platform/chm"));
     EXPECT_FALSE(mayInclude("hostbench", "platform/qt"));
     EXPECT_FALSE(mayInclude("hostbench", "app"));
     EXPECT_TRUE(mayInclude("hostbench", "pages/candela"));
