@@ -1,0 +1,47 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "HelpTopic.h"
+
+namespace penwright::test {
+
+inline std::string helpPath(const std::string &name)
+{
+    return std::string(HELP_FOLDER) + "/" + name;
+}
+
+inline HelpTopic topic(const std::string &name)
+{
+    return HelpTopic(helpPath(name));
+}
+
+/// The names of all topics.
+inline std::vector<std::string> topicNames()
+{
+    std::vector<std::string> names = filesBelow(HELP_FOLDER);
+    std::erase_if(names, [](const std::string &name) { return !name.ends_with(".html"); });
+    return names;
+}
+
+/// One topic with the form of its page.
+struct PageTopic {
+    const char *topic;
+    const char *form;
+};
+
+/// The topics of the pages in the order of kPages.
+inline constexpr PageTopic kPageTopics[]{
+    {"lamp.html", "pages/luminaire/LampPage.ui"},       {"tilt.html", "pages/luminaire/TiltPage.ui"},
+    {"keywords.html", "pages/keywords/KeywordPage.ui"}, {"angles.html", "pages/distribution/DistributionPage.ui"},
+    {"candela.html", "pages/candela/CandelaPage.ui"},   {"finish.html", "wizard/FinishPage.ui"},
+};
+
+inline bool contains(const std::vector<std::string> &texts, const std::string &text)
+{
+    return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+}  // namespace penwright::test
