@@ -182,6 +182,50 @@ TEST(IncludeTable, nobodyIncludesTheApp)
                 EXPECT_NE(name.substr(0, 4), "app/") << file;
 }
 
+/// A room as docs/architecture.md names it.
+std::string nameOnThePage(const Room &room)
+{
+    const Room row = room == "app" ? room : rowOf(room);
+    if (row == "pages/")
+        return "pages";
+    if (row == "pages/+")
+        return "pages windows";
+    return row.back() == '+' ? row.substr(0, row.size() - 1) + " windows" : row;
+}
+
+/// Every edge between two rooms, as a row of the table on that page.
+std::set<std::string> rowsOfTheGraph()
+{
+    std::map<std::string, std::set<std::string>> edges;
+    for (const fs::path &file : sources()) {
+        const std::string from = nameOnThePage(roomOf(file));
+        for (const std::string &name : includesOf(file, kOwnInclude))
+            if (fs::exists(kSource / name) && nameOnThePage(roomOf(kSource / name)) != from)
+                edges[from].insert(nameOnThePage(roomOf(kSource / name)));
+    }
+    std::set<std::string> rows;
+    for (const auto &[from, targets] : edges) {
+        std::string row = "| " + from + " | ";
+        for (const std::string &to : targets)
+            row += (to == *targets.begin() ? "" : ", ") + to;
+        rows.insert(row + " |");
+    }
+    return rows;
+}
+
+TEST(IncludeTable, architecturePageNamesEveryEdge)
+{
+    std::istringstream page(contentOf(kSource.parent_path() / "docs" / "architecture.md"));
+    std::set<std::string> rows;
+    bool isInTable = false;
+    for (std::string line; std::getline(page, line);) {
+        if (isInTable && line.rfind("| ", 0) == 0)
+            rows.insert(line);
+        isInTable = line.rfind("|---", 0) == 0 || (isInTable && line.rfind("| ", 0) == 0);
+    }
+    EXPECT_EQ(rows, rowsOfTheGraph());
+}
+
 // The table itself, on pairs that must come out one way or the other whatever the tree holds.
 TEST(IncludeTable, tableTellsNeighboursApart)
 {
