@@ -14,9 +14,9 @@
 #include "pages/candela/CandelaGrid.h"
 #include "pages/candela/CandelaPage.h"
 #include "pages/candela/CandelaTable.h"
+#include "platform/HelpViewer.h"
 #include "platform/posix/PosixTextFiles.h"
 #include "platform/qt/Closing.h"
-#include "platform/qt/MissingHelpViewer.h"
 #include "platform/qt/QtEventWait.h"
 #include "platform/qt/X11Embedding.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
@@ -29,6 +29,10 @@ namespace {
 using namespace penwright;
 
 constexpr int kSide = 1000;
+
+struct NoHelp : HelpViewer {
+    void showTopic(const std::string &, int) override {}
+};
 
 struct Nowhere : Navigator {
     void ShowPage(int) override {}
@@ -100,7 +104,7 @@ private:
     test::FakeDialogs m_dialogs;
     QtEventWait m_wait{m_closing};
     X11Embedding m_embedding{m_closing};
-    MissingHelpViewer m_help{m_dialogs};
+    NoHelp m_help;
     Services m_services{m_store, m_files, m_dialogs, m_wait, m_embedding, m_help};
     Nowhere m_navigator;
     WarningDialog m_dlgWarn{m_closing, nullptr};

@@ -7,6 +7,7 @@
 #include "pages/keywords/KeywordPage.h"
 #include "pages/luminaire/LampPage.h"
 #include "pages/luminaire/TiltPage.h"
+#include "platform/chm/ChmHelpFile.h"
 #include "wizard/FinishPage.h"
 
 namespace penwright {
@@ -19,7 +20,7 @@ Tool::Tool()
       m_dialogs(m_closing),
       m_wait(m_closing),
       m_embedding(m_closing),
-      m_help(m_dialogs),
+      m_help(m_dialogs, m_closing, openChm),
       m_services{m_store, m_files, m_dialogs, m_wait, m_embedding, m_help}
 {
 }

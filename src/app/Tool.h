@@ -7,9 +7,9 @@
 #include "pages/candela/CandelaState.h"
 #include "platform/posix/PosixTextFiles.h"
 #include "platform/qt/Closing.h"
-#include "platform/qt/MissingHelpViewer.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
+#include "platform/qt/QtHelpViewer.h"
 #include "platform/qt/SignalEnd.h"
 #include "platform/qt/X11Embedding.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
@@ -44,7 +44,7 @@ private:
     QtDialogs m_dialogs;
     QtEventWait m_wait;
     X11Embedding m_embedding;
-    MissingHelpViewer m_help;
+    QtHelpViewer m_help;
     Services m_services;
     std::unique_ptr<WizardWindow> m_window;
 };

@@ -13,9 +13,7 @@
 #include <string>
 
 #include "platform/qt/Closing.h"
-#include "platform/qt/MissingHelpViewer.h"
 #include "platform/qt/QtDialogs.h"
-#include "support/FakeDialogs.h"
 #include "support/TempFolder.h"
 #include "x11/DialogDriver.h"
 
@@ -237,13 +235,6 @@ TEST_F(SaveDialog, hidesFilesOfOtherKindsInEitherCase)
         save.reject();
     });
     dialogs.chooseSaveName(question());
-}
-
-TEST(MissingHelp, namesTheFileInOneMessage)
-{
-    FakeDialogs dialogs;
-    MissingHelpViewer(dialogs).showTopic("/opt/tool/Help.chm", 203);
-    EXPECT_EQ(dialogs.transcript, "[PenwrightPE|48] The help file is missing: /opt/tool/Help.chm\n");
 }
 
 }  // namespace
