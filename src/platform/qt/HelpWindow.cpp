@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QSplitter>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 #include "platform/qt/HelpBrowser.h"
@@ -21,7 +22,19 @@ namespace {
 
 constexpr QSize kPreferredSize(1060, 740);
 constexpr int kSideWidth = 290;
+constexpr int kGap = 10;
 constexpr int kMostFound = 200;
+
+/// Lines that are told apart at arm's length.
+class RoomyLines : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(0, 8);
+    }
+};
 
 QLabel *makeLabel(const QString &text, QWidget *buddy)
 {
@@ -91,11 +104,12 @@ void HelpWindow::makeLayout()
     panes->addWidget(page);
     panes->setStretchFactor(1, 1);
     panes->setChildrenCollapsible(false);
+    panes->setHandleWidth(kGap);
     panes->setSizes({kSideWidth, kPreferredSize.width() - kSideWidth});
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(12, 12, 12, 12);
-    layout->setSpacing(10);
+    layout->setSpacing(kGap);
     layout->addWidget(makeBar());
     layout->addWidget(panes, 1);
 }
@@ -126,6 +140,7 @@ QWidget *HelpWindow::makeSide()
 {
     m_tvwContents = new HelpContents;
     m_tvwContents->setObjectName("tvwContents");
+    m_tvwContents->setItemDelegate(new RoomyLines(m_tvwContents));
     auto *contents = new QWidget;
     auto *column = makeColumn(contents);
     column->addWidget(makeLabel("Contents", m_tvwContents));
@@ -135,6 +150,7 @@ QWidget *HelpWindow::makeSide()
     side->addWidget(contents);
     side->addWidget(makeFoundList());
     side->setChildrenCollapsible(false);
+    side->setHandleWidth(kGap);
     return side;
 }
 
@@ -142,6 +158,7 @@ QWidget *HelpWindow::makeFoundList()
 {
     m_lstFound = new QListWidget;
     m_lstFound->setObjectName("lstFound");
+    m_lstFound->setItemDelegate(new RoomyLines(m_lstFound));
     m_lblFound = makeLabel("Found", m_lstFound);
     m_lblFound->setObjectName("lblFound");
     m_lblFound->setWordWrap(true);
