@@ -16,6 +16,8 @@ const std::vector<std::string> kCaptions{
     "New Photometric file: (6 of 6) Complete!",
 };
 
+constexpr const char *kHelpTitle = "New Photometric File";
+
 /// What no page takes, so that it comes from the host alone.
 PhotometricRecord hostsRecord()
 {
@@ -254,9 +256,35 @@ TEST_F(EmbeddedRun, noEndsAToolThatIsNotEmbeddedUntold)
 TEST_F(EmbeddedRun, closeEndsItUnderAMessage)
 {
     startWizard();
-    typeKeys({"F1"});
-    ASSERT_NE(windowTitled("PenwrightPE"), "");
+    typeKeys({"Escape"});
+    ASSERT_NE(windowTitled("Canceling New File Wizard"), "");
     send("CLOSE");
+    expectUnloaded();
+}
+
+TEST_F(EmbeddedRun, helpTakesTheKeyboardAndGoesWithTheTool)
+{
+    startWizard();
+    typeKeys({"F1"});
+    const std::string help = windowTitled(kHelpTitle);
+    ASSERT_NE(help, "");
+    EXPECT_TRUE(waitUntil([&] { return std::to_string(display.focus()) == help; }));
+    send("CLOSE");
+    expectUnloaded();
+    EXPECT_EQ(tool().readAll(), "");
+}
+
+TEST_F(EmbeddedRun, helpStaysUsableWhileTheWizardAsks)
+{
+    startWizard();
+    typeKeys({"F1"});
+    ASSERT_NE(windowTitled(kHelpTitle), "");
+    xdotool({"windowfocus", "--sync", std::to_string(wizard())});
+    typeKeys({"Escape"});
+    ASSERT_NE(windowTitled("Canceling New File Wizard"), "");
+    ASSERT_TRUE(pressIn(kHelpTitle, {"Escape"}));
+    EXPECT_TRUE(waitUntil([] { return windowTitled(kHelpTitle, 0ms).empty(); }));
+    ASSERT_TRUE(pressIn("Canceling New File Wizard", {"y"}));
     expectUnloaded();
 }
 
