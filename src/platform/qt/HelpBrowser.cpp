@@ -105,12 +105,9 @@ void HelpBrowser::setFile(HelpFile *file)
 void HelpBrowser::showPlace(const HelpPlace &place)
 {
     setSource(urlOf(place), QTextDocument::HtmlResource);
-    if (!std::exchange(m_isFirstPage, false))
-        return;
-    // What the file before was left at is no page of this one, not even by the same name.
-    if (m_loaded.isEmpty())
-        reload();
-    clearHistory();
+    // What the file before was left at is no page of this one.
+    if (std::exchange(m_isFirstPage, false))
+        clearHistory();
 }
 
 void HelpBrowser::onSource(const QUrl &url)
