@@ -15,9 +15,18 @@ namespace penwright::test {
 namespace {
 
 /// Where the code keeps what it tells the user of the wizard.
-const std::vector<std::string> kMessageCode{"core",     "wizard",          "pages",
-                                            "hostlink", "app/StartUp.cpp", "app/Tool.h",
-                                            "app",      "platform/sqlite", "platform/RunTimeError.h"};
+const std::vector<std::string> kMessageCode{"core",
+                                            "wizard",
+                                            "pages",
+                                            "hostlink",
+                                            "app/StartUp.cpp",
+                                            "app/Tool.h",
+                                            "app",
+                                            "platform/sqlite",
+                                            "platform/RunTimeError.h",
+                                            "platform/chm/ChmContainer.cpp",
+                                            "platform/chm/ChmHelpFile.cpp",
+                                            "platform/qt/QtHelpViewer.cpp"};
 
 /// Texts of several words that are no messages: they are read out by screen readers, stand in a log that is never
 /// shown, are the title of a window that is hidden still or a dialog's filter, or belong to a state of a page not in
