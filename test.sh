@@ -1,5 +1,6 @@
 #!/bin/sh
-# Builds and tests everything: with sanitizers under gcc and under clang, then the release build.
+# Builds and tests everything: with sanitizers under gcc and under clang, then what the release build makes: its rules
+# and its programs.
 #   ./test.sh            all three
 #   ./test.sh PRESET     one of them: test, test-clang, release, release-clang
 set -eu
