@@ -9,6 +9,8 @@ endif()
 if(PENWRIGHT_WERROR)
   target_compile_options(penwright_flags INTERFACE -Werror)
 endif()
+target_compile_options(penwright_flags INTERFACE $<$<CONFIG:Release>:-D_FORTIFY_SOURCE=2>)
+target_link_options(penwright_flags INTERFACE $<$<CONFIG:Release>:LINKER:-z,relro,-z,now>)
 if(PENWRIGHT_SANITIZE)
   target_compile_options(penwright_flags INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
                                                    -fno-omit-frame-pointer)

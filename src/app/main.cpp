@@ -33,7 +33,8 @@ int main(int argc, char **argv)
     const std::string commandLine = commandLineOf(argc, argv);
     std::error_code ignored;
     const std::string folder = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string();
-    if (!penwright::prepareDisplay())
+    const penwright::Display display;
+    if (!display.isUsable())
         return 1;
     int nameAlone = 1;
     QApplication app(nameAlone, argv);

@@ -2,6 +2,7 @@
 
 #include <cstdio>
 #include <exception>
+#include <memory>
 #include <QApplication>
 #include <QDir>
 #include <QTemporaryDir>
@@ -50,14 +51,13 @@ int fail(const QString &reason)
 }
 
 /// The toolkit aborts without a display; this is asked before it starts.
-bool canOpenDisplay()
+/// Kept open until the program ends: a display whose only client goes may start anew and refuse the next one for a
+/// moment. Nothing when another platform was asked for.
+std::shared_ptr<xcb_connection_t> openDisplay()
 {
     if (!qgetenv("QT_QPA_PLATFORM").startsWith("xcb"))
-        return true;
-    xcb_connection_t *display = xcb_connect(nullptr, nullptr);
-    const bool isOpen = !xcb_connection_has_error(display);
-    xcb_disconnect(display);
-    return isOpen;
+        return nullptr;
+    return {xcb_connect(nullptr, nullptr), xcb_disconnect};
 }
 
 int walk(penwright::HostWindow &window, const QString &folder)
@@ -98,7 +98,8 @@ int main(int argc, char **argv)
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "xcb");
-    if (!canOpenDisplay())
+    const auto display = openDisplay();
+    if (display && xcb_connection_has_error(display.get()))
         return fail(QStringLiteral("cannot open the X display \"%1\"").arg(qEnvironmentVariable("DISPLAY")));
 
     // The walk has a settings store of its own, tool included: the user's is not touched.

@@ -227,7 +227,8 @@ private:
 
 int main(int count, char **arguments)
 {
-    if (!prepareDisplay())
+    const Display display;
+    if (!display.isUsable())
         return 1;
     QApplication application(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);

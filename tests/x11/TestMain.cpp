@@ -15,7 +15,8 @@ int main(int count, char **arguments)
     const char *manager = std::getenv("PENWRIGHT_TEST_MANAGER");
     const Xvfb display(manager && *manager ? Xvfb::Manager::Openbox : Xvfb::Manager::None);
     setenv("QT_QPA_PLATFORM", "xcb", 1);
-    if (!penwright::prepareDisplay())
+    const penwright::Display display;
+    if (!display.isUsable())
         return 1;
     QApplication application(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);

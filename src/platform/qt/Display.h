@@ -1,11 +1,26 @@
 #pragma once
 
+struct xcb_connection_t;
+
 namespace penwright {
 
-/// To be called before QApplication is made. Chooses Qt's `xcb` platform unless QT_QPA_PLATFORM is set, because only
-/// X11 lets a window live inside another process's window, and sees to it that a platform that cannot be loaded ends
-/// the program with one line on stderr and status 1 instead of an abort.
-/// Returns false, with one line on stderr, when the X display cannot be opened.
-bool prepareDisplay();
+/// To be made before QApplication, and to outlive it. Chooses Qt's `xcb` platform unless QT_QPA_PLATFORM is set,
+/// because only X11 lets a window live inside another process's window, and sees to it that a platform that cannot be
+/// loaded ends the program with one line on stderr and status 1 instead of an abort. It stays connected: a display
+/// whose only client goes may start anew and refuse the next one for a moment.
+class Display {
+public:
+    Display();
+    ~Display();
+    Display(const Display &) = delete;
+    Display &operator=(const Display &) = delete;
+
+    /// False, with one line on stderr, when the X display cannot be opened.
+    bool isUsable() const { return m_isUsable; }
+
+private:
+    xcb_connection_t *m_connection = nullptr;
+    bool m_isUsable = true;
+};
 
 }  // namespace penwright
