@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QMimeData>
 
 #include "platform/qt/ViewText.h"
 #include "platform/RunTimeError.h"
@@ -15,7 +16,11 @@ constexpr qsizetype kMostCharacters = 64 * 1024 * 1024;  // twice a million of t
 
 std::string readClipboardText()
 {
-    const QString text = QApplication::clipboard()->text();
+    // Asked first what it has: an owner that does not answer is then waited for once, not for each kind of text.
+    const QMimeData *data = QApplication::clipboard()->mimeData();
+    if (!data || !data->hasFormat("text/plain"))
+        return {};
+    const QString text = data->text();
     if (text.size() > kMostCharacters)
         throw RunTimeError(7, "The clipboard holds " + std::to_string(text.size() / (1024 * 1024)) +
                                   " million characters, far more than a table can have. Nothing was pasted.");

@@ -1,5 +1,7 @@
 #include <QMessageBox>
 
+#include "platform/qt/X11Window.h"
+
 #include "x11/EmbeddedWizard.h"
 
 namespace penwright::test {
@@ -257,6 +259,68 @@ TEST_F(WithManager, aClickOnTheHostTakesTheFocusAway)
     const Rectangle frame = display.geometryOf(display.parentOf(host.topWindow()));
     xdotool({"mousemove", std::to_string(frame.x + 60), std::to_string(frame.y + frame.height - 40), "click", "1"});
     EXPECT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+}
+
+/// Another program's window and the host's, between which a window manager's keys go to and fro.
+class AnotherProgram : public EmbeddedWizard {
+protected:
+    void activate(const HostProcess &process)
+    {
+        xdotool({"windowactivate", "--sync", std::to_string(process.topWindow())});
+    }
+
+    void goAndComeBack()
+    {
+        activate(other);
+        ASSERT_TRUE(spinUntil([this] { return display.focus() == other.topWindow(); }));
+        settle();
+        activate(host);
+    }
+
+    HostProcess other;
+};
+
+class WithManagerAndAnotherProgram : public AnotherProgram {};
+
+TEST_F(WithManagerAndAnotherProgram, theFocusComesBackToTheWizardThatHadIt)
+{
+    embedAndShow();
+    for (int turn = 1; turn <= 2; ++turn) {
+        goAndComeBack();
+        EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); })) << turn;
+    }
+    movePointerAway();
+    first->setFocus();
+    xdotool({"type", "17"});
+    EXPECT_TRUE(spinUntil([this] { return first->text() == "17"; }));
+}
+
+TEST_F(WithManagerAndAnotherProgram, theFocusStaysWithAHostThatHadIt)
+{
+    embedAndShow();
+    host.obey("takefocus");
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+    settle();
+    goAndComeBack();
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+    settle();
+    EXPECT_EQ(display.focus(), host.topWindow());
+}
+
+TEST_F(Focus, comesBackWhenAnotherWindowOfTheProgramIsClosed)
+{
+    embedAndShow();
+    QWidget help;
+    help.resize(300, 200);
+    help.move(900, 600);
+    help.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
+    help.activateWindow();
+    x11::focus(idOf(help));
+    ASSERT_TRUE(spinUntil([&] { return help.isActiveWindow() && display.focus() == idOf(help); }));
+    help.close();
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+    typeAndExpect(*first, "42");
 }
 
 TEST_F(WithManager, aDialogOfAWizardWithoutAHostKeepsTheKeyboardWhenTheWizardIsClicked)

@@ -13,7 +13,7 @@ int main(int count, char **arguments)
     testing::InitGoogleTest(&count, arguments);
     using penwright::test::Xvfb;
     const char *manager = std::getenv("PENWRIGHT_TEST_MANAGER");
-    const Xvfb display(manager && *manager ? Xvfb::Manager::Openbox : Xvfb::Manager::None);
+    const Xvfb server(manager && *manager ? Xvfb::Manager::Openbox : Xvfb::Manager::None);
     setenv("QT_QPA_PLATFORM", "xcb", 1);
     const penwright::Display display;
     if (!display.isUsable())

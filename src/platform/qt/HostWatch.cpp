@@ -17,7 +17,7 @@ HostWatch::HostWatch(Closing &closing) : m_closing(closing)
 
 bool HostWatch::watch(x11::WindowId window)
 {
-    if (!x11::watchStructure(window))
+    if (!x11::watch(window))
         return false;
     m_watched.push_back(window);
     return true;

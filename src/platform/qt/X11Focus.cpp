@@ -6,6 +6,8 @@
 #include <QWidget>
 #include <QWindow>
 
+#include <xcb/xcb.h>
+
 namespace penwright {
 namespace {
 
@@ -38,6 +40,7 @@ QWindow *ForeignWindows::of(x11::WindowId window)
 X11Focus::X11Focus(QWidget &window, ForeignWindows &foreign) : m_window(&window), m_foreign(foreign)
 {
     qApp->installEventFilter(this);
+    qApp->installNativeEventFilter(this);
     connect(qApp, &QGuiApplication::focusWindowChanged, this, &X11Focus::onFocusWindow);
 }
 
@@ -47,6 +50,10 @@ void X11Focus::setHost(x11::WindowId host)
     m_takeWhenExposed = false;
     // A dialog blocks the windows it shares a top-level window with; for the wizard that leads through its host.
     const x11::WindowId top = host ? x11::topLevelOf(host) : 0;
+    m_hostTop = top;
+    m_heldIt = false;
+    if (top)
+        x11::watch(top);
     if (top && top != host)
         m_foreign.of(host)->setTransientParent(m_foreign.of(top));
 }
@@ -70,9 +77,7 @@ bool X11Focus::eventFilter(QObject *object, QEvent *event)
     if (object == m_window || object == m_window->windowHandle())
         onOwnWindow(event->type());
     else if (object->isWidgetType() && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
-        auto *dialog = static_cast<QWidget *>(object);
-        if (dialog->isWindow() && dialog->windowType() == Qt::Dialog && dialog->windowHandle())
-            onDialog(*dialog, event->type());
+        onOtherWindow(static_cast<QWidget &>(*object), event->type());
     }
     return false;
 }
@@ -86,6 +91,16 @@ void X11Focus::onOwnWindow(QEvent::Type type)
         QTimer::singleShot(0, this, &X11Focus::take);
     else if (type == QEvent::Expose && m_takeWhenExposed)
         take();
+}
+
+void X11Focus::onOtherWindow(QWidget &other, QEvent::Type type)
+{
+    if (!other.isWindow() || !other.windowHandle())
+        return;
+    if (other.windowType() == Qt::Dialog)
+        onDialog(other, type);
+    else if (other.windowType() == Qt::Window && type == QEvent::Hide && other.windowHandle() == m_lastFocused)
+        QTimer::singleShot(0, this, &X11Focus::take);  // the help window, closed by its user
 }
 
 void X11Focus::onDialog(QWidget &dialog, QEvent::Type type)
@@ -103,6 +118,8 @@ void X11Focus::onDialog(QWidget &dialog, QEvent::Type type)
 
 void X11Focus::onFocusWindow(QWindow *focused)
 {
+    if (focused)
+        m_lastFocused = focused;
     if (!m_window)
         return;
     // A click on the blocked wizard still makes the toolkit believe that the wizard is active.
@@ -111,6 +128,32 @@ void X11Focus::onFocusWindow(QWindow *focused)
     // A window manager that notices late that a dialog is gone gives the focus to the host after it was taken here.
     else if (m_host && !focused && !m_contested.hasExpired() && hasHostTakenIt())
         take();
+}
+
+bool X11Focus::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
+{
+    if (!m_hostTop || eventType != "xcb_generic_event_t")
+        return false;
+    const auto *event = static_cast<const xcb_focus_in_event_t *>(message);
+    const int type = event->response_type & 0x7f;
+    const bool isFocus = type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT;
+    if (isFocus && event->event == m_hostTop && event->mode != XCB_NOTIFY_MODE_GRAB &&
+        event->mode != XCB_NOTIFY_MODE_UNGRAB)
+        onHostFocus(type == XCB_FOCUS_IN, event->detail);
+    return false;
+}
+
+// A window manager gives the focus to the host's window and knows nothing of the wizard in it.
+void X11Focus::onHostFocus(bool gets, int detail)
+{
+    const bool isBetweenBoth = detail == XCB_NOTIFY_DETAIL_INFERIOR;
+    const bool isHostsOwn = detail == XCB_NOTIFY_DETAIL_NONLINEAR || detail == XCB_NOTIFY_DETAIL_ANCESTOR;
+    if (gets ? !isBetweenBoth && !isHostsOwn : isBetweenBoth)  // something in the host's window gets it
+        m_heldIt = m_window && x11::focused() == static_cast<x11::WindowId>(m_window->winId());
+    else if (gets ? isBetweenBoth : isHostsOwn)  // the host takes it from the wizard, or loses what was its own
+        m_heldIt = false;
+    else if (gets && m_heldIt && !x11::isButtonHeld())
+        QTimer::singleShot(0, this, &X11Focus::take);
 }
 
 // A user who clicks on the host means it, and still holds the button when the focus goes.

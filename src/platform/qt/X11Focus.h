@@ -1,17 +1,17 @@
 #pragma once
 
+#include <QAbstractNativeEventFilter>
 #include <QDeadlineTimer>
 #include <QEvent>
 #include <QObject>
 #include <QPointer>
 #include <QWidget>
+#include <QWindow>
 
 #include <map>
 #include <memory>
 
 #include "platform/qt/X11Window.h"
-
-class QWindow;
 
 namespace penwright {
 
@@ -28,11 +28,14 @@ private:
 };
 
 /// Keyboard focus and stacking of a window that is embedded in another process's. For such a window the toolkit only
-/// believes that it is active: the X focus is moved here, on a mouse press, when the window is shown and when a dialog
-/// ends. Dialogs get the host's top-level window as their transient parent, so that they stay above it.
-class X11Focus : public QObject {
+/// believes that it is active: the X focus is moved here, on a mouse press, when the window is shown, when a dialog or
+/// the help window ends, and when the host's window gets the focus back from another program that got it from the
+/// wizard. Dialogs get the host's top-level window as their transient parent, so that they stay above it.
+class X11Focus : public QObject, public QAbstractNativeEventFilter {
 public:
     X11Focus(QWidget &window, ForeignWindows &foreign);
+
+    bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
     /// The window that the wizard is embedded in, 0 while it is in none: then everything here rests.
     void setHost(x11::WindowId host);
@@ -46,13 +49,18 @@ protected:
 
 private:
     void onOwnWindow(QEvent::Type type);
+    void onOtherWindow(QWidget &other, QEvent::Type type);
     void onDialog(QWidget &dialog, QEvent::Type type);
+    void onHostFocus(bool gets, int detail);
     void onFocusWindow(QWindow *focused);
     bool hasHostTakenIt() const;
 
     QPointer<QWidget> m_window;  ///< events still pass through here while it is being destroyed
     ForeignWindows &m_foreign;
     x11::WindowId m_host = 0;
+    x11::WindowId m_hostTop = 0;
+    bool m_heldIt = false;            ///< whether the wizard, not the host itself, had the focus last of the two
+    QPointer<QWindow> m_lastFocused;  ///< of this program's windows
     bool m_takeWhenExposed = false;
     QDeadlineTimer m_contested;  ///< until then a window manager may hand the focus of an ended dialog to the host
 };

@@ -89,12 +89,12 @@ WindowId topLevelOf(WindowId window)
     return belowRoot;
 }
 
-bool watchStructure(WindowId window)
+bool watch(WindowId window)
 {
     xcb_connection_t *c = connection();
     if (!c)
         return false;
-    const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY;
+    const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_FOCUS_CHANGE;
     const auto cookie = xcb_change_window_attributes_checked(c, window, XCB_CW_EVENT_MASK, &mask);
     return Reply<xcb_generic_error_t>(xcb_request_check(c, cookie)) == nullptr;
 }

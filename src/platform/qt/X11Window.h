@@ -23,8 +23,9 @@ bool isRoot(WindowId window);
 /// The window that a window manager knows and that `window` lives in; without a manager, the one below the root.
 WindowId topLevelOf(WindowId window);
 
-/// Asks for the events that tell of a window's end; false when the number names none.
-bool watchStructure(WindowId window);
+/// Asks for the events that tell of a window's end and of the keyboard focus that it gets and loses; false when the
+/// number names none.
+bool watch(WindowId window);
 
 /// Moves and sizes within the parent, shown or hidden. Sizes below 1 and what the protocol cannot carry are clamped.
 void place(WindowId window, int x, int y, PixelSize size);
