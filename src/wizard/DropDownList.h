@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QWheelEvent>
+
+#include "wizard/ScreenReader.h"
 
 namespace penwright {
 
@@ -11,6 +14,13 @@ class DropDownList : public QComboBox {
 
 public:
     using QComboBox::QComboBox;
+
+    void showPopup() override
+    {
+        view()->setAccessibleName(accessibleName());
+        QComboBox::showPopup();
+        tellCurrentItem(*view());
+    }
 
 protected:
     void wheelEvent(QWheelEvent *event) override { event->ignore(); }

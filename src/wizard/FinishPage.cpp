@@ -1,6 +1,7 @@
 #include "wizard/FinishPage.h"
 
 #include "ui_FinishPage.h"
+#include "wizard/ScreenReader.h"
 
 namespace penwright {
 
@@ -42,10 +43,18 @@ void FinishPage::cmdBack80_Click()
 
 void FinishPage::finish(bool saveAs)
 {
-    m_form->labStatus->clear();
+    showStatus({});
     const FinishEnd end = m_finish.SaveNewFile(saveAs, caption().toStdString());
     if (end == FinishEnd::NotTaken)
-        m_form->labStatus->setText("The host has not taken the file yet. It is kept for the host until it does.");
+        showStatus("The host has not taken the file yet. It is kept for the host until it does.");
+}
+
+void FinishPage::showStatus(const QString &text)
+{
+    m_form->labStatus->setText(text);
+    // A screen reader speaks up where the focus is, on the button pressed.
+    describe(*m_form->cmdUnname, text.isEmpty() ? m_form->Label80b->text() : text);
+    describe(*m_form->cmdSaveAs, text.isEmpty() ? m_form->Label80c->text() : text);
 }
 
 }  // namespace penwright

@@ -26,6 +26,7 @@ private:
     void cmdBack80_Click();
 
     void finish(bool saveAs);
+    void showStatus(const QString &text);
 
     std::unique_ptr<Ui::FinishPage> m_form;
     FinishAndSave m_finish;

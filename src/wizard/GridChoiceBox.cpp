@@ -73,7 +73,8 @@ GridChoiceBox::GridChoiceBox(const std::vector<GridChoice> &choices, QWidget *pa
     setMaxVisibleItems(kVisibleEntries);
     for (const GridChoice &choice : choices) {
         addItem(QString::fromStdString(choice.text));
-        setItemData(count() - 1, QString::fromStdString(choice.hint), Qt::ToolTipRole);
+        for (const int role : {Qt::ToolTipRole, Qt::AccessibleDescriptionRole})
+            setItemData(count() - 1, QString::fromStdString(choice.hint), role);
     }
     setItemDelegate(new EntryPainter(this));
 }

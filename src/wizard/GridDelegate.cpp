@@ -69,10 +69,11 @@ QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     editorLine(editor)->setMaxLength(std::numeric_limits<int>::max());
     editorLine(editor)->setValidator(new OneLine(editor));
     editorLine(editor)->setAlignment(m_alignment | Qt::AlignVCenter);
-    const auto *model = index.model();
-    editor->setAccessibleName(QString("Row %1, %2")
-                                  .arg(model->headerData(index.row(), Qt::Vertical, Qt::DisplayRole).toString(),
-                                       model->headerData(index.column(), Qt::Horizontal, Qt::DisplayRole).toString()));
+    const QString name = static_cast<const GridModel *>(index.model())->cellName(index.row() + 1, index.column());
+    editor->setAccessibleName(name);
+    editorLine(editor)->setAccessibleName(name);
+    if (editor != editorLine(editor))
+        editor->setAccessibleDescription(name);  // its text stands for its name
     editor->setAutoFillBackground(true);
     connect(editorLine(editor), &QLineEdit::textChanged, this,
             [this, editor, cell = QPersistentModelIndex(index)] { fit(*editor, m_view->visualRect(cell)); });

@@ -142,6 +142,11 @@ std::vector<GridChoice> GridModel::choices(int row, int column) const
     return source() ? source()->choices(row, column) : std::vector<GridChoice>();
 }
 
+QString GridModel::cellName(int row, int column) const
+{
+    return source() ? QString::fromStdString(source()->rowName(row) + ", " + source()->columnName(column)) : QString();
+}
+
 int GridModel::rowCount(const QModelIndex &parent) const
 {
     return parent.isValid() ? 0 : m_rows;
@@ -154,6 +159,8 @@ int GridModel::columnCount(const QModelIndex &parent) const
 
 QVariant GridModel::data(const QModelIndex &index, int role) const
 {
+    if (index.isValid() && role == Qt::AccessibleDescriptionRole && isReadOnly(index.column()))
+        return QStringLiteral("Read-only");
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
     return QString::fromStdString(read(index.row() + 1, index.column()));
@@ -170,8 +177,11 @@ bool GridModel::setData(const QModelIndex &index, const QVariant &value, int)
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (!source() || role != Qt::DisplayRole)
+    if (!source() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
         return {};
+    if (role == Qt::AccessibleTextRole)
+        return QString::fromStdString(orientation == Qt::Horizontal ? m_source->columnName(section)
+                                                                    : m_source->rowName(section + 1));
     if (orientation == Qt::Horizontal)
         return QString::fromStdString(m_source->columnCaption(section));
     return section < sourceRows() ? QString::number(section + 1) : QStringLiteral("*");

@@ -53,6 +53,9 @@ public:
     bool isReadOnly(int column) const { return source() && source()->isReadOnly(column); }
     std::vector<GridChoice> choices(int row, int column) const;
 
+    /// The name of a cell, of its row and its column: "Row 2, Factor".
+    QString cellName(int row, int column) const;
+
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role) const override;

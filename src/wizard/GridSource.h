@@ -40,6 +40,10 @@ public:
     virtual int columnCount() const = 0;
     virtual std::string columnCaption(int column) const = 0;
 
+    /// What row and column are called where their captions are not seen. The row may lie behind the last one.
+    virtual std::string rowName(int row) const { return row > rowCount() ? "New row" : "Row " + std::to_string(row); }
+    virtual std::string columnName(int column) const { return columnCaption(column); }
+
     /// The text that a cell shows.
     virtual std::string read(int row, int column) const = 0;
 

@@ -12,6 +12,7 @@
 #include "wizard/GridModel.h"
 #include "wizard/GridRefusal.h"
 #include "wizard/InView.h"
+#include "wizard/ScreenReader.h"
 
 namespace penwright {
 namespace {
@@ -151,6 +152,7 @@ void GridView::focusInEvent(QFocusEvent *event)
     if (!currentIndex().isValid() && event->reason() != Qt::MouseFocusReason)
         moveTo(alongRow(true));
     QTableView::focusInEvent(event);
+    tellCurrentItem(*this);
 }
 
 void GridView::hideEvent(QHideEvent *event)

@@ -11,6 +11,7 @@
 #include "wizard/HandlerGuard.h"
 #include "wizard/InView.h"
 #include "wizard/QuietLabel.h"
+#include "wizard/ScreenReader.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {
@@ -50,6 +51,7 @@ bool takesFocus(const QWidget &widget, const QWidget &page)
 
 PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_context(context)
 {
+    setScreenReaderRole(*this, QAccessible::Grouping);
     setObjectName("nfra" + QString::number(index));
     setAccessibleName(caption());
     m_formArea = new QWidget;
@@ -96,20 +98,21 @@ void PageFrame::addButtons(const Handler &next, const Handler &back)
 {
     const PageRow &row = rowOf(m_index);
     const QString number = QString::number(row.number);
-    addButton(fromView(row.cancelButton), "Cancel", [this] { navigator().ConfirmCancel(); });
-    addButton("cmdHelp" + number, "Help", [this, id = row.helpId] { navigator().ShowHelp(id); });
+    addButton(fromView(row.cancelButton), "Cancel", "Escape", [this] { navigator().ConfirmCancel(); });
+    addButton("cmdHelp" + number, "Help", "F1", [this, id = row.helpId] { navigator().ShowHelp(id); });
     m_buttons->addSpacing(16);
-    m_next = addButton("cmdNext" + number, "Next >", next ? [this, next] { pressNext(next); } : Handler());
-    QPushButton *backButton = addButton("cmdBack" + number, "< Back", back);
+    m_next = addButton("cmdNext" + number, "Next >", "Alt+N", next ? [this, next] { pressNext(next); } : Handler());
+    QPushButton *backButton = addButton("cmdBack" + number, "< Back", "Alt+B", back);
     // Captions carry no "&". A button's own shortcut would hold its click back while it shows itself pressed.
     connect(new QShortcut(QKeySequence("Alt+N"), this), &QShortcut::activated, m_next, &QPushButton::click);
     connect(new QShortcut(QKeySequence("Alt+B"), this), &QShortcut::activated, backButton, &QPushButton::click);
 }
 
-QPushButton *PageFrame::addButton(const QString &name, const QString &text, const Handler &handler)
+QPushButton *PageFrame::addButton(const QString &name, const QString &text, const QString &key, const Handler &handler)
 {
     auto *button = new QPushButton(text);
     button->setObjectName(name);
+    button->setAccessibleDescription(key);
     button->setAutoDefault(true);  // so that Enter presses the button that has the focus
     button->setMinimumWidth(92);
     m_buttons->addWidget(button);

@@ -99,7 +99,7 @@ protected:
 private:
     void pressNext(const Handler &next);
     void focusFirstFault();
-    QPushButton *addButton(const QString &name, const QString &text, const Handler &handler);
+    QPushButton *addButton(const QString &name, const QString &text, const QString &key, const Handler &handler);
 
     int m_index;
     PageContext m_context;

@@ -6,8 +6,23 @@
 
 #include "platform/qt/Closing.h"
 #include "wizard/LongTextBox.h"
+#include "wizard/ScreenReader.h"
 
 namespace penwright {
+namespace {
+
+/// The beginning of a list that may have a million lines.
+QString spokenBeginning(const QString &lines)
+{
+    constexpr int kMostLines = 10;
+    qsizetype end = lines.indexOf('\n');
+    for (int line = 1; line < kMostLines && end >= 0; ++line)
+        end = lines.indexOf('\n', end + 1);
+    const bool isWhole = end < 0 || end + 1 == lines.size();
+    return isWhole ? lines.trimmed() : lines.left(end) + "\nand more";
+}
+
+}  // namespace
 
 WarningDialog::WarningDialog(const Closing &closing, QWidget *parent) : QDialog(parent), m_closing(closing)
 {
@@ -41,7 +56,9 @@ void WarningDialog::showModal()
     if (m_closing.isClosing())
         return;
     QString lines = QString::fromStdString(m_list.text());
-    m_text->showLines(lines.remove('\r'));
+    lines.remove('\r');
+    describe(*this, spokenBeginning(lines));
+    m_text->showLines(std::move(lines));
     m_ok->setFocus();
     exec();
 }

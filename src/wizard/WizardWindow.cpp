@@ -20,6 +20,7 @@
 #include "platform/qt/QtEventWait.h"
 #include "platform/qt/X11Embedding.h"
 #include "wizard/HandlerGuard.h"
+#include "wizard/ScreenReader.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {
@@ -38,6 +39,7 @@ WizardWindow::WizardWindow(ToolState &state, const Services &services, const Win
       m_link(state, services, *this),
       m_operations(state, services, m_link.log())
 {
+    setScreenReaderRole(*this, QAccessible::Window);
     setObjectName("frmSample");
     setWindowTitle("New Photometric File");
     resize(kDesignSize);

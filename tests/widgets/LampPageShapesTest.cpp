@@ -70,7 +70,8 @@ TEST_P(LampShape, setsCaptionsStatesAndTexts)
     EXPECT_EQ(look("Width"), GetParam().width);
     EXPECT_EQ(look("Length"), GetParam().length);
     EXPECT_EQ(look("Height"), GetParam().height);
-    EXPECT_EQ(find("lmpPicHousing")->accessibleDescription(), shapes()->itemText(GetParam().position));
+    EXPECT_TRUE(
+        find("lmpPicHousing")->accessibleDescription().startsWith(shapes()->itemText(GetParam().position) + ":"));
 }
 
 TEST_P(LampShape, storesItsSigns)
@@ -144,7 +145,7 @@ TEST_F(LampShapes, noShapeLeavesTheBoxesAsTheyAre)
     EXPECT_EQ(text("txtWidth"), "4");
     EXPECT_EQ(find<QLabel>("lmpLabWidth")->text(), "Diameter > 0");
     EXPECT_FALSE(box("txtLength")->isEnabled());
-    EXPECT_EQ(find("lmpPicHousing")->accessibleDescription(), "No shape");
+    EXPECT_TRUE(find("lmpPicHousing")->accessibleDescription().startsWith("No shape:"));
 }
 
 TEST_F(LampShapes, withNoneChosenNextStoresTheBoxesAsTyped)

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "wizard/ScreenReader.h"
+
 namespace penwright {
 
 /// The picture in the corner of the table: rows are vertical angles, columns are horizontal ones.
@@ -9,7 +11,11 @@ class AxisArrows : public QLabel {
     Q_OBJECT
 
 public:
-    explicit AxisArrows(QWidget *parent = nullptr) : QLabel(parent) {}
+    explicit AxisArrows(QWidget *parent = nullptr) : QLabel(parent)
+    {
+        setScreenReaderRole(*this, QAccessible::Graphic);
+        setAccessibleName("Rows are vertical angles, columns are horizontal angles");
+    }
 
     QSize sizeHint() const override { return {18, 18}; }
     QSize minimumSizeHint() const override { return sizeHint(); }

@@ -145,6 +145,16 @@ std::string CandelaTable::columnCaption(int column) const
     return from && column >= 1 && column <= from->HorAngles.size() ? generalText(from->HorAngles(column)) : "";
 }
 
+std::string CandelaTable::rowName(int row) const
+{
+    return "V " + read(row, kLabelColumn);
+}
+
+std::string CandelaTable::columnName(int column) const
+{
+    return column == kLabelColumn ? "Vertical angle" : "H " + columnCaption(column);
+}
+
 std::string CandelaTable::read(int row, int column) const
 {
     if (!m_flags.GridReady)

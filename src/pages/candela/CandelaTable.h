@@ -57,6 +57,11 @@ public:
     int rowCount() const override;
     int columnCount() const override;
     std::string columnCaption(int column) const override;
+
+    /// The angles, in degrees: "V 30" and "H 90".
+    std::string rowName(int row) const override;
+    std::string columnName(int column) const override;
+
     std::string read(int row, int column) const override;
     std::optional<MessageBox> check(int row, int column, std::string_view text) const override;
     std::optional<MessageBox> write(int row, int column, std::string_view text) override;

@@ -5,11 +5,13 @@
 #include <utility>
 
 #include "pages/candela/PlotPainter.h"
+#include "wizard/ScreenReader.h"
 
 namespace penwright {
 
 PlotView::PlotView(QWidget *parent) : QFrame(parent)
 {
+    setScreenReaderRole(*this, QAccessible::Graphic);
     m_curves.typeC = true;
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -26,7 +28,7 @@ void PlotView::draw(const PhotometricRecord &record, const OneBasedTable<Candela
 
     m_curves = std::move(curves);
     m_rings = std::move(rings);
-    setAccessibleDescription(description);
+    describe(*this, description);
     update();
 }
 

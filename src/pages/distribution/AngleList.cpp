@@ -113,6 +113,11 @@ RelativeRow AngleList::relativeRow(std::string_view start, int offset)
     return {row == 1 ? "1" : "", row};
 }
 
+std::string AngleList::rowName(int) const
+{
+    return m_axis == AngleAxis::Vertical ? "Vertical angle" : "Horizontal angle";
+}
+
 std::string AngleList::read(int, int column) const
 {
     std::string value;

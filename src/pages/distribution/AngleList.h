@@ -66,6 +66,10 @@ public:
     int rowCount() const override { return 1; }
     int columnCount() const override { return m_cells.size(); }
     std::string columnCaption(int column) const override { return std::to_string(column + 1); }
+
+    /// "Vertical angle" and the column's number: the one row is all angles of the axis.
+    std::string rowName(int) const override;
+
     std::string read(int row, int column) const override;
 
     /// Takes any text as typed: the angles are checked when the page is left.

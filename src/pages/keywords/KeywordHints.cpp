@@ -62,4 +62,18 @@ std::string emptyRowsHint(const std::vector<int> &rows)
                             : "Rows " + listed(rows) + " are empty: each is written to the file as an empty line.";
 }
 
+std::string spokenHint(const std::string &keyword, int characters, const std::string &emptyRows)
+{
+    std::string text;
+    const auto add = [&text](const std::string &hint) {
+        if (!hint.empty())
+            text += (text.empty() ? "" : text.back() == '.' ? " " : ". ") + hint;
+    };
+    add(keyword);
+    if (characters > kMostLineCharacters)
+        add("The line is too long: more than " + std::to_string(kMostLineCharacters) + " characters.");
+    add(emptyRows);
+    return text;
+}
+
 }  // namespace penwright

@@ -17,4 +17,8 @@ std::string lengthHint(int characters);
 /// Which rows stand empty and what becomes of them; "" when there is none.
 std::string emptyRowsHint(const std::vector<int> &rows);
 
+/// The hints in one text for a screen reader, which speaks it whenever it changes: it says that a line of so many
+/// characters is too long, and leaves out the count, which is another one at each key.
+std::string spokenHint(const std::string &keyword, int characters, const std::string &emptyRows);
+
 }  // namespace penwright

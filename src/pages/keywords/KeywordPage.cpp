@@ -4,6 +4,7 @@
 #include "pages/keywords/KeywordHints.h"
 #include "pages/keywords/KeywordLines.h"
 #include "ui_KeywordPage.h"
+#include "wizard/ScreenReader.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {
@@ -69,10 +70,12 @@ void KeywordPage::showLine()
     const KeywordRow line = m_form->keyGrid->shownLine();
     const bool isThere = row >= 1;
     const std::string hint = isThere ? keywordHint(row, line, row > m_rows.rowCount()) : "";
+    const std::string emptyRows = emptyRowsHint(m_rows.emptyRows());
     m_form->labDescription->setText(QString::fromStdString(hint));
     m_form->labCharacters->setText(isThere ? QString::fromStdString(lengthHint(line.length())) : QString());
     m_form->labCharacters->setWarning(line.length() > kMostLineCharacters);
-    m_form->labEmptyRows->setText(QString::fromStdString(emptyRowsHint(m_rows.emptyRows())));
+    m_form->labEmptyRows->setText(QString::fromStdString(emptyRows));
+    describe(*m_form->keyGrid, QString::fromStdString(spokenHint(hint, line.length(), emptyRows)));
 }
 
 void KeywordPage::focusFault(const FaultPlace &place)

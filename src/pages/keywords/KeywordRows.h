@@ -51,6 +51,10 @@ public:
     int rowCount() const override { return m_rows.size(); }
     int columnCount() const override { return 2; }
     std::string columnCaption(int column) const override;
+
+    /// Without what the caption says of lengths.
+    std::string columnName(int column) const override { return column == kKey ? "Keyword" : "Description"; }
+
     std::string read(int row, int column) const override;
 
     /// The text without its leading and trailing blanks.

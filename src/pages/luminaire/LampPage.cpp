@@ -4,6 +4,7 @@
 #include "pages/luminaire/LuminousShapes.h"
 #include "platform/qt/ViewText.h"
 #include "ui_LampPage.h"
+#include "wizard/ScreenReader.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {
@@ -26,6 +27,7 @@ LampPage::LampPage(const PageContext &context) : PageFrame(kLampPage, context), 
 {
     m_form->setupUi(formArea());
     connect(m_form->lmpCmbShape, &QComboBox::currentIndexChanged, this, &LampPage::lmpCmbShape_Click);
+    connect(m_form->rdoFeet, &QRadioButton::toggled, this, &LampPage::tellUnits);
     addButtons([this] { cmdNext10_Click(); }, {});
 }
 
@@ -36,6 +38,7 @@ void LampPage::load()
     const bool feet = inputUnitsAreFeet(services().store);
     m_form->rdoFeet->setChecked(feet);
     m_form->rdoMeters->setChecked(!feet);
+    tellUnits();
     for (const LuminousShape &shape : kLuminousShapes)
         m_form->lmpCmbShape->addItem(fromView(shape.name));
 }
@@ -43,6 +46,12 @@ void LampPage::load()
 void LampPage::lmpCmbShape_Click()
 {
     gsbDrawLuminaireGeo(static_cast<std::int16_t>(m_form->lmpCmbShape->currentIndex()));
+}
+
+void LampPage::tellUnits()
+{
+    for (TextBox *box : {m_form->txtWidth, m_form->txtLength, m_form->txtHeight})
+        describe(*box, m_form->rdoFeet->isChecked() ? m_form->rdoFeet->text() : m_form->rdoMeters->text());
 }
 
 void LampPage::gsbDrawLuminaireGeo(std::int16_t position)

@@ -30,6 +30,7 @@ protected:
 
 private:
     void lmpCmbShape_Click();
+    void tellUnits();
     void cmdNext10_Click();
 
     /// Shows the dimensions and the sketch of the shape at a list position. A position outside 0 to 14 changes nothing

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "pages/luminaire/LuminousShapes.h"
 #include "pages/luminaire/SketchSpace.h"
 
 namespace penwright {
@@ -239,6 +240,14 @@ ShapeSketch sketchOfShape(int position)
     if (isShape)
         sketcher.drawSolid(solid);
     return sketcher.sketch;
+}
+
+std::string sketchDescription(int position)
+{
+    const LuminousShape *shape = luminousShapeAt(position);
+    return (shape ? std::string(shape->name) : "No shape") +
+           ": the length lies along 0 and 180 degrees, 0 at the lower left; the width along 90 and 270 degrees, 90 at "
+           "the lower right; the height upright.";
 }
 
 }  // namespace penwright

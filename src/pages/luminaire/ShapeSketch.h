@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -42,5 +43,8 @@ struct ShapeSketch {
 /// and 180 degrees, its width along that of 90 and 270. A small frame of reference names length, width and height, and
 /// two arrows point to 0 and 90 degrees. Outside positions 0 to 14 these stand alone.
 ShapeSketch sketchOfShape(int position);
+
+/// The sketch in words, for those who cannot see it: the shape, and which way its dimensions and angles lie.
+std::string sketchDescription(int position);
 
 }  // namespace penwright

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <QPainter>
 
-#include "pages/luminaire/LuminousShapes.h"
 #include "platform/qt/ViewText.h"
+#include "wizard/ScreenReader.h"
 
 namespace penwright {
 namespace {
@@ -43,6 +43,7 @@ QRectF boxBeside(const QPointF &place, const QPointF &away, const QString &text,
 
 ShapeSketchView::ShapeSketchView(QWidget *parent) : QWidget(parent)
 {
+    setScreenReaderRole(*this, QAccessible::Graphic);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName("Sketch of the luminous shape");
     setShape(-1);
@@ -50,8 +51,7 @@ ShapeSketchView::ShapeSketchView(QWidget *parent) : QWidget(parent)
 
 void ShapeSketchView::setShape(int position)
 {
-    const LuminousShape *shape = luminousShapeAt(position);
-    setAccessibleDescription(shape ? fromView(shape->name) : "No shape");
+    describe(*this, QString::fromStdString(sketchDescription(position)));
     m_sketch = sketchOfShape(position);
     update();
 }

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QAccessible>
+
+class QAbstractItemView;
+class QWidget;
+
+namespace penwright {
+
+/// Has screen readers told that a widget plays a role which the toolkit does not see in its class. To be called by its
+/// constructor, before anything is told of the widget.
+///
+/// From the first call on, they also find the windows that live in a window of another process: the toolkit leaves
+/// them out of the windows of its program, so that an embedded wizard would not exist for them. And a plain frame is a
+/// group for them, where the toolkit's word for it is read as that for a window.
+void setScreenReaderRole(QWidget &widget, QAccessible::Role role);
+
+/// Sets what is told of a widget beside its name, when it is something new: each change may be spoken.
+void describe(QWidget &widget, const QString &description);
+
+/// Tells the current item of a view that has just got the focus, of which the toolkit tells the view alone.
+void tellCurrentItem(QAbstractItemView &view);
+
+}  // namespace penwright
