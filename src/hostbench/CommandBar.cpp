@@ -22,7 +22,7 @@ QString lacksForFile(const CommandBar::Situation &situation)
     const QString lacks = lacksForTool(situation);
     if (!lacks.isEmpty() || situation.isFileSelected)
         return lacks;
-    return CommandBar::tr("No file is selected to tell the tool of");
+    return CommandBar::tr("Select a file that the tool is to be told of");
 }
 
 }  // namespace

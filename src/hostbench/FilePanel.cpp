@@ -8,6 +8,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSaveFile>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "core/StartupState.h"
@@ -133,6 +134,12 @@ void FilePanel::removeSelected()
     const int place = selected();
     m_files.remove(place);
     showFiles(std::min(place, m_files.count() - 1));
+}
+
+void FilePanel::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    QTimer::singleShot(0, m_list, [this] { m_list->scrollToItem(m_list->currentItem()); });
 }
 
 }  // namespace penwright

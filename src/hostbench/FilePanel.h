@@ -23,6 +23,10 @@ public:
     /// The place of the file selected, -1 for none.
     int selected() const;
 
+protected:
+    /// Has the selected file in sight.
+    void showEvent(QShowEvent *event) override;
+
 signals:
     void selectionChanged();
 

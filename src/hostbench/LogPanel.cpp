@@ -2,6 +2,7 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QTimer>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -47,6 +48,7 @@ void LogPanel::setFolded(bool isFolded)
     m_fold->setArrowType(isFolded ? Qt::RightArrow : Qt::DownArrow);
     m_newest->setVisible(isFolded);
     m_log->setVisible(!isFolded);
+    QTimer::singleShot(0, m_log, &QTreeWidget::scrollToBottom);  // once it has its height
     setMaximumHeight(isFolded ? m_fold->sizeHint().height() : QWIDGETSIZE_MAX);
     emit folded(isFolded);
 }

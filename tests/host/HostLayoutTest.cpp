@@ -20,7 +20,7 @@ TEST_F(HostLayoutTest, aDisabledButtonSaysWhatItLacks)
     EXPECT_EQ(lacks("remove"), "No file is selected");
     m_window->startTool();
     EXPECT_EQ(lacks("sendClose"), "");
-    EXPECT_EQ(lacks("sendDeleteFile"), "No file is selected to tell the tool of");
+    EXPECT_EQ(lacks("sendDeleteFile"), "Select a file that the tool is to be told of");
     m_window->addFile({sampleLuminaire(), true});
     EXPECT_EQ(lacks("sendDeleteFile"), "");
     EXPECT_EQ(lacks("saveAs"), "The selected file is saved already");
