@@ -1,0 +1,96 @@
+#include "a11y/AccessibilityBus.h"
+
+#include <cstdlib>
+#include <QCoreApplication>
+#include <stdexcept>
+
+namespace penwright::test {
+namespace {
+
+constexpr auto kSession = "session";
+constexpr auto kReaders = "readers";
+
+/// The address of the bus of screen readers, which the session bus starts when it is asked for it.
+QString readersAddress(const std::string &session)
+{
+    const QDBusMessage answer =
+        QDBusConnection::connectToBus(QString::fromStdString(session), kSession)
+            .call(QDBusMessage::createMethodCall("org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus", "GetAddress"));
+    if (answer.type() != QDBusMessage::ReplyMessage)
+        throw std::runtime_error("no bus of screen readers: " + answer.errorMessage().toStdString());
+    return answer.arguments().front().toString();
+}
+
+QDBusConnection startReadersBus(Process &sessionBus)
+{
+    const auto session = sessionBus.readLine();
+    if (!session)
+        throw std::runtime_error("the session bus does not start");
+    setenv("DBUS_SESSION_BUS_ADDRESS", session->c_str(), 1);
+    setenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1", 1);
+    return QDBusConnection::connectToBus(readersAddress(*session), kReaders);
+}
+
+}  // namespace
+
+AccessibilityBus::AccessibilityBus()
+    : m_session({"dbus-daemon", "--session", "--nofork", "--print-address=1"}, {}, Process::Errors::Dropped),
+      m_bus(startReadersBus(m_session))
+{
+    // Programs tell only what somebody has asked for.
+    for (const QString event : {"object:state-changed:focused", "object:property-change:accessible-description"}) {
+        QDBusMessage wish = QDBusMessage::createMethodCall("org.a11y.atspi.Registry", "/org/a11y/atspi/registry",
+                                                           "org.a11y.atspi.Registry", "RegisterEvent");
+        wish.setArguments({event});
+        m_bus.call(wish);
+    }
+    m_bus.connect({}, {}, "org.a11y.atspi.Event.Object", "StateChanged", this, SLOT(stateChanged(QDBusMessage)));
+    m_bus.connect({}, {}, "org.a11y.atspi.Event.Object", "PropertyChange", this, SLOT(propertyChanged(QDBusMessage)));
+}
+
+AccessibilityBus::~AccessibilityBus()
+{
+    QDBusConnection::disconnectFromBus(kReaders);
+    QDBusConnection::disconnectFromBus(kSession);
+}
+
+AccessibleObject AccessibilityBus::desktop() const
+{
+    return {m_bus, "org.a11y.atspi.Registry", "/org/a11y/atspi/accessible/root"};
+}
+
+std::string AccessibilityBus::focus()
+{
+    QCoreApplication::processEvents();
+    if (m_focusPath.isEmpty())
+        return {};
+    const AccessibleObject object(m_bus, m_focusService, m_focusPath);
+    if (!object.exists())
+        return {};
+    return (object.roleName() + " \"" + object.name() + '"' +
+            (object.has("Text") ? " = \"" + object.text() + '"' : "") +
+            (object.description().isEmpty() ? "" : " (" + object.description() + ')'))
+        .toStdString();
+}
+
+void AccessibilityBus::stateChanged(const QDBusMessage &event)
+{
+    if (event.arguments().size() < 2 || event.arguments()[0] != "focused" || event.arguments()[1].toInt() != 1)
+        return;
+    m_focusService = event.service();
+    m_focusPath = event.path();
+}
+
+int AccessibilityBus::changedDescriptions()
+{
+    QCoreApplication::processEvents();
+    return m_changedDescriptions;
+}
+
+void AccessibilityBus::propertyChanged(const QDBusMessage &event)
+{
+    if (!event.arguments().isEmpty() && event.arguments()[0] == "accessible-description")
+        ++m_changedDescriptions;
+}
+
+}  // namespace penwright::test

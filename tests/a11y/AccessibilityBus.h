@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QObject>
+
+#include "a11y/AccessibleObject.h"
+#include "support/Process.h"
+
+namespace penwright::test {
+
+/// A session bus of its own for one test process and, behind it, the bus of screen readers. Programs started from here
+/// on speak on it. To be made when DISPLAY and HOME are set.
+class AccessibilityBus : public QObject {
+    Q_OBJECT
+
+public:
+    AccessibilityBus();
+    ~AccessibilityBus() override;
+
+    /// What holds all programs.
+    AccessibleObject desktop() const;
+
+    /// What was told last to have the focus: `role "name" = "value" (description)`; "" before anything was.
+    std::string focus();
+
+    /// How many descriptions have changed, each of which may be spoken.
+    int changedDescriptions();
+
+private slots:
+    void stateChanged(const QDBusMessage &event);
+    void propertyChanged(const QDBusMessage &event);
+
+private:
+    Process m_session;
+    QDBusConnection m_bus;
+    QString m_focusService;
+    QString m_focusPath;
+    int m_changedDescriptions = 0;
+};
+
+}  // namespace penwright::test
