@@ -42,7 +42,13 @@ const std::set<std::string> kNoMessages{
     " candela at ",
     "Vertical plane through horizontal angle ",
     "; horizontal cone through vertical angle ",
-    "Row %1, %2",
+    "\nand more",
+    ": the length lies along 0 and 180 degrees, 0 at the lower left; the width along 90 and 270 degrees, 90 at the "
+    "lower "
+    "right; the height upright.",
+    "New row",
+    "Rows are vertical angles, columns are horizontal angles",
+    "The line is too long: more than ",
     "No data or error -1",
     "Data received but not used",
     "Updated data received and used",

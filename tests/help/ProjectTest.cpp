@@ -78,7 +78,7 @@ TEST(HelpProject, givesEachPageItsTopicById)
 TEST(HelpProject, isNamedAndBeginsWithTheFirstPage)
 {
     const auto options = projectSections()["[OPTIONS]"];
-    EXPECT_TRUE(contains(options, "Title=New Photometric File"));
+    EXPECT_TRUE(contains(options, "Title=New Photometric File - Help"));
     EXPECT_TRUE(contains(options, "Default topic=lamp.html"));
     EXPECT_TRUE(contains(options, "Contents file=" + kContents));
 }

@@ -227,7 +227,7 @@ private:
 
 int main(int count, char **arguments)
 {
-    const Display display;
+    const penwright::Display display;
     if (!display.isUsable())
         return 1;
     QApplication application(count, arguments);
