@@ -16,7 +16,7 @@ const std::vector<std::string> kCaptions{
     "New Photometric file: (6 of 6) Complete!",
 };
 
-constexpr const char *kHelpTitle = "New Photometric File";
+constexpr const char *kHelpTitle = "New Photometric File - Help";
 
 /// What no page takes, so that it comes from the host alone.
 PhotometricRecord hostsRecord()
