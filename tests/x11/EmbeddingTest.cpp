@@ -107,6 +107,18 @@ TEST_F(Embedding, aShownWindowOfItsOwnCanBeEmbeddedAndMadeItsOwnAgain)
     EXPECT_TRUE(display.isViewable(id()));
 }
 
+TEST_F(Embedding, followsAChangeOfPalette)
+{
+    embedAndShow();
+    const QPalette before = QApplication::palette();
+    QPalette dark = before;
+    dark.setColor(QPalette::Window, QColor(30, 31, 32));
+    QApplication::setPalette(dark);
+    EXPECT_TRUE(spinUntil([this] { return first->palette().color(QPalette::Window) == QColor(30, 31, 32); }));
+    EXPECT_TRUE(spinUntil([this] { return window->grab().toImage().pixelColor(2, 2) == QColor(30, 31, 32); }));
+    QApplication::setPalette(before);
+}
+
 TEST_F(Embedding, raisedAboveItsSiblings)
 {
     embedAndShow();

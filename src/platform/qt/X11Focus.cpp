@@ -74,6 +74,9 @@ bool X11Focus::eventFilter(QObject *object, QEvent *event)
 {
     if (!m_host || !m_window)
         return false;
+    // The toolkit tells its top-level windows, and a window in another one is none for it.
+    if (object == qApp && event->type() == QEvent::ApplicationPaletteChange)
+        QCoreApplication::sendEvent(m_window->windowHandle(), event);
     if (object == m_window || object == m_window->windowHandle())
         onOwnWindow(event->type());
     else if (object->isWidgetType() && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
