@@ -123,6 +123,41 @@ TEST_F(HelpWindowTest, searchScrollsToTheFirstHit)
     EXPECT_TRUE(page().viewport()->rect().intersects(page().cursorRect(page().extraSelections()[0].cursor)));
 }
 
+TEST_F(HelpWindowTest, nextHitComesByKeyInTheUpperThirdAndAroundTheEnd)
+{
+    std::string lines;
+    for (int i = 0; i < 200; ++i)
+        lines += "<p>line</p>";
+    open(helpOf({{"/a.html", samplePage("A", lines + "<p>old needle</p>" + lines + "<p>new needle</p>" + lines)}}),
+         {"a.html", ""});
+    press(Qt::Key_F, Qt::ControlModifier);
+    type("needle");
+    press(Qt::Key_Return);
+    ASSERT_EQ(page().extraSelections().size(), 2);
+    for (const char *expected : {"old needle", "new needle", "old needle"}) {
+        QTextCursor line = page().textCursor();
+        line.select(QTextCursor::LineUnderCursor);
+        EXPECT_EQ(line.selectedText().toStdString(), expected);
+        EXPECT_NEAR(page().cursorRect().top(), page().viewport()->height() / 3, 2);
+        press(Qt::Key_F3);
+    }
+}
+
+TEST_F(HelpWindowTest, placeOfTheWholePhraseComesFirst)
+{
+    std::string lines;
+    for (int i = 0; i < 200; ++i)
+        lines += "<p>line of circles</p>";
+    open(helpOf({{"/a.html", samplePage("A", "<p>vertical extent</p>" + lines + "<p>Vertical Circle</p>" + lines)}}),
+         {"a.html", ""});
+    press(Qt::Key_F, Qt::ControlModifier);
+    type("vertical circle");
+    press(Qt::Key_Return);
+    QTextCursor line = page().textCursor();
+    line.select(QTextCursor::LineUnderCursor);
+    EXPECT_EQ(line.selectedText().toStdString(), "Vertical Circle");
+}
+
 TEST_F(HelpWindowTest, searchWithoutAHitSaysSoAndAnEmptyOneHidesTheList)
 {
     openSample();

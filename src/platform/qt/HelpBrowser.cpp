@@ -3,6 +3,7 @@
 #include <QBuffer>
 #include <QImageReader>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QWheelEvent>
 #include <utility>
 
@@ -132,11 +133,36 @@ void HelpBrowser::markWords(const QStringList &words)
                 first = hit;
         }
     setExtraSelections(marks);
+    if (const QTextCursor phrase = document()->find(words.join(' ')); !words.isEmpty() && !phrase.isNull())
+        first = phrase;
+    if (!first.isNull())
+        scrollToMark(first);
+}
+
+bool HelpBrowser::showNextMark()
+{
+    QTextCursor next;
+    QTextCursor first;
+    for (const ExtraSelection &mark : extraSelections()) {
+        const int start = mark.cursor.selectionStart();
+        if (start > textCursor().position() && (next.isNull() || start < next.selectionStart()))
+            next = mark.cursor;
+        if (first.isNull() || start < first.selectionStart())
+            first = mark.cursor;
+    }
     if (first.isNull())
-        return;
-    first.clearSelection();
-    setTextCursor(first);
-    ensureCursorVisible();
+        return false;
+    scrollToMark(next.isNull() ? first : next);
+    return true;
+}
+
+// In the upper third, so that what the words are about can be read below them.
+void HelpBrowser::scrollToMark(const QTextCursor &mark)
+{
+    QTextCursor place = mark;
+    place.setPosition(mark.selectionStart());
+    setTextCursor(place);
+    verticalScrollBar()->setValue(verticalScrollBar()->value() + cursorRect().top() - viewport()->height() / 3);
 }
 
 void HelpBrowser::zoomBy(int steps)

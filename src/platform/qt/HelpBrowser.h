@@ -23,8 +23,12 @@ public:
     /// The page shown; its topic is empty when none is.
     const HelpPlace &place() const { return m_place; }
 
-    /// Marks all places where one of the words stands and scrolls to the first; no words clear the marks.
+    /// Marks all places where one of the words stands and scrolls to the first place of all of them in a row, else to
+    /// the first mark; no words clear the marks.
     void markWords(const QStringList &words);
+
+    /// Scrolls to the mark behind the one reached last, from the last one on to the first. False without marks.
+    bool showNextMark();
 
     /// Makes letters larger or smaller by so many steps, within bounds.
     void zoomBy(int steps);
@@ -40,6 +44,7 @@ protected:
     void wheelEvent(QWheelEvent *event) override;
 
 private:
+    void scrollToMark(const QTextCursor &mark);
     void onSource(const QUrl &url);
     void follow(const QUrl &url);
     std::optional<HelpPlace> placeOf(const QUrl &url) const;

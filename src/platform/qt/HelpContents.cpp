@@ -36,7 +36,6 @@ void HelpContents::setEntries(const std::vector<HelpEntry> &entries)
         item->setData(0, kAnchorRole, QString::fromStdString(entry.place->anchor));
         m_places.emplace_back(*entry.place, item);
     }
-    expandToDepth(0);
 }
 
 void HelpContents::setPlace(const HelpPlace &place)
@@ -54,8 +53,10 @@ void HelpContents::setPlace(const HelpPlace &place)
     // Of several lines for one page the one that the reader has come by stays.
     if (!item || !currentItem() || currentItem()->data(0, kTopicRole) != item->data(0, kTopicRole) || ofPlace)
         setCurrentItem(item);
-    if (item)
+    if (item) {
+        item->setExpanded(true);
         scrollToItem(item);
+    }
 }
 
 void HelpContents::askFor(const QTreeWidgetItem *item)

@@ -130,7 +130,7 @@ QWidget *HelpWindow::makeBar()
     m_txtSearch->setObjectName("txtSearch");
     m_txtSearch->setClearButtonEnabled(true);
     m_txtSearch->setMinimumWidth(220);
-    m_txtSearch->setToolTip("Words that a page must hold (F3)");
+    m_txtSearch->setToolTip("Words that a page must hold (Ctrl+F). F3 goes to the next place where one stands");
     row->addWidget(makeLabel("Search", m_txtSearch));
     row->addWidget(m_txtSearch);
     return bar;
@@ -202,11 +202,15 @@ void HelpWindow::connectAll()
     connect(m_lstFound, &QListWidget::itemClicked, this, &HelpWindow::showFound);
     connect(m_lstFound, &QListWidget::itemActivated, m_wbrTopic, [this] { m_wbrTopic->setFocus(); });
 
-    for (const char *key : {"F3", "Ctrl+F"})
-        addKey(QKeySequence(key), [this] {
-            m_txtSearch->setFocus(Qt::ShortcutFocusReason);
-            m_txtSearch->selectAll();
-        });
+    const auto goToSearch = [this] {
+        m_txtSearch->setFocus(Qt::ShortcutFocusReason);
+        m_txtSearch->selectAll();
+    };
+    addKey(QKeySequence("Ctrl+F"), goToSearch);
+    addKey(QKeySequence("F3"), [this, goToSearch] {
+        if (!m_wbrTopic->showNextMark())
+            goToSearch();
+    });
     addKey(QKeySequence("F6"), [this] { focusNextPane(); });
     for (const char *key : {"Ctrl++", "Ctrl+="})
         addKey(QKeySequence(key), [this] { m_wbrTopic->zoomBy(1); });
