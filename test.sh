@@ -12,5 +12,5 @@ for preset in ${1:-test test-clang release}; do
     echo "== $preset"
     configure "$preset" >/dev/null
     cmake --build --preset "$preset" -- --quiet
-    ctest --preset "$preset" -j "$((2 * $(nproc)))"  # most of them wait most of the time
+    ctest --preset "$preset" -j "$(($(nproc) + 1))"  # most of them wait most of the time
 done

@@ -64,7 +64,10 @@ void X11Focus::take()
         return;
     const auto self = static_cast<x11::WindowId>(m_window->winId());
     m_takeWhenExposed = !x11::isViewable(self);
-    x11::focus(self);
+    // Taken again it would count as taken later than a key that is on its way, and what that key opens would not get
+    // it.
+    if (x11::focused() != self)
+        x11::focus(self);
     // Where the X focus never left the wizard, the display reports nothing that would tell the toolkit so.
     if (!m_takeWhenExposed)
         m_window->activateWindow();
