@@ -8,6 +8,9 @@
 
 namespace penwright {
 
+/// The error of a help file or page that is not there.
+inline constexpr int kHelpNotFound = 53;
+
 /// A page of a help file by its name, as "folder/page.html", and a place in it; the anchor may be empty.
 struct HelpPlace {
     std::string topic;

@@ -2,8 +2,10 @@
 
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTabWidget>
 
+#include "hostbench/LogPanel.h"
 #include "hostbench/SampleLuminaire.h"
 
 namespace penwright::test {
@@ -48,6 +50,20 @@ TEST_F(HostLayoutTest, inANarrowWindowAToolGetsTheRoomOfTheFiles)
     EXPECT_FALSE(isShown());
     m_window->resize(1240, 860);
     EXPECT_TRUE(isShown());
+}
+
+TEST_F(HostLayoutTest, theLogUnfoldsAtItsNewestLine)
+{
+    auto *log = m_window->findChild<QTreeWidget *>("linkLog");
+    auto *panel = m_window->findChild<LogPanel *>();
+    panel->setFolded(true);
+    for (int i = 0; i < 200; ++i)
+        panel->append("Tool 1", ToolRun::Line::Note, QString::number(i));
+    panel->setFolded(false);
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return log->verticalScrollBar()->maximum() > 0 &&
+               log->verticalScrollBar()->value() == log->verticalScrollBar()->maximum();
+    }));
 }
 
 TEST_F(HostLayoutTest, theLogFoldsAwayAndShowsItsNewestLine)

@@ -14,7 +14,8 @@ class TempFolder {
 public:
     TempFolder()
     {
-        std::string pattern = (std::filesystem::temp_directory_path() / "penwright-XXXXXX").string();
+        std::string pattern = (std::filesystem::temp_directory_path() / "penwright-").string();
+        pattern.append(6, 'X');  // which mkdtemp replaces
         if (!mkdtemp(pattern.data()))
             throw std::runtime_error("cannot make a folder like " + pattern);
         m_path = pattern;

@@ -5,17 +5,7 @@ namespace {
 
 class EndedGrid : public GridTest {};
 
-class Grid : public GridTest {
-protected:
-    void SetUp() override
-    {
-        for (int row = 0; row < 3; ++row)
-            for (int column = 0; column < 2; ++column)
-                table.cells[row][column] = cellName(row + 1, column);
-        show(table);
-    }
-    TextTable table{3, 2};
-};
+using Grid = FilledGrid;
 
 TEST_F(Grid, showsTheSourceWithCaptionsAndRowNumbers)
 {
@@ -37,39 +27,6 @@ TEST_F(Grid, typingReplacesTheTextAndEnterMovesDown)
     EXPECT_EQ(taken, "A1 ");
     EXPECT_EQ(current(), "A2");
     EXPECT_EQ(focus(), "cell");
-}
-
-TEST_F(Grid, editorOfANarrowCellIsAsWideAsItsText)
-{
-    grid->setColumnWidth(0, 40);
-    grid->setColumnWidth(1, 40);
-    for (const int column : {0, 1}) {
-        grid->goTo(1, column);
-        const QRect cell = grid->visualRect(grid->model()->index(0, column));
-        type("1");
-        auto *editor = qobject_cast<QLineEdit *>(QApplication::focusWidget());
-        ASSERT_NE(editor, nullptr);
-        EXPECT_EQ(editor->geometry(), cell);
-        type("234567.125");
-        EXPECT_EQ(editor->geometry().topLeft(), cell.topLeft());
-        EXPECT_GT(editor->width(), editor->fontMetrics().horizontalAdvance("1234567.125"));
-        grid->resize(grid->width() + 20, grid->height());
-        QCoreApplication::processEvents();
-        EXPECT_GT(editor->width(), editor->fontMetrics().horizontalAdvance("1234567.125"));
-        editor->setText("1");
-        EXPECT_EQ(editor->geometry(), cell);
-        press(Qt::Key_Escape);
-    }
-}
-
-TEST_F(Grid, editorStaysInsideTheGrid)
-{
-    grid->setColumnWidth(0, grid->viewport()->width() - 40);
-    grid->setColumnWidth(1, 40);
-    grid->goTo(1, 1);
-    type(std::string(400, '8').c_str());
-    EXPECT_EQ(QApplication::focusWidget()->x(), 0);
-    EXPECT_EQ(QApplication::focusWidget()->width(), grid->viewport()->width());
 }
 
 TEST_F(Grid, enterStaysOnTheLastRow)
@@ -152,19 +109,6 @@ TEST_F(Grid, escapeGivesTheOldTextBackAndOnlyThenReachesTheWindow)
     EXPECT_EQ(taken, "");
     press(Qt::Key_Escape);
     EXPECT_EQ(escapes.count, 1);
-}
-
-TEST_F(Grid, unchangedTextIsNoNewValue)
-{
-    for (const auto end : {Qt::Key_Return, Qt::Key_Up, Qt::Key_Tab}) {
-        press(Qt::Key_F2);
-        press(end);
-        grid->goTo(1, 0);
-    }
-    EXPECT_EQ(taken, "");
-    type("A1");  // reads the same, but has been typed
-    press(Qt::Key_Return);
-    EXPECT_EQ(taken, "A1 ");
 }
 
 TEST_F(Grid, tabWalksAlongTheRowsAndLeavesAtBothEnds)
@@ -257,90 +201,6 @@ TEST_F(Grid, deleteClearsTheSelectedCells)
     press(Qt::Key_Delete);
     EXPECT_EQ(table.all(), "| / | / A3|B3");
     EXPECT_EQ(taken, "A1 B1 A2 B2 ");
-}
-
-TEST_F(Grid, clickElsewhereCommits)
-{
-    type("5");
-    clickCell(3, 1);
-    EXPECT_EQ(table.cells[0][0], "5");
-    EXPECT_EQ(current(), "B3");
-    EXPECT_EQ(focus(), "cell");
-    type("6");
-    QTest::mouseClick(before, Qt::LeftButton);
-    EXPECT_EQ(table.cells[2][1], "6");
-    EXPECT_EQ(focus(), "before");
-}
-
-TEST_F(Grid, clickOnAHeaderCommits)
-{
-    type("5");
-    QHeaderView *header = grid->verticalHeader();
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(5, header->sectionViewportPosition(2) + 5));
-    EXPECT_EQ(table.cells[0][0], "5");
-    EXPECT_FALSE(grid->isEditing());
-}
-
-TEST_F(Grid, anotherWindowLeavesTheEditorOpen)
-{
-    type("5");
-    QLineEdit other;
-    other.setFocus();
-    other.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&other));
-    QApplication::setActiveWindow(&other);
-    ASSERT_TRUE(other.hasFocus());
-    EXPECT_TRUE(grid->isEditing());
-    QApplication::setActiveWindow(&window);
-    EXPECT_EQ(focus(), "editor");
-    type("6");
-    press(Qt::Key_Return);
-    EXPECT_EQ(table.cells[0][0], "56");
-}
-
-TEST_F(Grid, menuOfTheEditorLeavesItOpen)
-{
-    type("5");
-    const QPointer<QWidget> editor = QApplication::focusWidget();
-    QMenu menu(editor);
-    menu.addAction("Paste");
-    menu.popup(QPoint(10, 10));
-    EXPECT_TRUE(grid->isEditing());
-    menu.close();
-    EXPECT_EQ(QApplication::focusWidget(), editor);
-    EXPECT_EQ(table.cells[0][0], "A1");
-}
-
-TEST_F(Grid, hidingThePageDropsTheEdit)
-{
-    type("x5");
-    grid->hide();
-    settle();
-    EXPECT_FALSE(grid->isEditing());
-    EXPECT_EQ(table.cells[0][0], "A1");
-    EXPECT_EQ(dialogs.transcript, "");
-}
-
-TEST_F(Grid, hidingTheWholeWindowKeepsTheEdit)
-{
-    type("5");
-    window.hide();
-    settle();
-    EXPECT_EQ(table.cells[0][0], "A1");
-    window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    ASSERT_TRUE(grid->isEditing());
-    grid->commitEdit();
-    EXPECT_EQ(table.cells[0][0], "5");
-}
-
-TEST_F(Grid, droppedEditIsLost)
-{
-    type("5");
-    grid->dropEdit();
-    EXPECT_EQ(focus(), "cell");
-    EXPECT_TRUE(grid->commitEdit());
-    EXPECT_EQ(table.cells[0][0], "A1");
 }
 
 TEST_F(Grid, refreshReadsAnewAndKeepsTheCellThatIsStillThere)

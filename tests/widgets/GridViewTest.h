@@ -144,4 +144,17 @@ protected:
     std::string visited;
 };
 
+/// A grid of three rows and two columns, each cell holding its name.
+class FilledGrid : public GridTest {
+protected:
+    void SetUp() override
+    {
+        for (int row = 0; row < 3; ++row)
+            for (int column = 0; column < 2; ++column)
+                table.cells[row][column] = cellName(row + 1, column);
+        show(table);
+    }
+    TextTable table{3, 2};
+};
+
 }  // namespace penwright::test

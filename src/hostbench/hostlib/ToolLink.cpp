@@ -8,7 +8,7 @@ namespace penwright {
 
 namespace {
 
-constexpr std::string_view kApplication = "Lumentor_PE";
+const std::string kApplication = StartupState().SettingsApp;
 constexpr std::string_view kMoveWord = "MOVEWIN,";
 
 bool isMove(std::string_view command)

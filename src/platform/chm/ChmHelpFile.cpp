@@ -23,7 +23,6 @@ namespace {
 using namespace chm;
 namespace fs = std::filesystem;
 
-constexpr int kFileNotFound = 53;
 constexpr int kDeviceError = 57;
 constexpr int kFileAccessError = 75;
 
@@ -38,7 +37,7 @@ std::string bytesOf(const std::string &path)
     std::error_code error;
     const fs::file_status status = fs::status(path, error);
     if (status.type() == fs::file_type::not_found)
-        throw RunTimeError(kFileNotFound, "The help file is missing: " + path);
+        throw RunTimeError(kHelpNotFound, "The help file is missing: " + path);
     if (error)
         throw unreadable(path, error.message());
     if (!fs::is_regular_file(status))
@@ -107,7 +106,7 @@ public:
             throw RunTimeError(kDeviceError, "A page of the help file cannot be read: " + topic + " in " + m_path +
                                                  ": " + error.what() + ".");
         }
-        throw RunTimeError(kFileNotFound, "The help file lacks a page: " + topic + " in " + m_path);
+        throw RunTimeError(kHelpNotFound, "The help file lacks a page: " + topic + " in " + m_path);
     }
 
     std::optional<std::string> object(const std::string &link) override { return readable(placeOfLink(link).topic); }

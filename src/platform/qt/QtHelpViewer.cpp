@@ -8,12 +8,6 @@
 #include "platform/RunTimeError.h"
 
 namespace penwright {
-namespace {
-
-constexpr int kFileNotFound = 53;
-
-}  // namespace
-
 QtHelpViewer::QtHelpViewer(Dialogs &dialogs, Closing &closing, HelpFileOpener open)
     : m_dialogs(dialogs), m_closing(closing), m_open(std::move(open))
 {
@@ -53,7 +47,7 @@ void QtHelpViewer::show(const std::string &path, int contextId)
     HelpFile &file = isOpen ? *m_window->file() : *opened;
     const auto place = file.topicFor(contextId);
     if (!place)
-        throw RunTimeError(kFileNotFound,
+        throw RunTimeError(kHelpNotFound,
                            "The help file has no page for the number " + std::to_string(contextId) + ": " + path);
     file.page(place->topic);  // raises what would keep it from being shown
     if (!m_window) {

@@ -27,10 +27,10 @@ private:
     std::map<x11::WindowId, std::unique_ptr<QWindow>> m_windows;
 };
 
-/// Keyboard focus and stacking of a window that is embedded in another process's. For such a window the toolkit only
-/// believes that it is active: the X focus is moved here, on a mouse press, when the window is shown, when a dialog or
-/// the help window ends, and when the host's window gets the focus back from another program that got it from the
-/// wizard. Dialogs get the host's top-level window as their transient parent, so that they stay above it.
+/// Keyboard focus, stacking and palette of a window that is embedded in another process's. For such a window the
+/// toolkit only believes that it is active: the X focus is moved here, on a mouse press, when the window is shown, when
+/// a dialog or the help window ends, and when the host's window gets the focus back from another program that got it
+/// from the wizard. Dialogs get the host's top-level window as their transient parent, so that they stay above it.
 class X11Focus : public QObject, public QAbstractNativeEventFilter {
 public:
     X11Focus(QWidget &window, ForeignWindows &foreign);
