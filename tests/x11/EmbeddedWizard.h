@@ -96,12 +96,18 @@ protected:
 
     void SetUp() override
     {
-        const auto isReady = [this] {
-            return display.isViewable(host.window()) &&
-                   (!hasManager() || display.parentOf(host.topWindow()) != display.root());
-        };
-        ASSERT_TRUE(spinUntil(isReady));
+        waitUntilShown(host);
         movePointerAway();
+    }
+
+    /// Waits until the window is on the screen and the window manager, when there is one, has taken it over.
+    void waitUntilShown(const HostProcess &process)
+    {
+        const auto isShown = [&] {
+            return display.isViewable(process.window()) &&
+                   (!hasManager() || display.parentOf(process.topWindow()) != display.root());
+        };
+        ASSERT_TRUE(spinUntil(isShown));
     }
 
     void embed()

@@ -24,6 +24,20 @@ protected:
         host.obey("takefocus");
         ASSERT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
     }
+
+    /// As the help window is: of this program, a top-level window of its own, and at work.
+    void openAnotherWindow()
+    {
+        another.resize(300, 200);
+        another.move(900, 600);
+        another.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&another));
+        another.activateWindow();
+        x11::focus(static_cast<std::uint32_t>(another.winId()));
+        ASSERT_TRUE(spinUntil([this] { return another.isActiveWindow() && display.focus() == another.winId(); }));
+    }
+
+    QWidget another;
 };
 
 class NestedHost : public EmbeddedWizard {
@@ -124,6 +138,17 @@ TEST_F(Focus, isTakenBackFromAHostThatTakesItAsADialogEnds)
     ASSERT_EQ(display.focus(), host.topWindow());
     ASSERT_TRUE(spinUntil([this] { return display.focus() == id(); }));
     typeAndExpect(*first, "abc");
+}
+
+TEST_F(Focus, isTakenBackFromAHostThatTakesItAsAnotherWindowCloses)
+{
+    embedAndShow();
+    openAnotherWindow();
+    another.close();
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id() && window->isActiveWindow(); }));
+    host.obey("takefocus");
+    ASSERT_EQ(display.focus(), host.topWindow());
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
 }
 
 TEST_F(Focus, isLeftToAHostThatIsClickedAsADialogEnds)
@@ -310,15 +335,11 @@ TEST_F(WithManagerAndAnotherProgram, theFocusStaysWithAHostThatHadIt)
 TEST_F(Focus, comesBackWhenAnotherWindowOfTheProgramIsClosed)
 {
     embedAndShow();
-    QWidget help;
-    help.resize(300, 200);
-    help.move(900, 600);
-    help.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
-    help.activateWindow();
-    x11::focus(idOf(help));
-    ASSERT_TRUE(spinUntil([&] { return help.isActiveWindow() && display.focus() == idOf(help); }));
-    help.close();
+    openAnotherWindow();
+    another.close();
+    // A window manager hands the focus on as it lets go of the window; a key in between would go to the host.
+    ASSERT_TRUE(spinUntil([&] { return display.parentOf(idOf(another)) == display.root(); }));
+    settle();
     EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
     typeAndExpect(*first, "42");
 }

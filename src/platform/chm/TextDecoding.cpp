@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstdint>
 #include <iterator>
 
 namespace penwright::chm {
@@ -34,7 +35,7 @@ std::string converted(const std::string &bytes, const char *codePage)
 {
     std::string text;
     const iconv_t conversion = iconv_open("UTF-8", codePage);
-    const bool isKnown = conversion != reinterpret_cast<iconv_t>(-1);
+    const bool isKnown = reinterpret_cast<std::intptr_t>(conversion) != -1;
     std::string input = bytes;  // which the conversion asks for as if it wrote there
     char *from = input.data();
     for (std::size_t left = input.size(); left > 0;) {

@@ -106,7 +106,7 @@ void X11Focus::onOtherWindow(QWidget &other, QEvent::Type type)
     if (other.windowType() == Qt::Dialog)
         onDialog(other, type);
     else if (other.windowType() == Qt::Window && type == QEvent::Hide && other.windowHandle() == m_lastFocused)
-        QTimer::singleShot(0, this, &X11Focus::take);  // the help window, closed by its user
+        takeBack();  // the help window, closed by its user
 }
 
 void X11Focus::onDialog(QWidget &dialog, QEvent::Type type)
@@ -115,7 +115,12 @@ void X11Focus::onDialog(QWidget &dialog, QEvent::Type type)
         dialog.windowHandle()->setTransientParent(m_foreign.of(x11::topLevelOf(m_host)));
         return;
     }
-    m_contested.setRemainingTime(1s);
+    takeBack();
+}
+
+void X11Focus::takeBack()
+{
+    m_contested.setRemainingTime(2s);
     QTimer::singleShot(0, this, [this] {
         activateModal();
         take();
@@ -131,7 +136,7 @@ void X11Focus::onFocusWindow(QWindow *focused)
     // A click on the blocked wizard still makes the toolkit believe that the wizard is active.
     if (focused == m_window->windowHandle() && QApplication::activeModalWidget())
         QTimer::singleShot(0, this, activateModal);
-    // A window manager that notices late that a dialog is gone gives the focus to the host after it was taken here.
+    // A window manager that notices late that a window is gone gives the focus to the host after it was taken here.
     else if (m_host && !focused && !m_contested.hasExpired() && hasHostTakenIt())
         take();
 }

@@ -51,6 +51,7 @@ private:
     void onOwnWindow(QEvent::Type type);
     void onOtherWindow(QWidget &other, QEvent::Type type);
     void onDialog(QWidget &dialog, QEvent::Type type);
+    void takeBack();
     void onHostFocus(bool gets, int detail);
     void onFocusWindow(QWindow *focused);
     bool hasHostTakenIt() const;
@@ -62,7 +63,7 @@ private:
     bool m_heldIt = false;            ///< whether the wizard, not the host itself, had the focus last of the two
     QPointer<QWindow> m_lastFocused;  ///< of this program's windows
     bool m_takeWhenExposed = false;
-    QDeadlineTimer m_contested;  ///< until then a window manager may hand the focus of an ended dialog to the host
+    QDeadlineTimer m_contested;  ///< until then a window manager may hand the focus of a closed window to the host
 };
 
 }  // namespace penwright
