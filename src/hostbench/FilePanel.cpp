@@ -132,8 +132,30 @@ void FilePanel::saveSelected()
 void FilePanel::removeSelected()
 {
     const int place = selected();
+    const HeldFile &file = m_files.at(place);
+    const QString name = QString::fromStdString(file.record.Filename);
+    if (!file.isSaved && !confirms(tr("%1 is not saved. Remove it all the same?").arg(name), tr("Remove")))
+        return;
     m_files.remove(place);
     showFiles(std::min(place, m_files.count() - 1));
+}
+
+bool FilePanel::mayLoseFiles()
+{
+    const int count = m_files.unsavedCount();
+    if (count == 0)
+        return true;
+    const QString what = count == 1 ? tr("1 file is not saved.") : tr("%1 files are not saved.").arg(count);
+    return confirms(tr("%1 Close all the same?").arg(what), tr("Close Without Saving"));
+}
+
+bool FilePanel::confirms(const QString &question, const QString &loss)
+{
+    QMessageBox box(QMessageBox::Warning, window()->windowTitle(), question, QMessageBox::Cancel, this);
+    const QPushButton *confirmed = box.addButton(loss, QMessageBox::DestructiveRole);
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return box.clickedButton() == confirmed;
 }
 
 void FilePanel::showEvent(QShowEvent *event)

@@ -23,6 +23,9 @@ public:
     /// The place of the file selected, -1 for none.
     int selected() const;
 
+    /// Asks before files that are not saved are lost; true when there are none, or when the user means it.
+    bool mayLoseFiles();
+
 protected:
     /// Has the selected file in sight.
     void showEvent(QShowEvent *event) override;
@@ -33,6 +36,7 @@ signals:
 private:
     void saveSelected();
     void removeSelected();
+    bool confirms(const QString &question, const QString &loss);
     void enableButtons();
 
     HeldFiles &m_files;

@@ -11,6 +11,12 @@ bool HeldFiles::isFull() const
     return count() >= kMaxFiles;
 }
 
+int HeldFiles::unsavedCount() const
+{
+    return static_cast<int>(
+        std::count_if(m_files.begin(), m_files.end(), [](const HeldFile &file) { return !file.isSaved; }));
+}
+
 int HeldFiles::add(HeldFile file)
 {
     const auto same = std::find_if(m_files.begin(), m_files.end(), [&file](const HeldFile &held) {

@@ -18,6 +18,9 @@ public:
     int count() const { return static_cast<int>(m_files.size()); }
     bool isFull() const;
 
+    /// How many of them are nowhere but here.
+    int unsavedCount() const;
+
     const HeldFile &at(int place) const { return m_files.at(static_cast<std::size_t>(place)); }
 
     /// Adds a file and returns its place. A saved file takes the place of one of the same name, as it did on disk; an

@@ -221,6 +221,8 @@ void HostWindow::followPalette()
 
 void HostWindow::closeEvent(QCloseEvent *event)
 {
+    if (!m_isClosing && !m_panel->mayLoseFiles())
+        return event->ignore();
     if (m_tools.isEmpty())
         return QMainWindow::closeEvent(event);
     event->ignore();

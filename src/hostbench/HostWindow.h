@@ -16,7 +16,7 @@ class LogPanel;
 
 /// The stand-in host's window: the files it holds, text and picture of the one selected, a tab for each tool that runs,
 /// and the log of the link. Where there is little room, the tool shown gets that of the files. Closing it closes the
-/// tools first.
+/// tools first, and asks before that when files would be lost.
 class HostWindow : public QMainWindow {
     Q_OBJECT
 

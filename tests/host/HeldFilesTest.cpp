@@ -49,6 +49,18 @@ TEST(HeldFiles, aSavedFileIsReplacedEvenWhenTheListIsFull)
     EXPECT_EQ(files.add(file("7", true, 5)), 7);
 }
 
+TEST(HeldFiles, countsThoseThatAreNotSaved)
+{
+    HeldFiles files;
+    EXPECT_EQ(files.unsavedCount(), 0);
+    files.add(file("a", true));
+    files.add(file("new_file_1", false));
+    files.add(file("new_file_2", false));
+    EXPECT_EQ(files.unsavedCount(), 2);
+    files.setSaved(1, "b");
+    EXPECT_EQ(files.unsavedCount(), 1);
+}
+
 TEST(HeldFiles, savingGivesTheName)
 {
     HeldFiles files;

@@ -6,11 +6,13 @@
 
 #include <memory>
 #include <QApplication>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
 
+#include "support/DialogDriver.h"
 #include "support/TempFolder.h"
 
 /// Texts in failures are printed to be read.
@@ -57,6 +59,20 @@ protected:
     bool waitForNoTools() const
     {
         return QTest::qWaitFor([&] { return m_window->toolCount() == 0; }, 20'000);
+    }
+
+    /// Presses a button of the message box that comes next, and compares its text.
+    static void answer(const QString &question, const QString &button)
+    {
+        whenDialogIsUp([=](QDialog &dialog) {
+            auto &box = dynamic_cast<QMessageBox &>(dialog);
+            EXPECT_EQ(box.text(), question);
+            EXPECT_EQ(box.defaultButton(), box.button(QMessageBox::Cancel));
+            for (QAbstractButton *each : box.buttons()) {
+                if (each->text().remove('&') == button)
+                    QTest::mouseClick(each, Qt::LeftButton);
+            }
+        });
     }
 
     QPushButton *button(const char *name) const { return m_window->findChild<QPushButton *>(name); }

@@ -228,6 +228,39 @@ TEST_F(HostWindowTest, closingTheWindowClosesItsToolsFirst)
     EXPECT_EQ(logged().count("Ended with status 0"), 2);
 }
 
+TEST_F(HostWindowTest, filesThatAreNotSavedAreLostOnRequestOnly)
+{
+    m_window->addFile({sampleLuminaire(), true});
+    m_window->addFile({sampleLuminaire(), false});
+    answer("1 file is not saved. Close all the same?", "Cancel");
+    EXPECT_FALSE(m_window->close());
+    EXPECT_TRUE(m_window->isVisible());
+    m_window->startTool();
+    ASSERT_TRUE(waitNoted("START"));
+    m_window->addFile({sampleLuminaire(), false});
+    answer("2 files are not saved. Close all the same?", "Close Without Saving");
+    m_window->close();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !m_window->isVisible(); }, 20'000));
+    EXPECT_EQ(logged().count("Ended with status 0"), 1);
+}
+
+TEST_F(HostWindowTest, aFileThatIsNotSavedIsRemovedOnRequestOnly)
+{
+    m_window->addFile({sampleLuminaire(), true});
+    m_window->addFile({sampleLuminaire(), false});
+    const QString question =
+        QString::fromStdString(sampleLuminaire().Filename) + " is not saved. Remove it all the same?";
+    answer(question, "Cancel");
+    button("remove")->click();
+    EXPECT_EQ(m_window->files().count(), 2);
+    answer(question, "Remove");
+    button("remove")->click();
+    EXPECT_EQ(m_window->files().count(), 1);
+    button("remove")->click();
+    EXPECT_EQ(m_window->files().count(), 0);
+    EXPECT_TRUE(m_window->close());
+}
+
 TEST_F(HostWindowTest, aToolThatDoesNotCloseDoesNotKeepTheWindow)
 {
     behave("silence");

@@ -14,8 +14,8 @@
 
 #include "platform/qt/Closing.h"
 #include "platform/qt/QtDialogs.h"
+#include "support/DialogDriver.h"
 #include "support/TempFolder.h"
-#include "x11/DialogDriver.h"
 
 namespace penwright::test {
 namespace {

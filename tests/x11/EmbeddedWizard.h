@@ -17,7 +17,7 @@
 #include "platform/qt/Closing.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/X11Embedding.h"
-#include "x11/DialogDriver.h"
+#include "support/DialogDriver.h"
 #include "x11/DisplayQuery.h"
 #include "x11/HostProcess.h"
 

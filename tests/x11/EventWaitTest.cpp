@@ -13,7 +13,7 @@
 #include "platform/qt/Closing.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
-#include "x11/DialogDriver.h"
+#include "support/DialogDriver.h"
 
 namespace penwright::test {
 namespace {
