@@ -105,6 +105,37 @@ TEST_F(DistributionList, nextDigitReplacesTheOneOfARefusedText)
     EXPECT_EQ(columns(verticalGrid()), 9);
 }
 
+TEST_F(DistributionList, digitsTypedBehindALoneSignAreRefusedWithIt)
+{
+    for (const char *text : {"-4", "-12", "-.5"}) {
+        typeInto(vertical(), "5");
+        vertical()->lineEdit()->selectAll();
+        typeText(text);
+        EXPECT_EQ(vertical()->currentText(), "1") << text;
+        EXPECT_EQ(cells(verticalGrid()), " ") << text;
+        press(Qt::Key_Backspace);
+        typeText("7");
+        EXPECT_EQ(columns(verticalGrid()), 7) << text;
+    }
+}
+
+TEST_F(DistributionList, aRefusedSignIsForgottenOnceTheFieldIsLeftOrAnEntryPicked)
+{
+    typeInto(vertical(), "-");
+    typeInto(horizontal(), "3");
+    typeInto(vertical(), "6");
+    EXPECT_EQ(columns(verticalGrid()), 6);
+    typeInto(vertical(), "-");
+    pick(vertical(), "19, Downlight 0 to 90, 5 degree increments");
+    EXPECT_EQ(columns(verticalGrid()), 19);
+    typeInto(vertical(), "-");
+    QTest::mouseDClick(vertical()->lineEdit(), Qt::LeftButton, {}, QPoint(5, 5));
+    QTest::mouseRelease(vertical()->lineEdit(), Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_EQ(vertical()->lineEdit()->selectedText(), "1");
+    typeText("8");
+    EXPECT_EQ(columns(verticalGrid()), 8);
+}
+
 TEST_F(DistributionList, emptiedTextBecomesOne)
 {
     typeInto(vertical(), "5");

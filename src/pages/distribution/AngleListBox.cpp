@@ -12,23 +12,36 @@
 #include "wizard/OneLine.h"
 
 namespace penwright {
-namespace {
 
 /// Selects its whole text at the click that brings the focus, and at any click on the prompt: what is typed into the
 /// middle of either would not be understood. A part can still be selected by dragging, or after a second click.
-class AngleEdit : public QLineEdit {
+class AngleListBox::Edit : public QLineEdit {
 public:
-    AngleEdit() { setValidator(new OneLine(this)); }
+    Edit() { setValidator(new OneLine(this)); }
+
+    QString signBefore() const { return m_followsSign ? kSign : ""; }
+    void keepSign() { m_followsSign = m_followsSign || text() == kSign; }
+    void forgetSign() { m_followsSign = false; }
 
 protected:
     void focusInEvent(QFocusEvent *event) override
     {
         QLineEdit::focusInEvent(event);
+        forgetSign();
         m_isFirstClick = event->reason() == Qt::MouseFocusReason;
+    }
+
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        const QString typed = event->text();
+        if (selectedText() != text() || typed.size() != 1 || !(typed[0].isDigit() || typed[0] == '.'))
+            forgetSign();
+        QLineEdit::keyPressEvent(event);
     }
 
     void mouseReleaseEvent(QMouseEvent *event) override
     {
+        forgetSign();
         QLineEdit::mouseReleaseEvent(event);
         const bool isFirst = std::exchange(m_isFirstClick, false);
         if (event->button() == Qt::LeftButton && !hasSelectedText() && (isFirst || text() == fromView(kAnglePrompt)))
@@ -36,16 +49,17 @@ protected:
     }
 
 private:
+    static constexpr const char *kSign = "-";
+
     bool m_isFirstClick = false;
+    bool m_followsSign = false;
 };
 
-}  // namespace
-
-AngleListBox::AngleListBox(QWidget *parent) : DropDownList(parent)
+AngleListBox::AngleListBox(QWidget *parent) : DropDownList(parent), m_edit(new Edit)
 {
     constexpr int kMostEntries = 12;
     setMaxVisibleItems(kMostEntries);
-    setLineEdit(new AngleEdit);
+    setLineEdit(m_edit);
     setCompleter(nullptr);  // it would complete in the text and select what it added, and a selected part counts
     setInsertPolicy(NoInsert);
     // Enter, and leaving the field, would pick the entry that equals the text.
@@ -68,15 +82,16 @@ void AngleListBox::offer(std::span<const std::string_view> entries)
 
 std::string AngleListBox::chosenText() const
 {
-    const QLineEdit &edit = *lineEdit();
-    return (edit.hasSelectedText() ? edit.selectedText() : edit.text()).toStdString();
+    const QLineEdit &edit = *m_edit;
+    return (edit.hasSelectedText() ? edit.selectedText() : m_edit->signBefore() + edit.text()).toStdString();
 }
 
 void AngleListBox::replaceText(const QString &text)
 {
     const QSignalBlocker blocker(this);
-    lineEdit()->setText(text);
-    lineEdit()->selectAll();
+    m_edit->keepSign();
+    m_edit->setText(text);
+    m_edit->selectAll();
 }
 
 void AngleListBox::showPopup()
@@ -90,6 +105,7 @@ void AngleListBox::showPopup()
 
 void AngleListBox::tellPick()
 {
+    m_edit->forgetSign();
     // The open list has taken the selection away.
     if (const Selection before = std::exchange(m_selection, {}); before.length > 0 && before.text == lineEdit()->text())
         lineEdit()->setSelection(before.start, before.length);

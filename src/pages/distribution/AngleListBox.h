@@ -21,7 +21,8 @@ public:
     /// Replaces the entries and shows the prompt, selected, so that typing replaces it. Tells no change.
     void offer(std::span<const std::string_view> entries);
 
-    /// The selected part of the text, the whole text when none is selected.
+    /// The selected part of the text, the whole text when none is selected. Digits typed right behind a lone minus sign
+    /// come with it, although it was refused and is not shown: "-4" is no count.
     std::string chosenText() const;
 
     /// Shows a text, selected, so that typing replaces it. Tells no change.
@@ -46,8 +47,11 @@ private:
         int length;
     };
 
+    class Edit;
+
     void tellPick();
 
+    Edit *m_edit;
     Selection m_selection{};
 };
 
