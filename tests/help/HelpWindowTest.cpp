@@ -203,6 +203,22 @@ TEST_F(HelpWindowTest, keysWalkThroughThePanes)
     EXPECT_EQ(focusName(), "tvwContents");
 }
 
+TEST_F(HelpWindowTest, thePaneWithTheFocusIsFramed)
+{
+    openSample();
+    const QColor highlight = window.palette().color(QPalette::Highlight);
+    for (int i = 0; i < 4; ++i) {
+        std::string framed;
+        for (const char *name : {"tvwContents", "wbrTopic"}) {
+            const QImage picture = find(name)->grab().toImage();
+            if (picture.pixelColor(picture.width() / 2, 0) == highlight)
+                framed += name;
+        }
+        EXPECT_EQ(framed, focusName() == "txtSearch" ? "" : focusName());
+        press(Qt::Key_F6);
+    }
+}
+
 TEST_F(HelpWindowTest, tabLeavesThePageBehindItsLastLink)
 {
     openSample();

@@ -25,6 +25,12 @@ constexpr int kSideWidth = 290;
 constexpr int kGap = 10;
 constexpr int kMostFound = 200;
 
+/// Shows which pane has the focus; the toolkit's frames look the same with it and without.
+constexpr const char *kFrames =
+    "QTreeWidget, QListWidget, QTextBrowser { border: 1px solid palette(mid); }"
+    "QTreeWidget:focus, QListWidget:focus, QTextBrowser:focus"
+    "{ border: 1px solid palette(highlight); }";
+
 /// Lines that are told apart at arm's length.
 class RoomyLines : public QStyledItemDelegate {
 public:
@@ -82,6 +88,7 @@ HelpWindow::HelpWindow()
 {
     setObjectName("frmHelp");
     setAttribute(Qt::WA_QuitOnClose, false);
+    setStyleSheet(kFrames);
     makeLayout();
     connectAll();
     resize(kPreferredSize.boundedTo(screen()->availableSize() * 9 / 10));
