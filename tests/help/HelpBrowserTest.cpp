@@ -1,10 +1,12 @@
 // What a page shows comes from the help file alone.
 #include "platform/qt/HelpBrowser.h"
 
+#include <map>
 #include <QBuffer>
 #include <QDir>
 #include <QSignalSpy>
 #include <QTextBlock>
+#include <QTextLayout>
 #include <QWheelEvent>
 
 #include "help/HelpTest.h"
@@ -179,6 +181,28 @@ TEST_F(Browser, followsLinksWithinTheFileAlone)
         EXPECT_EQ(browser.place().topic, row.topic) << row.link;
         EXPECT_EQ(web.count(), row.webLinks) << row.link;
     }
+}
+
+TEST_F(Browser, everythingInTheHelpGrowsWithTheZoom)
+{
+    show({{"/style.css", contentOf(HELP_FOLDER "/style.css")},
+          {"/a.html",
+           "<html><head><link rel=stylesheet href=style.css></head><body><h1>a</h1><h3>b</h3><p>c</p>"
+           "<ul><li>d</li></ul><dl><dt>e</dt><dd>f</dd></dl><p><code>g</code></p><pre>h</pre>"
+           "<table><tr><th>i</th><td>j</td></tr></table></body></html>"}},
+         "a.html");
+    const auto heights = [this] {
+        std::map<std::string, double> found;
+        for (QTextBlock block = browser.document()->begin(); block.isValid(); block = block.next())
+            if (!block.text().isEmpty())
+                found[block.text().toStdString()] = block.layout()->lineAt(0).height();
+        return found;
+    };
+    const auto before = heights();
+    EXPECT_EQ(before.size(), 10);
+    browser.zoomBy(6);
+    for (const auto &[text, height] : heights())
+        EXPECT_GT(height, before.at(text) * 1.25) << text;
 }
 
 TEST_F(Browser, zoomsWithinBounds)

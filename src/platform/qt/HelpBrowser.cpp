@@ -18,6 +18,7 @@ constexpr qint64 kMostPixels = qint64(64) << 20;  ///< of all pictures of a page
 constexpr int kMostMarks = 1000;
 constexpr int kSmallestZoom = -4;
 constexpr int kLargestZoom = 20;
+constexpr double kTextSize = 12;  ///< points, of what a page gives no size
 
 constexpr const char *kScheme = "help";
 
@@ -87,7 +88,7 @@ HelpBrowser::HelpBrowser(QWidget *parent) : QTextBrowser(parent)
     setUndoRedoEnabled(false);
     setPalette(lightPalette());
     QFont larger = font();
-    larger.setPointSizeF(std::max(11.0, larger.pointSizeF() * 1.15));
+    larger.setPointSizeF(std::max(kTextSize, larger.pointSizeF() * 1.15));
     setFont(larger);
     document()->setDocumentMargin(20);
     connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::onSource);
