@@ -82,7 +82,8 @@ INSTANTIATE_TEST_SUITE_P(
         BoxCase{kCritical, QMessageBox::Critical, "OK ", Qt::Key_Escape, Answer::Ok},
         BoxCase{kOkCancel + kExclamation, QMessageBox::Warning, "OK Cancel ", Qt::Key_Return, Answer::Ok},
         BoxCase{kOkCancel + kExclamation, QMessageBox::Warning, "OK Cancel ", Qt::Key_Escape, Answer::Cancel},
-        BoxCase{kYesNo + kExclamation, QMessageBox::Warning, "Yes No ", Qt::Key_Return, Answer::Yes},
+        BoxCase{kYesNo + kExclamation, QMessageBox::Warning, "Yes No ", Qt::Key_Return, Answer::No},
+        BoxCase{kYesNo + kExclamation, QMessageBox::Warning, "Yes No ", Qt::Key_Y, Answer::Yes},
         BoxCase{kYesNo + kExclamation, QMessageBox::Warning, "Yes No ", Qt::Key_Escape, Answer::No},
         BoxCase{kInformation + kSystemModal, QMessageBox::Information, "OK ", Qt::Key_Return, Answer::Ok},
         BoxCase{kInformation + kCritical + kSystemModal, QMessageBox::Information, "OK ", Qt::Key_Return, Answer::Ok}));
@@ -98,6 +99,16 @@ TEST_F(Box, textAndTitleStandAsTheyAre)
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
     EXPECT_EQ(dialogs.show(asked), Answer::Ok);
+}
+
+TEST_F(Box, isWideEnoughForItsTitle)
+{
+    const std::string title = "Error saving rooms/pendant.ies";
+    whenDialogIsUp([&](QDialog &dialog) {
+        EXPECT_GT(dialog.width(), dialog.fontMetrics().horizontalAdvance(QString::fromStdString(title)) + 100);
+        dialog.reject();
+    });
+    dialogs.show({.text = "No", .title = title});
 }
 
 TEST_F(Box, aClosedWindowAnswersAsEscapeDoes)
@@ -189,6 +200,39 @@ TEST_F(SaveDialog, addsTheSuffixAndReturnsToTheFolderUsedLast)
     EXPECT_EQ(dialogs.chooseSaveName(question()), folder.file("lamp.ies"));
     whenDialogIsUp([](QDialog &dialog) { typeName(dialog, "other.IES"); });
     EXPECT_EQ(dialogs.chooseSaveName(question()), folder.file("other.IES"));
+}
+
+TEST_F(SaveDialog, addsTheSuffixBehindAPointThatBeginsNone)
+{
+    const std::pair<const char *, const char *> kNames[]{
+        {"RT5-3.5K", "RT5-3.5K.ies"}, {"a.b-c", "a.b-c.ies"}, {"plain.txt", "plain.txt"}, {"x.Ies", "x.Ies"}};
+    for (const auto &[typed, named] : kNames) {
+        const QString name = QString::fromStdString(folder.file(typed));
+        whenDialogIsUp([&name](QDialog &dialog) { typeName(dialog, name); });
+        EXPECT_EQ(dialogs.chooseSaveName(question()), folder.file(named));
+    }
+}
+
+TEST_F(SaveDialog, offersTheNameChosenLastSelected)
+{
+    const auto offered = [this] {
+        std::string name;
+        whenDialogIsUp([&](QDialog &dialog) {
+            const auto *line = dialog.findChild<QLineEdit *>("fileNameEdit");
+            name = line->text().toStdString();
+            EXPECT_EQ(line->selectedText(), line->text());
+            dialog.reject();
+        });
+        EXPECT_EQ(dialogs.chooseSaveName(question()), std::nullopt);
+        return name;
+    };
+    EXPECT_EQ(offered(), "");
+    whenDialogIsUp([this](QDialog &dialog) { typeName(dialog, QString::fromStdString(folder.file("lamp"))); });
+    dialogs.chooseSaveName(question());
+    EXPECT_EQ(offered(), "lamp.ies");
+    whenDialogIsUp([this](QDialog &dialog) { typeName(dialog, QString::fromStdString(folder.file("none/lamp.ies"))); });
+    dialogs.chooseSaveName(question());
+    EXPECT_EQ(offered(), folder.file("none/lamp.ies"));
 }
 
 TEST_F(SaveDialog, asksNothingBeforeReplacing)

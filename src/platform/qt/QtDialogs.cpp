@@ -5,8 +5,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 #include "platform/qt/Closing.h"
 
@@ -27,7 +30,7 @@ void setButtons(QMessageBox &box, int flags)
 {
     if (flags & kYesNo) {
         box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-        box.setDefaultButton(QMessageBox::Yes);
+        box.setDefaultButton(QMessageBox::No);  // an Enter too many loses nothing
     } else if (flags & kOkCancel) {
         box.setStandardButtons(QMessageBox::Ok | QMessageBox::Cancel);
         box.setDefaultButton(QMessageBox::Ok);
@@ -72,6 +75,34 @@ void widenPlaces(QFileDialog &dialog)
     places->setTextElideMode(Qt::ElideMiddle);
 }
 
+/// A box is only as wide as its text, and its title is cut off when that is longer.
+void makeRoomForTitle(QMessageBox &box)
+{
+    constexpr int kFrameButtons = 130;
+    if (auto *text = box.findChild<QLabel *>("qt_msgbox_label"))
+        text->setMinimumWidth(std::min(500, text->fontMetrics().horizontalAdvance(box.windowTitle()) + kFrameButtons));
+}
+
+/// Offers the name chosen last, selected, so that typing replaces it; with its folder where that cannot be shown.
+void offerName(QFileDialog &dialog, const QFileInfo &name)
+{
+    auto *line = dialog.findChild<QLineEdit *>("fileNameEdit");
+    if (!line || name.fileName().isEmpty())
+        return;
+    line->setText(name.dir().exists() ? name.fileName() : name.filePath());
+    line->selectAll();
+}
+
+/// The toolkit takes whatever stands behind the last point for a suffix, and catalogue numbers hold points too.
+QString withSuffix(const QString &path, const QString &suffix)
+{
+    static const QRegularExpression kSuffix("^[A-Za-z]{1,4}$");
+    const QFileInfo file(path);
+    if (suffix.isEmpty() || file.suffix().isEmpty() || kSuffix.match(file.suffix()).hasMatch() || file.exists())
+        return path;
+    return path + '.' + suffix;
+}
+
 /// A dialog blocks every window of the program unless it is told to block the one it stands over.
 void blockParentAlone(QDialog &dialog)
 {
@@ -97,6 +128,7 @@ Answer QtDialogs::show(const MessageBox &box)
     message.setText(QString::fromStdString(box.text));
     message.setIcon(iconOf(box.flags));
     setButtons(message, box.flags);
+    makeRoomForTitle(message);
     if (!(box.flags & kSystemModal))
         blockParentAlone(message);
     const Answer answer = answerOf(message.exec());
@@ -107,7 +139,8 @@ std::optional<std::string> QtDialogs::chooseSaveName(const SaveNameQuestion &que
 {
     if (m_closing.isClosing())
         return std::nullopt;
-    const QString folder = m_lastFolder.empty() ? QDir::homePath() : QString::fromStdString(m_lastFolder);
+    const QFileInfo last(QString::fromStdString(m_lastName));
+    const QString folder = last.dir().exists() && !m_lastName.empty() ? last.absolutePath() : QDir::homePath();
     QFileDialog dialog(dialogParent(), QString::fromStdString(question.title), folder);
     dialog.setObjectName("commonDialog");
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite |
@@ -117,15 +150,16 @@ std::optional<std::string> QtDialogs::chooseSaveName(const SaveNameQuestion &que
     dialog.setNameFilter(nameFilter(question.filter));
     dialog.setDefaultSuffix(QString::fromStdString(question.defaultSuffix));
     widenPlaces(dialog);
+    offerName(dialog, last);
     blockParentAlone(dialog);
     if (dialog.exec() != QDialog::Accepted || m_closing.isClosing())
         return std::nullopt;
     // Where no name was given the toolkit answers with the folder.
-    const QFileInfo chosen(dialog.selectedFiles().value(0));
-    if (chosen.isDir())
+    const QString chosen = dialog.selectedFiles().value(0);
+    if (QFileInfo(chosen).isDir())
         return std::string();
-    m_lastFolder = chosen.absolutePath().toStdString();
-    return chosen.filePath().toStdString();
+    m_lastName = withSuffix(chosen, QString::fromStdString(question.defaultSuffix)).toStdString();
+    return m_lastName;
 }
 
 }  // namespace penwright

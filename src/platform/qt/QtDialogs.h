@@ -30,7 +30,7 @@ private:
 
     const Closing &m_closing;
     QWidget *m_owner = nullptr;
-    std::string m_lastFolder;
+    std::string m_lastName;  ///< chosen last, with its folder
 };
 
 }  // namespace penwright
