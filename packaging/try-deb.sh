@@ -18,6 +18,7 @@ cp "$packages"/*.deb "$expected" "$root/try"
 
 cat >"$root/try/run" <<'END'
 set -eu
+unset TMPDIR XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME  # folders of the machine outside
 export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
 fail() { echo "FAILED: $1" >&2; exit 1; }
 all_files() {

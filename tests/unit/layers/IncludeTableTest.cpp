@@ -31,8 +31,7 @@ const std::map<Room, std::set<Room>> kMayInclude{
     {"platform/qt", {"platform/qt", "platform"}},
     {"wizard+", {"wizard+", "wizard", "hostlink", "core", "platform/qt", "platform"}},
     {"pages/+", {"pages/+", "pages/", "wizard+", "wizard", "hostlink", "core", "platform/qt", "platform"}},
-    {"hostbench",
-     {"hostbench", "pages/", "wizard", "hostlink", "core", "platform/posix", "platform/sqlite", "platform"}},
+    {"hostbench", {"hostbench", "pages/", "wizard", "hostlink", "core", "platform/sqlite", "platform"}},
 };
 
 std::string contentOf(const fs::path &path)
