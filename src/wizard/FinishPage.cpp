@@ -1,5 +1,7 @@
 #include "wizard/FinishPage.h"
 
+#include <QHideEvent>
+
 #include "ui_FinishPage.h"
 #include "wizard/ScreenReader.h"
 
@@ -47,6 +49,13 @@ void FinishPage::finish(bool saveAs)
     const FinishEnd end = m_finish.SaveNewFile(saveAs, caption().toStdString());
     if (end == FinishEnd::NotTaken)
         showStatus("The host has not taken the file yet. It is kept for the host until it does.");
+}
+
+void FinishPage::hideEvent(QHideEvent *event)
+{
+    PageFrame::hideEvent(event);
+    if (!event->spontaneous() && window()->isVisible())
+        showStatus({});
 }
 
 void FinishPage::showStatus(const QString &text)

@@ -20,6 +20,10 @@ public:
     explicit FinishPage(const PageContext &context);
     ~FinishPage() override;
 
+protected:
+    /// What the page has told of the host is over with when the page is left.
+    void hideEvent(QHideEvent *event) override;
+
 private:
     void cmdUnname_Click();
     void cmdSaveAs_Click();

@@ -1,5 +1,8 @@
 #include "wizard/GridBlock.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace penwright {
 namespace {
 
@@ -20,6 +23,27 @@ std::string withPlainLineEnds(std::string_view text)
     return plain;
 }
 
+/// The lines as they are but for the lines and columns behind the last text of the block.
+GridLines trimmed(GridLines lines)
+{
+    std::size_t height = 0;
+    std::size_t width = 0;
+    for (std::size_t row = 0; row < lines.size(); ++row) {
+        for (std::size_t column = 0; column < lines[row].size(); ++column) {
+            if (lines[row][column].empty())
+                continue;
+            height = row + 1;
+            width = std::max(width, column + 1);
+        }
+    }
+    if (height == 0)
+        return lines;
+    lines.resize(height);
+    for (auto &line : lines)
+        line.resize(std::min(line.size(), width));
+    return lines;
+}
+
 }  // namespace
 
 bool isGridBlock(std::string_view text)
@@ -37,7 +61,7 @@ GridLines splitGridBlock(std::string_view text)
     GridLines lines;
     for (const std::string &line : splitAt(plain, '\n'))
         lines.push_back(splitAt(line, '\t'));
-    return lines;
+    return trimmed(std::move(lines));
 }
 
 }  // namespace penwright

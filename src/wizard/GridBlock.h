@@ -13,6 +13,7 @@ using GridLines = std::vector<std::vector<std::string>>;
 bool isGridBlock(std::string_view text);
 
 /// The cells of tab-delimited lines. Lines end with "\r\n" or "\n", and a last line end adds no line.
+/// Empty lines and columns behind the last text are left out; a block of empty cells alone is taken as it is.
 GridLines splitGridBlock(std::string_view text);
 
 }  // namespace penwright

@@ -33,6 +33,18 @@ void paintArrow(QPainter &painter, const QStyleOptionViewItem &cell)
     cell.widget->style()->drawPrimitive(QStyle::PE_IndicatorArrowDown, &arrow, &painter, cell.widget);
 }
 
+/// Shows the selected cells of a grid that the keys do not go to as plain text on a pale ground.
+void mute(QPalette &palette)
+{
+    const QColor ground = palette.color(QPalette::Base);
+    const QColor highlight = palette.color(QPalette::Highlight);
+    const auto pale = [](int own, int other) { return (3 * own + other) / 4; };
+    palette.setColor(QPalette::Highlight,
+                     QColor(pale(ground.red(), highlight.red()), pale(ground.green(), highlight.green()),
+                            pale(ground.blue(), highlight.blue())));
+    palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
+}
+
 }  // namespace
 
 QLineEdit *editorLine(QWidget *editor)
@@ -59,6 +71,8 @@ void GridDelegate::initStyleOption(QStyleOptionViewItem *option, const QModelInd
 {
     QStyledItemDelegate::initStyleOption(option, index);
     option->displayAlignment = m_alignment | Qt::AlignVCenter;
+    if (!m_view->hasFocus())
+        mute(option->palette);
 }
 
 QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &, const QModelIndex &index) const

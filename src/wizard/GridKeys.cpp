@@ -89,6 +89,11 @@ bool GridView::editorKey(QKeyEvent &event)
 void GridView::step(int rows)
 {
     const QModelIndex current = currentIndex();
+    if (m_model->rowCount() == 1) {
+        if (const QModelIndex next = alongRow(rows > 0); next.isValid())
+            moveTo(next);
+        return;
+    }
     moveTo(current.siblingAtRow(std::clamp(current.row() + rows, 0, std::max(0, m_model->rowCount() - 1))));
 }
 

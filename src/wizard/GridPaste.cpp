@@ -85,8 +85,9 @@ void GridView::paste(std::string_view text)
         return;
     const auto refusal =
         m_model->takeBlock(block.firstRow, block.firstColumn, lines, window()->windowTitle().toStdString());
+    // Nothing was taken: the corrected block is to go where this one should have gone.
     if (refusal)
-        tellRefusal(refusal->row, refusal->column, refusal->box);
+        tellRefusal(block.firstRow, block.firstColumn, refusal->box);
 }
 
 bool GridView::fits(const Block &block, std::size_t rows, std::size_t columns)

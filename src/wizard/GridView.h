@@ -13,9 +13,9 @@ class GridModel;
 class GridRefusal;
 
 /// A grid that types, moves and pastes like a spreadsheet over a GridSource. Typing replaces a cell's text, F2 and a
-/// double click edit it, Enter commits and moves down, Tab commits and walks, Escape gives the old text back, Delete
-/// clears the selected cells, Ctrl+C and Ctrl+V copy and paste tab-delimited text. Alt+Down opens the list of a cell
-/// that has choices. Ctrl+Tab and Ctrl+Shift+Tab leave the grid.
+/// double click edit it, Enter commits and moves down, or along the only row, Tab commits and walks, Escape gives the
+/// old text back, Delete clears the selected cells, Ctrl+C and Ctrl+V copy and paste tab-delimited text. Alt+Down opens
+/// the list of a cell that has choices. Ctrl+Tab and Ctrl+Shift+Tab leave the grid.
 ///
 /// A text that the source refuses is told in one message once the event that committed it is over; the cell keeps its
 /// old text and becomes the current one again. An editor stays open while another window has the focus.

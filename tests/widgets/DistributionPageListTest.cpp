@@ -136,6 +136,15 @@ TEST_F(DistributionList, aRefusedSignIsForgottenOnceTheFieldIsLeftOrAnEntryPicke
     EXPECT_EQ(columns(verticalGrid()), 8);
 }
 
+TEST_F(DistributionList, typingReplacesAPickedEntry)
+{
+    pick(vertical(), "10, Downlight 0 to 90, 10 degree increments");
+    EXPECT_EQ(columns(verticalGrid()), 10);
+    typeText("3");
+    EXPECT_EQ(vertical()->currentText(), "3");
+    EXPECT_EQ(columns(verticalGrid()), 3);
+}
+
 TEST_F(DistributionList, emptiedTextBecomesOne)
 {
     typeInto(vertical(), "5");

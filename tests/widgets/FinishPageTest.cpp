@@ -127,6 +127,14 @@ TEST_F(Finish, postThatNobodyTakesLeavesOneQuietLineUntilItIs)
     EXPECT_EQ(status(), "");
 }
 
+TEST_F(Finish, whatWasToldOfTheHostIsOverWithWhenThePageIsLeft)
+{
+    click("cmdUnname");
+    EXPECT_NE(status(), "");
+    click("cmdBack80");
+    EXPECT_EQ(status(), "");
+}
+
 TEST_F(Finish, keysAndClicksMeanwhileFinishNothingTwice)
 {
     QTimer impatience;

@@ -81,8 +81,29 @@ TEST_F(GridPaste, oneRefusedTextRefusesTheWholeBlock)
     paste("1\t2\nx3\tx4\n5\t6");
     EXPECT_EQ(dialogs.transcript, "[PenwrightPE|0] no x3 in A2\n");
     EXPECT_EQ(table.all(), "A1|B1 / A2|B2 / A3|B3");
-    EXPECT_EQ(current(), "A2");
+    EXPECT_EQ(current(), "A1");
     EXPECT_EQ(focus(), "cell");
+    paste("1\t2\n3\t4\n5\t6");
+    EXPECT_EQ(table.all(), "1|2 / 3|4 / 5|6");
+}
+
+TEST_F(GridPaste, emptyLinesAndColumnsBehindTheBlockAreLeftOut)
+{
+    for (const char *text : {"1\n\n", "1\t\n\t\n", "1\t\t\t\n\n\n\n\n"}) {
+        table.cells = {{"A1", "B1"}, {"A2", "B2"}, {"A3", "B3"}};
+        grid->goTo(1, 0);
+        paste(text);
+        EXPECT_EQ(table.all(), "1|B1 / A2|B2 / A3|B3") << text;
+    }
+    paste("1\t\n\t\n\t2\n");
+    EXPECT_EQ(table.all(), "1| / | / |2");
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
+TEST_F(GridPaste, aBlockOfEmptyCellsEmptiesThem)
+{
+    paste("\t\n\t\n");
+    EXPECT_EQ(table.all(), "| / | / A3|B3");
 }
 
 TEST_F(GridPaste, blockThatDoesNotFitIsRefusedWhole)

@@ -41,6 +41,38 @@ TEST_F(Grid, enterStaysOnTheLastRow)
     EXPECT_EQ(focus(), "cell");
 }
 
+TEST_F(Grid, enterGoesAlongTheOnlyRow)
+{
+    table.cells = {{"A1", "B1"}};
+    grid->refresh();
+    type("5");
+    press(Qt::Key_Return);
+    EXPECT_EQ(current(), "B1");
+    type("6");
+    press(Qt::Key_Enter);
+    EXPECT_EQ(current(), "B1");
+    press(Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(current(), "A1");
+    press(Qt::Key_Return, Qt::ShiftModifier);
+    EXPECT_EQ(current(), "A1");
+    EXPECT_EQ(focus(), "cell");
+    EXPECT_EQ(table.all(), "5|6");
+}
+
+TEST_F(Grid, theCurrentCellIsPaleWithoutTheFocus)
+{
+    const auto ground = [this] {
+        return grid->viewport()->grab().toImage().pixelColor(grid->visualRect(grid->currentIndex()).topLeft() +
+                                                             QPoint(2, 2));
+    };
+    const QColor strong = ground();
+    grid->clearFocus();
+    EXPECT_GT(ground().lightness(), strong.lightness() + 40);
+    EXPECT_LT(ground().lightness(), grid->palette().color(QPalette::Base).lightness() - 10);
+    grid->setFocus();
+    EXPECT_EQ(ground(), strong);
+}
+
 TEST_F(Grid, f2EditsTheTextAndTheArrowsMoveInIt)
 {
     press(Qt::Key_F2);

@@ -109,6 +109,8 @@ void AngleListBox::tellPick()
     // The open list has taken the selection away.
     if (const Selection before = std::exchange(m_selection, {}); before.length > 0 && before.text == lineEdit()->text())
         lineEdit()->setSelection(before.start, before.length);
+    else
+        m_edit->selectAll();
     emit changed();
 }
 

@@ -28,8 +28,8 @@ public:
     /// Shows a text, selected, so that typing replaces it. Tells no change.
     void replaceText(const QString &text);
 
-    /// Opens the list wide enough for its longest entry. A part of the text that is selected now stays selected when
-    /// the same text is picked again.
+    /// Opens the list wide enough for its longest entry. An entry picked is selected, so that typing replaces it. A
+    /// part of the text that is selected now stays selected when the same text is picked again.
     void showPopup() override;
 
 signals:
