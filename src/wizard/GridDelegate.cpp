@@ -10,6 +10,7 @@
 
 #include "wizard/GridChoiceBox.h"
 #include "wizard/GridModel.h"
+#include "wizard/MixedColour.h"
 #include "wizard/OneLine.h"
 
 namespace penwright {
@@ -36,12 +37,9 @@ void paintArrow(QPainter &painter, const QStyleOptionViewItem &cell)
 /// Shows the selected cells of a grid that the keys do not go to as plain text on a pale ground.
 void mute(QPalette &palette)
 {
-    const QColor ground = palette.color(QPalette::Base);
-    const QColor highlight = palette.color(QPalette::Highlight);
-    const auto pale = [](int own, int other) { return (3 * own + other) / 4; };
+    constexpr float kShareOfHighlight = 0.25F;
     palette.setColor(QPalette::Highlight,
-                     QColor(pale(ground.red(), highlight.red()), pale(ground.green(), highlight.green()),
-                            pale(ground.blue(), highlight.blue())));
+                     mixedColour(palette.color(QPalette::Highlight), palette.color(QPalette::Base), kShareOfHighlight));
     palette.setColor(QPalette::HighlightedText, palette.color(QPalette::Text));
 }
 

@@ -12,6 +12,7 @@
 #include "wizard/GridModel.h"
 #include "wizard/GridRefusal.h"
 #include "wizard/InView.h"
+#include "wizard/MixedColour.h"
 #include "wizard/ScreenReader.h"
 
 namespace penwright {
@@ -25,19 +26,10 @@ public:
     {
         if (hint != SH_Table_GridLineColor || !widget)
             return QProxyStyle::styleHint(hint, option, widget, returned);
-        return static_cast<int>(mixed(widget->palette(), kTextShare).rgba());
-    }
-
-private:
-    static constexpr double kTextShare = 0.22;
-
-    static QColor mixed(const QPalette &palette, double share)
-    {
-        const QColor paper = palette.color(QPalette::Base);
-        const QColor text = palette.color(QPalette::Text);
-        const auto mix = [share](double from, double to) { return static_cast<float>(from + (to - from) * share); };
-        return QColor::fromRgbF(mix(paper.redF(), text.redF()), mix(paper.greenF(), text.greenF()),
-                                mix(paper.blueF(), text.blueF()));
+        constexpr float kShareOfText = 0.22F;
+        const QPalette &palette = widget->palette();
+        return static_cast<int>(
+            mixedColour(palette.color(QPalette::Text), palette.color(QPalette::Base), kShareOfText).rgba());
     }
 };
 

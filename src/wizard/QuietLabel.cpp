@@ -3,16 +3,13 @@
 #include <QApplication>
 #include <QEvent>
 
+#include "wizard/MixedColour.h"
+
 namespace penwright {
 namespace {
 
 // Enough of the text's own colour to stay readable for weak eyes.
 constexpr float kShareOfText = 0.70F;
-
-float mix(float text, float background)
-{
-    return kShareOfText * text + (1 - kShareOfText) * background;
-}
 
 }  // namespace
 
@@ -33,10 +30,7 @@ void QuietLabel::changeEvent(QEvent *event)
 void QuietLabel::mixColour()
 {
     const QPalette base = QApplication::palette();  // the parent's may not have followed yet
-    const QColor text = base.color(QPalette::WindowText);
-    const QColor background = base.color(QPalette::Window);
-    const QColor quiet = QColor::fromRgbF(mix(text.redF(), background.redF()), mix(text.greenF(), background.greenF()),
-                                          mix(text.blueF(), background.blueF()));
+    const QColor quiet = mixedColour(base.color(QPalette::WindowText), base.color(QPalette::Window), kShareOfText);
     if (palette().color(QPalette::WindowText) == quiet)
         return;  // setting it would be told as a change again
     QPalette own;

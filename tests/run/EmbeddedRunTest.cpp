@@ -1,20 +1,12 @@
 #include "hostlink/RecordText.h"
 #include "run/Desktop.h"
 #include "run/RunTest.h"
+#include "support/Captions.h"
 #include "x11/DisplayQuery.h"
 #include "x11/HostProcess.h"
 
 namespace penwright::test {
 namespace {
-
-const std::vector<std::string> kCaptions{
-    "New Photometric file: (1 of 6) General Info",
-    "New Photometric file: (2 of 6) Lamp Tilt Info",
-    "New Photometric file: (3 of 6) Descriptive Information",
-    "New Photometric file: (4 of 6) Photometric Distribution",
-    "New Photometric file: (5 of 6) Candela Values",
-    "New Photometric file: (6 of 6) Complete!",
-};
 
 constexpr const char *kHelpTitle = "New Photometric File - Help";
 

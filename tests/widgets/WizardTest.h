@@ -24,6 +24,7 @@
 #include "platform/qt/X11Embedding.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "platform/TextFiles.h"
+#include "support/Captions.h"
 #include "support/FakeDialogs.h"
 #include "support/TempFolder.h"
 #include "wizard/FinishPage.h"
@@ -236,16 +237,6 @@ protected:
 
 private:
     Dialogs *m_dialogs = &dialogs;
-};
-
-/// The captions of the six pages, by index.
-inline const std::vector<std::string> kCaptions{
-    "New Photometric file: (1 of 6) General Info",
-    "New Photometric file: (2 of 6) Lamp Tilt Info",
-    "New Photometric file: (3 of 6) Descriptive Information",
-    "New Photometric file: (4 of 6) Photometric Distribution",
-    "New Photometric file: (5 of 6) Candela Values",
-    "New Photometric file: (6 of 6) Complete!",
 };
 
 }  // namespace penwright::test

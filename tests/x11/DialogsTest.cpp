@@ -204,8 +204,12 @@ TEST_F(SaveDialog, addsTheSuffixAndReturnsToTheFolderUsedLast)
 
 TEST_F(SaveDialog, addsTheSuffixBehindAPointThatBeginsNone)
 {
-    const std::pair<const char *, const char *> kNames[]{
-        {"RT5-3.5K", "RT5-3.5K.ies"}, {"a.b-c", "a.b-c.ies"}, {"plain.txt", "plain.txt"}, {"x.Ies", "x.Ies"}};
+    std::ofstream(folder.file("there.5K")) << "x";
+    const std::pair<const char *, const char *> kNames[]{{"RT5-3.5K", "RT5-3.5K.ies"},
+                                                         {"there.5K", "there.5K"},
+                                                         {"a.b-c", "a.b-c.ies"},
+                                                         {"plain.txt", "plain.txt"},
+                                                         {"x.Ies", "x.Ies"}};
     for (const auto &[typed, named] : kNames) {
         const QString name = QString::fromStdString(folder.file(typed));
         whenDialogIsUp([&name](QDialog &dialog) { typeName(dialog, name); });

@@ -15,6 +15,7 @@ namespace penwright {
 
 /// Selects its whole text at the click that brings the focus, and at any click on the prompt: what is typed into the
 /// middle of either would not be understood. A part can still be selected by dragging, or after a second click.
+/// Keeps in mind whether what is typed follows a lone minus sign, in whose place a 1 was put.
 class AngleListBox::Edit : public QLineEdit {
 public:
     Edit() { setValidator(new OneLine(this)); }
@@ -82,8 +83,7 @@ void AngleListBox::offer(std::span<const std::string_view> entries)
 
 std::string AngleListBox::chosenText() const
 {
-    const QLineEdit &edit = *m_edit;
-    return (edit.hasSelectedText() ? edit.selectedText() : m_edit->signBefore() + edit.text()).toStdString();
+    return (m_edit->hasSelectedText() ? m_edit->selectedText() : m_edit->signBefore() + m_edit->text()).toStdString();
 }
 
 void AngleListBox::replaceText(const QString &text)
@@ -107,8 +107,8 @@ void AngleListBox::tellPick()
 {
     m_edit->forgetSign();
     // The open list has taken the selection away.
-    if (const Selection before = std::exchange(m_selection, {}); before.length > 0 && before.text == lineEdit()->text())
-        lineEdit()->setSelection(before.start, before.length);
+    if (const Selection before = std::exchange(m_selection, {}); before.length > 0 && before.text == m_edit->text())
+        m_edit->setSelection(before.start, before.length);
     else
         m_edit->selectAll();
     emit changed();

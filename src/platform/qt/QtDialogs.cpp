@@ -93,7 +93,8 @@ void offerName(QFileDialog &dialog, const QFileInfo &name)
     line->selectAll();
 }
 
-/// The toolkit takes whatever stands behind the last point for a suffix, and catalogue numbers hold points too.
+/// The toolkit takes whatever stands behind the last point for a suffix, and catalogue numbers hold points too: here
+/// one to four letters are a suffix, and a file that is there keeps the name that it has.
 QString withSuffix(const QString &path, const QString &suffix)
 {
     static const QRegularExpression kSuffix("^[A-Za-z]{1,4}$");
