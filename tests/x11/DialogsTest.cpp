@@ -6,6 +6,7 @@
 #include <QDialogButtonBox>
 #include <QDir>
 #include <QFileDialog>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
@@ -109,6 +110,21 @@ TEST_F(Box, isWideEnoughForItsTitle)
         dialog.reject();
     });
     dialogs.show({.text = "No", .title = title});
+}
+
+TEST_F(Box, isWideEnoughForItsTextWhateverItsTitle)
+{
+    const std::string text = "Changes will be lost. Are you sure you want to cancel?";
+    for (const char *title : {"", "A title", "A title that is far longer than what the box has to say to its reader"}) {
+        whenDialogIsUp([&](QDialog &dialog) {
+            const auto *label = dialog.findChild<QLabel *>("qt_msgbox_label");
+            EXPECT_GE(label->width(), label->sizeHint().width()) << title;
+            EXPECT_GE(label->height(), label->heightForWidth(label->width())) << title;
+            EXPECT_TRUE(dialog.rect().contains(QRect(label->mapTo(&dialog, QPoint()), label->size()))) << title;
+            dialog.reject();
+        });
+        dialogs.show({.text = text, .flags = kYesNo + kExclamation, .title = title});
+    }
 }
 
 TEST_F(Box, aClosedWindowAnswersAsEscapeDoes)

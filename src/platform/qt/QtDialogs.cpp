@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLabel>
+#include <QGridLayout>
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
@@ -78,9 +78,14 @@ void widenPlaces(QFileDialog &dialog)
 /// A box is only as wide as its text, and its title is cut off when that is longer.
 void makeRoomForTitle(QMessageBox &box)
 {
-    constexpr int kFrameButtons = 130;
-    if (auto *text = box.findChild<QLabel *>("qt_msgbox_label"))
-        text->setMinimumWidth(std::min(500, text->fontMetrics().horizontalAdvance(box.windowTitle()) + kFrameButtons));
+    constexpr int kFrameButtons = 160;
+    constexpr int kMostWidth = 560;
+    auto *grid = qobject_cast<QGridLayout *>(box.layout());
+    if (!grid)
+        return;
+    const int width = std::min(kMostWidth, box.fontMetrics().horizontalAdvance(box.windowTitle()) + kFrameButtons);
+    // Beside the text and not of it: a least width set on the text would stand for the one that the text needs.
+    grid->addItem(new QSpacerItem(width, 0), grid->rowCount(), 0, 1, grid->columnCount());
 }
 
 /// Offers the name chosen last, selected, so that typing replaces it; with its folder where that cannot be shown.
