@@ -5,7 +5,7 @@
 
 #include <random>
 
-#include "pages/candela/PlotView.h"
+#include "plot/PlotView.h"
 #include "support/PlotTables.h"
 
 namespace {

@@ -35,11 +35,16 @@ function(penwright_rules folder)
   target_link_libraries(rules INTERFACE ${folder}_rules)
 endfunction()
 
+# What wraps a library, or a service of the system, and is neither rules nor windows.
+function(penwright_library name)
+  add_library(${name} STATIC ${ARGN})
+  target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_link_libraries(${name} PRIVATE penwright_flags)
+endfunction()
+
 # One implementation of the platform interfaces.
 function(penwright_platform kind)
-  add_library(platform_${kind} STATIC ${ARGN})
-  target_include_directories(platform_${kind} PUBLIC ${PROJECT_SOURCE_DIR}/src)
-  target_link_libraries(platform_${kind} PRIVATE penwright_flags)
+  penwright_library(platform_${kind} ${ARGN})
 endfunction()
 
 # Windows of one folder, with their forms; they see the rules and the Qt side of the platform.

@@ -2,13 +2,13 @@
 
 #include <chrono>
 
+#include "help/chm/ChmHelpFile.h"
 #include "pages/candela/CandelaPage.h"
 #include "pages/distribution/DistributionPage.h"
+#include "pages/finish/FinishPage.h"
 #include "pages/keywords/KeywordPage.h"
 #include "pages/luminaire/LampPage.h"
 #include "pages/luminaire/TiltPage.h"
-#include "platform/chm/ChmHelpFile.h"
-#include "wizard/FinishPage.h"
 
 namespace penwright {
 

@@ -4,15 +4,15 @@
 
 #include "core/Services.h"
 #include "core/ToolState.h"
+#include "help/window/QtHelpViewer.h"
 #include "pages/candela/CandelaState.h"
 #include "platform/posix/PosixTextFiles.h"
 #include "platform/qt/Closing.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
-#include "platform/qt/QtHelpViewer.h"
 #include "platform/qt/SignalEnd.h"
-#include "platform/qt/X11Embedding.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
+#include "platform/x11/X11Embedding.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright {

@@ -5,7 +5,7 @@
 #include <system_error>
 
 #include "app/StartUp.h"
-#include "platform/qt/Display.h"
+#include "platform/x11/Display.h"
 
 namespace {
 

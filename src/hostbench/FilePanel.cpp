@@ -12,8 +12,8 @@
 #include <QVBoxLayout>
 
 #include "core/StartupState.h"
-#include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/TwoLineDelegate.h"
+#include "hostlib/RecordBridge.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {

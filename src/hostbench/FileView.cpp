@@ -9,9 +9,9 @@
 #include <QSplitter>
 
 #include "core/NumberText.h"
-#include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/HostStyle.h"
 #include "hostbench/PolarPicture.h"
+#include "hostlib/RecordBridge.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {

@@ -12,9 +12,9 @@
 
 #include "hostbench/CommandBar.h"
 #include "hostbench/FileView.h"
-#include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/HostStyle.h"
 #include "hostbench/LogPanel.h"
+#include "hostlib/RecordBridge.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "core/PhotometricRecord.h"
-#include "pages/candela/PlotCurves.h"
-#include "pages/candela/PlotRings.h"
+#include "plot/PlotCurves.h"
+#include "plot/PlotRings.h"
 
 namespace penwright {
 

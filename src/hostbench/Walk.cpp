@@ -11,9 +11,9 @@
 #include <QTimer>
 #include <QWindow>
 
-#include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/HostWindow.h"
 #include "hostbench/SampleLuminaire.h"
+#include "hostlib/RecordBridge.h"
 #include "hostlink/RecordText.h"
 
 namespace penwright {

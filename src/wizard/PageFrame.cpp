@@ -7,11 +7,11 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "controls/InView.h"
+#include "controls/QuietLabel.h"
+#include "controls/ScreenReader.h"
 #include "platform/qt/ViewText.h"
 #include "wizard/HandlerGuard.h"
-#include "wizard/InView.h"
-#include "wizard/QuietLabel.h"
-#include "wizard/ScreenReader.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {

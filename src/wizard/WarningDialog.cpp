@@ -4,9 +4,9 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "controls/LongTextBox.h"
+#include "controls/ScreenReader.h"
 #include "platform/qt/Closing.h"
-#include "wizard/LongTextBox.h"
-#include "wizard/ScreenReader.h"
 
 namespace penwright {
 namespace {

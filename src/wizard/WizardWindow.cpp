@@ -11,6 +11,7 @@
 #include <QTextCursor>
 #include <QTimer>
 
+#include "controls/ScreenReader.h"
 #include "hostlink/HostPost.h"
 #include "platform/Dialogs.h"
 #include "platform/HelpViewer.h"
@@ -18,9 +19,8 @@
 #include "platform/qt/Closing.h"
 #include "platform/qt/Placeholder.h"
 #include "platform/qt/QtEventWait.h"
-#include "platform/qt/X11Embedding.h"
+#include "platform/x11/X11Embedding.h"
 #include "wizard/HandlerGuard.h"
-#include "wizard/ScreenReader.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {

@@ -1,5 +1,5 @@
 // What a page shows comes from the help file alone.
-#include "platform/qt/HelpBrowser.h"
+#include "help/window/HelpBrowser.h"
 
 #include <map>
 #include <QBuffer>

@@ -1,10 +1,10 @@
-#include "platform/qt/HelpSearch.h"
+#include "help/window/HelpSearch.h"
 
 #include <gtest/gtest.h>
 
 #include <string>
 
-#include "platform/qt/PageLimits.h"
+#include "help/window/PageLimits.h"
 
 namespace penwright::test {
 namespace {

@@ -14,8 +14,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/chm/ChmHelpFile.h"
-#include "platform/qt/HelpWindow.h"
+#include "help/chm/ChmHelpFile.h"
+#include "help/window/HelpWindow.h"
 #include "support/HelpSamples.h"
 
 namespace penwright::test {

@@ -1,4 +1,4 @@
-#include "platform/qt/QtHelpViewer.h"
+#include "help/window/QtHelpViewer.h"
 
 #include <filesystem>
 

@@ -1,4 +1,4 @@
-#include "platform/qt/HelpWindow.h"
+#include "help/window/HelpWindow.h"
 
 #include <QDesktopServices>
 

@@ -24,9 +24,9 @@ const std::vector<std::string> kMessageCode{"core",
                                             "app",
                                             "platform/sqlite",
                                             "platform/RunTimeError.h",
-                                            "platform/chm/ChmContainer.cpp",
-                                            "platform/chm/ChmHelpFile.cpp",
-                                            "platform/qt/QtHelpViewer.cpp"};
+                                            "help/chm/ChmContainer.cpp",
+                                            "help/chm/ChmHelpFile.cpp",
+                                            "help/window/QtHelpViewer.cpp"};
 
 /// Texts of several words that are no messages: they are read out by screen readers, stand in a log that is never
 /// shown, are the title of a window that is hidden still or a dialog's filter, or belong to a state of a page not in

@@ -36,7 +36,7 @@ struct PageTopic {
 inline constexpr PageTopic kPageTopics[]{
     {"lamp.html", "pages/luminaire/LampPage.ui"},       {"tilt.html", "pages/luminaire/TiltPage.ui"},
     {"keywords.html", "pages/keywords/KeywordPage.ui"}, {"angles.html", "pages/distribution/DistributionPage.ui"},
-    {"candela.html", "pages/candela/CandelaPage.ui"},   {"finish.html", "wizard/FinishPage.ui"},
+    {"candela.html", "pages/candela/CandelaPage.ui"},   {"finish.html", "pages/finish/FinishPage.ui"},
 };
 
 inline bool contains(const std::vector<std::string> &texts, const std::string &text)

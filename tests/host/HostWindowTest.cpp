@@ -2,8 +2,8 @@
 
 #include <QPlainTextEdit>
 
-#include "hostbench/hostlib/RecordBridge.h"
 #include "hostbench/SampleLuminaire.h"
+#include "hostlib/RecordBridge.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 
 namespace penwright::test {

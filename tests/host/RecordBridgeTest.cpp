@@ -1,4 +1,4 @@
-#include "hostbench/hostlib/RecordBridge.h"
+#include "hostlib/RecordBridge.h"
 
 #include <gtest/gtest.h>
 

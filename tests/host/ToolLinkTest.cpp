@@ -1,4 +1,4 @@
-#include "hostbench/hostlib/ToolLink.h"
+#include "hostlib/ToolLink.h"
 
 #include <gtest/gtest.h>
 

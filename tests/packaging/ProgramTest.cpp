@@ -1,8 +1,8 @@
 // The programs as a user starts them: by the links in the installed tree's folder for programs.
 #include <gtest/gtest.h>
 
+#include "help/chm/ChmHelpFile.h"
 #include "packaging/InstalledTree.h"
-#include "platform/chm/ChmHelpFile.h"
 #include "run/Desktop.h"
 #include "wizard/PageTable.h"
 

@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "core/CandelaCell.h"
 #include "core/PhotometricRecord.h"
-#include "pages/candela/CandelaCell.h"
 
 namespace penwright::test {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "grid/GridView.h"
 #include "widgets/WizardTest.h"
-#include "wizard/GridView.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright::test {

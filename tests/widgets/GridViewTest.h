@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "grid/GridView.h"
 #include "support/FakeDialogs.h"
-#include "wizard/GridView.h"
 
 namespace penwright::test {
 

@@ -5,9 +5,9 @@
 #include <set>
 #include <string>
 
-#include "pages/candela/PlotFrame.h"
-#include "pages/candela/PlotLettering.h"
-#include "pages/candela/PlotRings.h"
+#include "plot/PlotFrame.h"
+#include "plot/PlotLettering.h"
+#include "plot/PlotRings.h"
 #include "widgets/PaintNotes.h"
 
 namespace penwright::test {

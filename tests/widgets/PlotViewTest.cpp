@@ -7,10 +7,10 @@
 #include <memory>
 #include <numbers>
 
-#include "pages/candela/PlotFrame.h"
-#include "pages/candela/PlotPainter.h"
-#include "pages/candela/PlotView.h"
 #include "platform/RunTimeError.h"
+#include "plot/PlotFrame.h"
+#include "plot/PlotPainter.h"
+#include "plot/PlotView.h"
 #include "support/PlotTables.h"
 
 namespace penwright::test {

@@ -1,5 +1,5 @@
+#include "grid/GridView.h"
 #include "widgets/WizardTest.h"
-#include "wizard/GridView.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright::test {

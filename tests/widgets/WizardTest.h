@@ -10,9 +10,11 @@
 #include <string>
 #include <vector>
 
+#include "grid/GridView.h"
 #include "pages/candela/CandelaPage.h"
 #include "pages/candela/CandelaState.h"
 #include "pages/distribution/DistributionPage.h"
+#include "pages/finish/FinishPage.h"
 #include "pages/keywords/KeywordPage.h"
 #include "pages/luminaire/LampPage.h"
 #include "pages/luminaire/TiltPage.h"
@@ -21,14 +23,12 @@
 #include "platform/qt/Closing.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
-#include "platform/qt/X11Embedding.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "platform/TextFiles.h"
+#include "platform/x11/X11Embedding.h"
 #include "support/Captions.h"
 #include "support/FakeDialogs.h"
 #include "support/TempFolder.h"
-#include "wizard/FinishPage.h"
-#include "wizard/GridView.h"
 #include "wizard/WarningDialog.h"
 #include "wizard/WizardWindow.h"
 

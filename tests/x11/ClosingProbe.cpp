@@ -20,11 +20,11 @@
 #include <string>
 
 #include "platform/qt/Closing.h"
-#include "platform/qt/Display.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
 #include "platform/qt/SignalEnd.h"
-#include "platform/qt/X11Embedding.h"
+#include "platform/x11/Display.h"
+#include "platform/x11/X11Embedding.h"
 
 using namespace penwright;
 using namespace std::chrono_literals;

@@ -16,7 +16,7 @@
 
 #include "platform/qt/Closing.h"
 #include "platform/qt/QtDialogs.h"
-#include "platform/qt/X11Embedding.h"
+#include "platform/x11/X11Embedding.h"
 #include "support/DialogDriver.h"
 #include "x11/DisplayQuery.h"
 #include "x11/HostProcess.h"

@@ -1,6 +1,6 @@
 #include <QMessageBox>
 
-#include "platform/qt/X11Window.h"
+#include "platform/x11/X11Window.h"
 
 #include "x11/EmbeddedWizard.h"
 

@@ -3,7 +3,7 @@
 #include <QWidget>
 
 #include "platform/qt/Closing.h"
-#include "platform/qt/X11Embedding.h"
+#include "platform/x11/X11Embedding.h"
 
 namespace penwright::test {
 namespace {

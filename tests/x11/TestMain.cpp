@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <string>
 
-#include "platform/qt/Display.h"
+#include "platform/x11/Display.h"
 #include "support/Xvfb.h"
 
 int main(int count, char **arguments)

@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-#include "wizard/ScreenReader.h"
+#include "controls/ScreenReader.h"
 
 namespace penwright {
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "core/CandelaCell.h"
 #include "core/PhotometricRecord.h"
-#include "pages/candela/CandelaCell.h"
 #include "wizard/WarningList.h"
 
 namespace penwright {

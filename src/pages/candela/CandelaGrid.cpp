@@ -8,10 +8,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "controls/ClipboardText.h"
 #include "pages/candela/CandelaTable.h"
 #include "pages/candela/CandelaWidths.h"
 #include "pages/candela/LabelColumn.h"
-#include "wizard/ClipboardText.h"
 
 namespace penwright {
 

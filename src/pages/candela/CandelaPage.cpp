@@ -6,7 +6,7 @@
 
 #include "core/NumberText.h"
 #include "pages/candela/CandelaChecks.h"
-#include "pages/candela/PlotPainter.h"
+#include "plot/PlotPainter.h"
 #include "ui_CandelaPage.h"
 #include "wizard/WarningDialog.h"
 

@@ -4,10 +4,10 @@
 #include <string>
 #include <string_view>
 
+#include "core/CandelaCell.h"
 #include "core/ToolState.h"
-#include "pages/candela/CandelaCell.h"
+#include "grid/GridSource.h"
 #include "pages/candela/CandelaState.h"
-#include "wizard/GridSource.h"
 
 namespace penwright {
 

@@ -5,7 +5,7 @@
 #include <array>
 #include <string_view>
 
-#include "pages/candela/CandelaCell.h"
+#include "core/CandelaCell.h"
 
 namespace penwright {
 

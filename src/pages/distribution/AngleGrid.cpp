@@ -4,7 +4,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 
-#include "wizard/GridBlock.h"
+#include "grid/GridBlock.h"
 
 namespace penwright {
 namespace {

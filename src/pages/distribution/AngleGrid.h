@@ -1,6 +1,6 @@
 #pragma once
 
-#include "wizard/GridView.h"
+#include "grid/GridView.h"
 
 namespace penwright {
 

@@ -7,8 +7,8 @@
 #include <variant>
 
 #include "core/OneBased.h"
+#include "grid/GridSource.h"
 #include "pages/distribution/PredefinedAngles.h"
-#include "wizard/GridSource.h"
 
 namespace penwright {
 

@@ -7,9 +7,9 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "controls/OneLine.h"
 #include "pages/distribution/PredefinedAngles.h"
 #include "platform/qt/ViewText.h"
-#include "wizard/OneLine.h"
 
 namespace penwright {
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "wizard/DropDownList.h"
+#include "controls/DropDownList.h"
 
 namespace penwright {
 

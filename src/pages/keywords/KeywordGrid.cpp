@@ -6,9 +6,9 @@
 #include <QHeaderView>
 #include <QMenu>
 
+#include "grid/GridDelegate.h"
 #include "pages/keywords/KeywordTable.h"
 #include "platform/qt/ViewText.h"
-#include "wizard/GridDelegate.h"
 
 namespace penwright {
 namespace {

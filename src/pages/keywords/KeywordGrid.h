@@ -3,8 +3,8 @@
 #include <QLineEdit>
 #include <QPointer>
 
+#include "grid/GridView.h"
 #include "pages/keywords/KeywordRows.h"
-#include "wizard/GridView.h"
 
 class QAction;
 class QMenu;

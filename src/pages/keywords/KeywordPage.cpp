@@ -1,10 +1,10 @@
 #include "pages/keywords/KeywordPage.h"
 
+#include "controls/ScreenReader.h"
 #include "pages/keywords/KeywordDefaults.h"
 #include "pages/keywords/KeywordHints.h"
 #include "pages/keywords/KeywordLines.h"
 #include "ui_KeywordPage.h"
-#include "wizard/ScreenReader.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {

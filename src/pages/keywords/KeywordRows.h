@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "core/OneBased.h"
-#include "wizard/GridSource.h"
+#include "grid/GridSource.h"
 
 namespace penwright {
 

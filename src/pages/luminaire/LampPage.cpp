@@ -1,10 +1,10 @@
 #include "pages/luminaire/LampPage.h"
 
+#include "controls/ScreenReader.h"
 #include "pages/luminaire/InputUnits.h"
 #include "pages/luminaire/LuminousShapes.h"
 #include "platform/qt/ViewText.h"
 #include "ui_LampPage.h"
-#include "wizard/ScreenReader.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <QPainter>
 
+#include "controls/ScreenReader.h"
 #include "platform/qt/ViewText.h"
-#include "wizard/ScreenReader.h"
 
 namespace penwright {
 namespace {

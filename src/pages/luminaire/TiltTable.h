@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "core/OneBased.h"
-#include "wizard/GridSource.h"
+#include "grid/GridSource.h"
 
 namespace penwright {
 

@@ -17,22 +17,18 @@ using Room = std::string;
 
 const fs::path kSource = SOURCE_FOLDER;
 
-/// Who may include whom, by room. A folder that holds both kinds of code is two rooms: "wizard" for its rules and
-/// "wizard+" for its windows. "pages/" stands for the room's own page folder.
-const std::map<Room, std::set<Room>> kMayInclude{
-    {"platform", {"platform"}},
-    {"core", {"core", "platform"}},
-    {"hostlink", {"hostlink", "core", "platform"}},
-    {"wizard", {"wizard", "hostlink", "core", "platform"}},
-    {"pages/", {"pages/", "wizard", "core", "platform"}},
-    {"platform/chm", {"platform/chm", "platform"}},
-    {"platform/posix", {"platform/posix", "platform"}},
-    {"platform/sqlite", {"platform/sqlite", "platform"}},
-    {"platform/qt", {"platform/qt", "platform"}},
-    {"wizard+", {"wizard+", "wizard", "hostlink", "core", "platform/qt", "platform"}},
-    {"pages/+", {"pages/+", "pages/", "wizard+", "wizard", "hostlink", "core", "platform/qt", "platform"}},
-    {"hostbench", {"hostbench", "pages/", "wizard", "hostlink", "core", "platform/sqlite", "platform"}},
+/// The rows of the table in docs/architecture.md, in their order: the floors of the house, the highest first. A row's
+/// room may include the rooms that it names, and each of those stands below it.
+struct Floor {
+    Room room;
+    std::set<Room> mayInclude;
 };
+
+/// The rooms whose files include nothing but the standard library and each other.
+const std::set<Room> kRules{"pages", "wizard", "plot", "grid", "help", "hostlink", "core", "platform"};
+
+/// The rooms that wrap a library or the system and know nothing of the toolkit.
+const std::set<Room> kWithoutToolkit{"hostlib", "help/chm", "platform/posix", "platform/sqlite"};
 
 std::string contentOf(const fs::path &path)
 {
@@ -77,35 +73,43 @@ bool isWindow(const fs::path &file)
     return includesQt(file);
 }
 
+/// The room of a file by the names of the page: a folder that holds both kinds of code is two rooms, "wizard" for its
+/// rules and "wizard windows".
 Room roomOf(const fs::path &file)
 {
     const std::string folder = fs::relative(file.parent_path(), kSource).generic_string();
-    if (folder.rfind("hostbench", 0) == 0)
-        return "hostbench";
-    if (folder == "wizard" || folder.rfind("pages/", 0) == 0)
-        return folder + (isWindow(file) ? "+" : "");
-    return folder;
+    if (folder.rfind("hostlib", 0) == 0)
+        return "hostlib";
+    const std::string room = folder.rfind("pages/", 0) == 0 ? "pages" : folder;
+    const bool hasBoth = room == "pages" || room == "wizard" || room == "plot" || room == "grid";
+    return hasBoth && isWindow(file) ? room + " windows" : room;
 }
 
-/// The row of the table for a room: all page groups share one.
-Room rowOf(const Room &room)
+std::vector<std::string> parted(const std::string &text, const std::string &separator)
 {
-    if (room.rfind("pages/", 0) != 0)
-        return room;
-    return room.back() == '+' ? "pages/+" : "pages/";
+    std::vector<std::string> parts;
+    for (std::size_t begin = 0; begin <= text.size();) {
+        const std::size_t end = std::min(text.find(separator, begin), text.size());
+        parts.push_back(text.substr(begin, end - begin));
+        begin = end + separator.size();
+    }
+    return parts;
 }
 
-bool mayInclude(const Room &from, const Room &to)
+std::vector<Floor> floorsOnThePage()
 {
-    if (from == "app")
-        return to != "hostbench";
-    const auto row = kMayInclude.find(rowOf(from));
-    if (row == kMayInclude.end())
-        return false;
-    const auto folderOf = [](const Room &room) { return room.back() == '+' ? room.substr(0, room.size() - 1) : room; };
-    if (from.rfind("pages/", 0) == 0 && to.rfind("pages/", 0) == 0 && folderOf(from) != folderOf(to))
-        return false;
-    return row->second.count(rowOf(to)) == 1;
+    std::istringstream page(contentOf(kSource.parent_path() / "docs" / "architecture.md"));
+    std::vector<Floor> floors;
+    bool isInTable = false;
+    for (std::string line; std::getline(page, line);) {
+        if (isInTable && line.rfind("| ", 0) == 0) {
+            const std::vector<std::string> cells = parted(line.substr(2, line.size() - 4), " | ");
+            const std::vector<std::string> rooms = parted(cells.at(1), ", ");
+            floors.push_back({cells[0], {rooms.begin(), rooms.end()}});
+        }
+        isInTable = line.rfind("|---", 0) == 0 || (isInTable && line.rfind("| ", 0) == 0);
+    }
+    return floors;
 }
 
 std::vector<fs::path> sources()
@@ -118,34 +122,91 @@ std::vector<fs::path> sources()
     return files;
 }
 
-bool isRule(const Room &room)
+/// The lines that a file includes from this tree, generated ones apart.
+std::vector<std::string> ownIncludesOf(const fs::path &file)
 {
-    return room == "platform" || room == "core" || room == "hostlink" || room == "wizard" ||
-           (room.rfind("pages/", 0) == 0 && room.back() != '+');
+    std::vector<std::string> names = includesOf(file, kOwnInclude);
+    std::erase_if(names, [](const std::string &name) {
+        return name.rfind("ui_", 0) == 0 || name.rfind("moc_", 0) == 0 || fs::path(name).extension() == ".moc";
+    });
+    return names;
 }
 
-TEST(IncludeTable, everyIncludeOfOursIsAllowed)
+// A header for hosts names its neighbours as hosts do.
+fs::path targetOf(const std::string &name)
+{
+    return kSource / (name.rfind("penwright_host/", 0) == 0 ? "hostlib/include/" + name : name);
+}
+
+std::map<Room, std::set<Room>> graphOfTheTree()
+{
+    std::map<Room, std::set<Room>> graph;
+    for (const fs::path &file : sources())
+        for (const std::string &name : ownIncludesOf(file))
+            if (const Room to = roomOf(targetOf(name)); to != roomOf(file))
+                graph[roomOf(file)].insert(to);
+    return graph;
+}
+
+TEST(IncludeTable, includesAreWrittenFromTheSourceFolder)
 {
     int seen = 0;
-    for (const fs::path &file : sources()) {
-        const Room from = roomOf(file);
-        for (const std::string &name : includesOf(file, kOwnInclude)) {
-            if (name.rfind("ui_", 0) == 0 || name.rfind("moc_", 0) == 0 || fs::path(name).extension() == ".moc")
-                continue;
-            const fs::path target = kSource / name;
-            ASSERT_TRUE(fs::exists(target)) << file << " includes \"" << name << "\", which is not written from src/";
-            EXPECT_TRUE(mayInclude(from, roomOf(target)))
-                << file << " (" << from << ") includes " << name << " (" << roomOf(target) << ")";
+    for (const fs::path &file : sources())
+        for (const std::string &name : ownIncludesOf(file)) {
+            EXPECT_TRUE(fs::exists(targetOf(name)))
+                << file << " includes \"" << name << "\", which is not written from src/";
             ++seen;
         }
-    }
     EXPECT_GT(seen, 50);
+}
+
+// Each edge of the tree stands in the table, and the table has no edge that the tree lacks.
+TEST(IncludeTable, pageNamesEveryEdge)
+{
+    std::map<Room, std::set<Room>> onThePage;
+    for (const Floor &floor : floorsOnThePage())
+        onThePage.emplace(floor.room, floor.mayInclude);
+    EXPECT_EQ(onThePage, graphOfTheTree());
+}
+
+// So there is no arrow up and no circle.
+TEST(IncludeTable, everyRoomIncludesOnlyWhatStandsBelowIt)
+{
+    const std::vector<Floor> floors = floorsOnThePage();
+    ASSERT_GT(floors.size(), 15U);
+    std::set<Room> above;
+    for (const Floor &floor : floors) {
+        above.insert(floor.room);
+        for (const Room &to : floor.mayInclude)
+            EXPECT_EQ(above.count(to), 0U) << floor.room << " includes " << to;
+    }
+}
+
+TEST(IncludeTable, rulesIncludeRulesAndWindowsStayAlone)
+{
+    for (const auto &[from, targets] : graphOfTheTree())
+        for (const Room &to : targets) {
+            if (kRules.count(from) == 1)
+                EXPECT_EQ(kRules.count(to), 1U) << from << " includes " << to;
+            EXPECT_NE(to, "app") << from;
+            EXPECT_NE(to, "hostbench") << from;
+        }
+}
+
+TEST(IncludeTable, noPageIncludesAnother)
+{
+    for (const fs::path &file : sources())
+        for (const std::string &name : ownIncludesOf(file)) {
+            const fs::path folder = fs::relative(file.parent_path(), kSource);
+            if (folder.begin()->string() == "pages" && name.rfind("pages/", 0) == 0)
+                EXPECT_EQ(fs::path(name).parent_path(), folder) << file << " includes " << name;
+        }
 }
 
 TEST(IncludeTable, rulesIncludeOnlyTheStandardLibrary)
 {
     for (const fs::path &file : sources())
-        if (isRule(roomOf(file)))
+        if (kRules.count(roomOf(file)) == 1)
             for (const std::string &name : includesOf(file, kSystemInclude))
                 EXPECT_TRUE(std::regex_match(name, std::regex("[a-z_0-9]+"))) << file << " includes <" << name << ">";
 }
@@ -158,91 +219,30 @@ TEST(IncludeTable, librariesAreKnownWhereTheyAreWrapped)
             if (name.find("sqlite3") != std::string::npos)
                 EXPECT_EQ(room, "platform/sqlite") << file;
             if (name.find("mspack") != std::string::npos)
-                EXPECT_EQ(room, "platform/chm") << file;
+                EXPECT_EQ(room, "help/chm") << file;
             if (name.rfind("xcb/", 0) == 0)
-                EXPECT_TRUE(room == "platform/qt" || room == "hostbench") << file;
+                EXPECT_TRUE(room == "platform/x11" || room == "hostbench") << file;
         }
     }
 }
 
-// The reader of help files is no rule, for it wraps a library, and yet knows nothing of the toolkit.
-TEST(IncludeTable, helpFilesAreReadWithoutTheToolkit)
+TEST(IncludeTable, librariesAreWrappedWithoutTheToolkit)
 {
     for (const fs::path &file : sources())
-        if (roomOf(file) == "platform/chm" || roomOf(file) == "platform/posix" || roomOf(file) == "platform/sqlite")
+        if (kWithoutToolkit.count(roomOf(file)) == 1)
             EXPECT_FALSE(includesQt(file)) << file;
 }
 
-TEST(IncludeTable, nobodyIncludesTheApp)
+// The reading of rooms itself, on files whose room is beyond doubt.
+TEST(IncludeTable, roomsAreToldApart)
 {
-    for (const fs::path &file : sources())
-        if (roomOf(file) != "app")
-            for (const std::string &name : includesOf(file, kOwnInclude))
-                EXPECT_NE(name.substr(0, 4), "app/") << file;
-}
-
-/// A room as docs/architecture.md names it.
-std::string nameOnThePage(const Room &room)
-{
-    const Room row = room == "app" ? room : rowOf(room);
-    if (row == "pages/")
-        return "pages";
-    if (row == "pages/+")
-        return "pages windows";
-    return row.back() == '+' ? row.substr(0, row.size() - 1) + " windows" : row;
-}
-
-/// Every edge between two rooms, as a row of the table on that page.
-std::set<std::string> rowsOfTheGraph()
-{
-    std::map<std::string, std::set<std::string>> edges;
-    for (const fs::path &file : sources()) {
-        const std::string from = nameOnThePage(roomOf(file));
-        for (const std::string &name : includesOf(file, kOwnInclude))
-            if (fs::exists(kSource / name) && nameOnThePage(roomOf(kSource / name)) != from)
-                edges[from].insert(nameOnThePage(roomOf(kSource / name)));
-    }
-    std::set<std::string> rows;
-    for (const auto &[from, targets] : edges) {
-        std::string row = "| " + from + " | ";
-        for (const std::string &to : targets)
-            row += (to == *targets.begin() ? "" : ", ") + to;
-        rows.insert(row + " |");
-    }
-    return rows;
-}
-
-TEST(IncludeTable, architecturePageNamesEveryEdge)
-{
-    std::istringstream page(contentOf(kSource.parent_path() / "docs" / "architecture.md"));
-    std::set<std::string> rows;
-    bool isInTable = false;
-    for (std::string line; std::getline(page, line);) {
-        if (isInTable && line.rfind("| ", 0) == 0)
-            rows.insert(line);
-        isInTable = line.rfind("|---", 0) == 0 || (isInTable && line.rfind("| ", 0) == 0);
-    }
-    EXPECT_EQ(rows, rowsOfTheGraph());
-}
-
-// The table itself, on pairs that must come out one way or the other whatever the tree holds.
-TEST(IncludeTable, tableTellsNeighboursApart)
-{
-    EXPECT_TRUE(mayInclude("pages/luminaire+", "wizard+"));
-    EXPECT_TRUE(mayInclude("pages/luminaire+", "pages/luminaire"));
-    EXPECT_FALSE(mayInclude("pages/luminaire+", "pages/candela"));
-    EXPECT_FALSE(mayInclude("pages/luminaire", "pages/luminaire+"));
-    EXPECT_FALSE(mayInclude("wizard", "wizard+"));
-    EXPECT_FALSE(mayInclude("wizard+", "pages/luminaire+"));
-    EXPECT_FALSE(mayInclude("platform/qt", "core"));
-    EXPECT_FALSE(mayInclude("platform/sqlite", "platform/qt"));
-    EXPECT_FALSE(mayInclude("platform/qt", "platform/chm"));
-    EXPECT_FALSE(mayInclude("hostbench", "platform/qt"));
-    EXPECT_FALSE(mayInclude("hostbench", "app"));
-    EXPECT_TRUE(mayInclude("hostbench", "pages/candela"));
-    EXPECT_FALSE(mayInclude("hostbench", "pages/candela+"));
-    EXPECT_FALSE(mayInclude("wizard+", "pages/candela"));
-    EXPECT_FALSE(mayInclude("a folder nobody knows", "core"));
+    EXPECT_EQ(roomOf(kSource / "wizard/FieldCheck.h"), "wizard");
+    EXPECT_EQ(roomOf(kSource / "wizard/WizardWindow.h"), "wizard windows");
+    EXPECT_EQ(roomOf(kSource / "pages/luminaire/LampFields.cpp"), "pages");
+    EXPECT_EQ(roomOf(kSource / "pages/luminaire/LampPage.cpp"), "pages windows");
+    EXPECT_EQ(roomOf(kSource / "platform/Dialogs.h"), "platform");
+    EXPECT_EQ(roomOf(kSource / "platform/qt/QtDialogs.h"), "platform/qt");
+    EXPECT_EQ(roomOf(kSource / "hostlib/include/penwright_host/HostRecord.h"), "hostlib");
 }
 
 }  // namespace

@@ -1,0 +1,80 @@
+#include "controls/LongTextBox.h"
+
+#include <QMouseEvent>
+#include <QResizeEvent>
+#include <QTextBlock>
+
+namespace penwright {
+namespace {
+
+constexpr qsizetype kOrdinaryLines = 10'000;
+constexpr int kLinesOfABlock = 100;
+
+/// A text box spends most of its time for each block of text, whatever its length, so that a long list becomes blocks
+/// of many lines. What is read or copied from the box is the same.
+void joinIntoBlocks(QString &lines)
+{
+    int line = 0;
+    for (QChar &character : lines)
+        if (character == '\n' && ++line % kLinesOfABlock != 0)
+            character = QChar::LineSeparator;
+}
+
+}  // namespace
+
+LongTextBox::LongTextBox(QWidget *parent) : QPlainTextEdit(parent)
+{
+    setReadOnly(true);
+    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTabChangesFocus(true);
+    setUndoRedoEnabled(false);
+}
+
+void LongTextBox::showLines(QString lines)
+{
+    m_isLong = lines.count('\n') > kOrdinaryLines;
+    setLineWrapMode(m_isLong ? NoWrap : WidgetWidth);
+    if (m_isLong)
+        joinIntoBlocks(lines);
+    setPlainText(lines);
+    countLines();
+}
+
+void LongTextBox::mousePressEvent(QMouseEvent *event)
+{
+    QPlainTextEdit::mousePressEvent(event);
+    QTextCursor cursor = cursorForPosition(event->position().toPoint());
+    // The third click of a row selects a block.
+    if (!m_isLong || textCursor().selectionStart() != cursor.block().position() || !textCursor().hasSelection())
+        return;
+    cursor.select(QTextCursor::LineUnderCursor);
+    setTextCursor(cursor);
+}
+
+void LongTextBox::resizeEvent(QResizeEvent *event)
+{
+    QPlainTextEdit::resizeEvent(event);
+    if (!m_isLong)
+        return;
+    countLines();
+    QResizeEvent again(event->size(), event->size());  // sets the scroll bars by the true count
+    QPlainTextEdit::resizeEvent(&again);
+}
+
+void LongTextBox::changeEvent(QEvent *event)
+{
+    QPlainTextEdit::changeEvent(event);
+    countLines();
+}
+
+// A block that has never been shown, and each block at a new size or font, counts as one line; scrolling needs them
+// all.
+void LongTextBox::countLines()
+{
+    if (!m_isLong)
+        return;
+    for (QTextBlock block = document()->begin(); block.isValid(); block = block.next())
+        block.setLineCount(1 + static_cast<int>(block.text().count(QChar(QChar::LineSeparator))));
+}
+
+}  // namespace penwright

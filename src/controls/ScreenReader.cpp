@@ -1,0 +1,95 @@
+#include "controls/ScreenReader.h"
+
+#include <QAbstractItemView>
+#include <QAccessibleApplication>
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QWindow>
+
+namespace penwright {
+namespace {
+
+constexpr const char *kRole = "screenReaderRole";
+
+/// The program with all its windows, embedded ones first.
+class Program : public QAccessibleApplication {
+public:
+    int childCount() const override
+    {
+        return static_cast<int>(embedded().size()) + QAccessibleApplication::childCount();
+    }
+
+    QAccessibleInterface *child(int index) const override
+    {
+        const QWidgetList own = embedded();
+        const int count = static_cast<int>(own.size());
+        return index >= 0 && index < count ? QAccessible::queryAccessibleInterface(own.at(index))
+                                           : QAccessibleApplication::child(index - count);
+    }
+
+    int indexOfChild(const QAccessibleInterface *child) const override
+    {
+        const QWidgetList own = embedded();
+        const auto index = static_cast<int>(own.indexOf(qobject_cast<QWidget *>(child->object())));
+        if (index >= 0)
+            return index;
+        const int other = QAccessibleApplication::indexOfChild(child);
+        return other >= 0 ? static_cast<int>(own.size()) + other : other;
+    }
+
+private:
+    static QWidgetList embedded()
+    {
+        QWidgetList found;
+        for (QWidget *window : QApplication::topLevelWidgets())
+            if (const QWindow *handle = window->windowHandle(); handle && handle->parent())
+                found.append(window);
+        return found;
+    }
+};
+
+/// Asked for each class of an object, the most derived one first.
+QAccessibleInterface *answer(const QString &className, QObject *object)
+{
+    if (className == QLatin1String("QApplication"))
+        return new Program;
+    if (className == QLatin1String("QFrame") && object->metaObject()->className() == className)
+        return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Grouping);
+    const QVariant role = object ? object->property(kRole) : QVariant();
+    if (!role.isValid() || !object->isWidgetType())
+        return nullptr;
+    return new QAccessibleWidget(static_cast<QWidget *>(object), static_cast<QAccessible::Role>(role.toInt()));
+}
+
+}  // namespace
+
+void setScreenReaderRole(QWidget &widget, QAccessible::Role role)
+{
+    static const bool isInstalled = (QAccessible::installFactory(answer), true);
+    static_cast<void>(isInstalled);
+    widget.setProperty(kRole, static_cast<int>(role));
+}
+
+void describe(QWidget &widget, const QString &description)
+{
+    if (widget.accessibleDescription() != description)
+        widget.setAccessibleDescription(description);
+}
+
+void tellCurrentItem(QAbstractItemView &view)
+{
+    if (!QAccessible::isActive())
+        return;
+    const auto tell = [&view] {
+        const QModelIndex current = view.currentIndex();
+        QAccessibleTableInterface *table = QAccessible::queryAccessibleInterface(&view)->tableInterface();
+        if (!current.isValid() || !view.hasFocus() || !table)
+            return;
+        QAccessibleEvent event(table->cellAt(current.row(), current.column()), QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    };
+    // The view itself is told once it has taken the focus.
+    QMetaObject::invokeMethod(&view, tell, Qt::QueuedConnection);
+}
+
+}  // namespace penwright

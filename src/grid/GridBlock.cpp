@@ -1,0 +1,67 @@
+#include "grid/GridBlock.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace penwright {
+namespace {
+
+std::vector<std::string> splitAt(std::string_view text, char mark)
+{
+    std::vector<std::string> parts;
+    for (std::size_t end; (end = text.find(mark)) != std::string_view::npos; text.remove_prefix(end + 1))
+        parts.emplace_back(text.substr(0, end));
+    parts.emplace_back(text);
+    return parts;
+}
+
+std::string withPlainLineEnds(std::string_view text)
+{
+    std::string plain(text);
+    for (std::size_t at = 0; (at = plain.find("\r\n", at)) != std::string::npos;)
+        plain.erase(at, 1);
+    return plain;
+}
+
+/// The lines as they are but for the lines and columns behind the last text of the block.
+GridLines trimmed(GridLines lines)
+{
+    std::size_t height = 0;
+    std::size_t width = 0;
+    for (std::size_t row = 0; row < lines.size(); ++row) {
+        for (std::size_t column = 0; column < lines[row].size(); ++column) {
+            if (lines[row][column].empty())
+                continue;
+            height = row + 1;
+            width = std::max(width, column + 1);
+        }
+    }
+    if (height == 0)
+        return lines;
+    lines.resize(height);
+    for (auto &line : lines)
+        line.resize(std::min(line.size(), width));
+    return lines;
+}
+
+}  // namespace
+
+bool isGridBlock(std::string_view text)
+{
+    return text.find_first_of("\t\n") != std::string_view::npos;
+}
+
+GridLines splitGridBlock(std::string_view text)
+{
+    if (text.empty())
+        return {};
+    std::string plain = withPlainLineEnds(text);
+    if (plain.back() == '\n')
+        plain.pop_back();
+    GridLines lines;
+    for (const std::string &line : splitAt(plain, '\n'))
+        lines.push_back(splitAt(line, '\t'));
+    return trimmed(std::move(lines));
+}
+
+}  // namespace penwright

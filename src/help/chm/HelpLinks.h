@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "help/HelpFile.h"
+
+namespace penwright::chm {
+
+/// ASCII letters in lower case; all else as it is.
+std::string lowerCase(std::string_view text);
+
+/// Whether an object is a page by its name.
+bool isPageName(std::string_view name);
+
+/// The place that a link names, seen from the top of the help file, whether or not there is such an object: what stands
+/// before the last "::" is dropped, "\" is "/", percent signs are decoded, "." and ".." are followed but not beyond the
+/// top, what follows "?" is dropped, what follows "#" is the anchor.
+HelpPlace placeOfLink(std::string_view link);
+
+}  // namespace penwright::chm

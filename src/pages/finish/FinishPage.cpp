@@ -1,0 +1,69 @@
+#include "pages/finish/FinishPage.h"
+
+#include <QHideEvent>
+
+#include "controls/ScreenReader.h"
+#include "ui_FinishPage.h"
+
+namespace penwright {
+
+FinishPage::FinishPage(const PageContext &context)
+    : PageFrame(kFinishPage, context),
+      m_form(std::make_unique<Ui::FinishPage>()),
+      m_finish(context.state, context.services)
+{
+    m_form->setupUi(formArea());
+    for (QLabel *label : {m_form->Label3, m_form->Label4}) {
+        QFont small = label->font();
+        small.setPointSizeF(small.pointSizeF() * 0.85);
+        label->setFont(small);
+    }
+    QFont large = m_form->Label80a->font();
+    large.setPointSizeF(large.pointSizeF() * 1.2);
+    m_form->Label80a->setFont(large);
+    onClick(m_form->cmdUnname, [this] { cmdUnname_Click(); });
+    onClick(m_form->cmdSaveAs, [this] { cmdSaveAs_Click(); });
+    addButtons({}, [this] { cmdBack80_Click(); });
+}
+
+FinishPage::~FinishPage() = default;
+
+void FinishPage::cmdUnname_Click()
+{
+    finish(false);
+}
+
+void FinishPage::cmdSaveAs_Click()
+{
+    finish(true);
+}
+
+void FinishPage::cmdBack80_Click()
+{
+    navigator().ShowPage(kCandelaPage);
+}
+
+void FinishPage::finish(bool saveAs)
+{
+    showStatus({});
+    const FinishEnd end = m_finish.SaveNewFile(saveAs, caption().toStdString());
+    if (end == FinishEnd::NotTaken)
+        showStatus("The host has not taken the file yet. It is kept for the host until it does.");
+}
+
+void FinishPage::hideEvent(QHideEvent *event)
+{
+    PageFrame::hideEvent(event);
+    if (!event->spontaneous() && window()->isVisible())
+        showStatus({});
+}
+
+void FinishPage::showStatus(const QString &text)
+{
+    m_form->labStatus->setText(text);
+    // A screen reader speaks up where the focus is, on the button pressed.
+    describe(*m_form->cmdUnname, text.isEmpty() ? m_form->Label80b->text() : text);
+    describe(*m_form->cmdSaveAs, text.isEmpty() ? m_form->Label80c->text() : text);
+}
+
+}  // namespace penwright

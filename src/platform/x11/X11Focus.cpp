@@ -1,0 +1,177 @@
+#include "platform/x11/X11Focus.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QTimer>
+#include <QWidget>
+#include <QWindow>
+
+#include <xcb/xcb.h>
+
+namespace penwright {
+namespace {
+
+using namespace std::chrono_literals;
+
+void activateModal()
+{
+    QWidget *modal = QApplication::activeModalWidget();
+    if (!modal)
+        return;
+    modal->raise();
+    modal->activateWindow();
+    // Where the X focus never left the dialog, the display reports no change that would correct the toolkit's belief.
+    QApplication::setActiveWindow(modal);
+}
+
+}  // namespace
+
+ForeignWindows::ForeignWindows() = default;
+ForeignWindows::~ForeignWindows() = default;
+
+QWindow *ForeignWindows::of(x11::WindowId window)
+{
+    std::unique_ptr<QWindow> &foreign = m_windows[window];
+    if (!foreign)
+        foreign.reset(QWindow::fromWinId(window));
+    return foreign.get();
+}
+
+X11Focus::X11Focus(QWidget &window, ForeignWindows &foreign) : m_window(&window), m_foreign(foreign)
+{
+    qApp->installEventFilter(this);
+    qApp->installNativeEventFilter(this);
+    connect(qApp, &QGuiApplication::focusWindowChanged, this, &X11Focus::onFocusWindow);
+}
+
+void X11Focus::setHost(x11::WindowId host)
+{
+    m_host = host;
+    m_takeWhenExposed = false;
+    // A dialog blocks the windows it shares a top-level window with; for the wizard that leads through its host.
+    const x11::WindowId top = host ? x11::topLevelOf(host) : 0;
+    m_hostTop = top;
+    m_heldIt = false;
+    if (top)
+        x11::watch(top);
+    if (top && top != host)
+        m_foreign.of(host)->setTransientParent(m_foreign.of(top));
+}
+
+void X11Focus::take()
+{
+    if (!m_host || !m_window || !m_window->isVisible() || QApplication::activeModalWidget())
+        return;
+    const auto self = static_cast<x11::WindowId>(m_window->winId());
+    m_takeWhenExposed = !x11::isViewable(self);
+    // Taken again it would count as taken later than a key that is on its way, and what that key opens would not get
+    // it.
+    if (x11::focused() != self)
+        x11::focus(self);
+    // Where the X focus never left the wizard, the display reports nothing that would tell the toolkit so.
+    if (!m_takeWhenExposed)
+        m_window->activateWindow();
+}
+
+bool X11Focus::eventFilter(QObject *object, QEvent *event)
+{
+    if (!m_host || !m_window)
+        return false;
+    // The toolkit tells its top-level windows, and a window in another one is none for it.
+    if (object == qApp && event->type() == QEvent::ApplicationPaletteChange)
+        QCoreApplication::sendEvent(m_window->windowHandle(), event);
+    if (object == m_window || object == m_window->windowHandle())
+        onOwnWindow(event->type());
+    else if (object->isWidgetType() && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
+        onOtherWindow(static_cast<QWidget &>(*object), event->type());
+    }
+    return false;
+}
+
+void X11Focus::onOwnWindow(QEvent::Type type)
+{
+    // Each comes to the widget, to its native window or to both; to take the focus twice is to take it once.
+    if (type == QEvent::MouseButtonPress)
+        take();
+    else if (type == QEvent::Show)
+        QTimer::singleShot(0, this, &X11Focus::take);
+    else if (type == QEvent::Expose && m_takeWhenExposed)
+        take();
+}
+
+void X11Focus::onOtherWindow(QWidget &other, QEvent::Type type)
+{
+    if (!other.isWindow() || !other.windowHandle())
+        return;
+    if (other.windowType() == Qt::Dialog)
+        onDialog(other, type);
+    else if (other.windowType() == Qt::Window && type == QEvent::Hide && other.windowHandle() == m_lastFocused)
+        takeBack();  // the help window, closed by its user
+}
+
+void X11Focus::onDialog(QWidget &dialog, QEvent::Type type)
+{
+    if (type == QEvent::Show) {
+        dialog.windowHandle()->setTransientParent(m_foreign.of(x11::topLevelOf(m_host)));
+        return;
+    }
+    takeBack();
+}
+
+void X11Focus::takeBack()
+{
+    m_contested.setRemainingTime(2s);
+    QTimer::singleShot(0, this, [this] {
+        activateModal();
+        take();
+    });
+}
+
+void X11Focus::onFocusWindow(QWindow *focused)
+{
+    if (focused)
+        m_lastFocused = focused;
+    if (!m_window)
+        return;
+    // A click on the blocked wizard still makes the toolkit believe that the wizard is active.
+    if (focused == m_window->windowHandle() && QApplication::activeModalWidget())
+        QTimer::singleShot(0, this, activateModal);
+    // A window manager that notices late that a window is gone gives the focus to the host after it was taken here.
+    else if (m_host && !focused && !m_contested.hasExpired() && hasHostTakenIt())
+        take();
+}
+
+bool X11Focus::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
+{
+    if (!m_hostTop || eventType != "xcb_generic_event_t")
+        return false;
+    const auto *event = static_cast<const xcb_focus_in_event_t *>(message);
+    const int type = event->response_type & 0x7f;
+    const bool isFocus = type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT;
+    if (isFocus && event->event == m_hostTop && event->mode != XCB_NOTIFY_MODE_GRAB &&
+        event->mode != XCB_NOTIFY_MODE_UNGRAB)
+        onHostFocus(type == XCB_FOCUS_IN, event->detail);
+    return false;
+}
+
+// A window manager gives the focus to the host's window and knows nothing of the wizard in it.
+void X11Focus::onHostFocus(bool gets, int detail)
+{
+    const bool isBetweenBoth = detail == XCB_NOTIFY_DETAIL_INFERIOR;
+    const bool isHostsOwn = detail == XCB_NOTIFY_DETAIL_NONLINEAR || detail == XCB_NOTIFY_DETAIL_ANCESTOR;
+    if (gets ? !isBetweenBoth && !isHostsOwn : isBetweenBoth)  // something in the host's window gets it
+        m_heldIt = m_window && x11::focused() == static_cast<x11::WindowId>(m_window->winId());
+    else if (gets ? isBetweenBoth : isHostsOwn)  // the host takes it from the wizard, or loses what was its own
+        m_heldIt = false;
+    else if (gets && m_heldIt && !x11::isButtonHeld())
+        QTimer::singleShot(0, this, &X11Focus::take);
+}
+
+// A user who clicks on the host means it, and still holds the button when the focus goes.
+bool X11Focus::hasHostTakenIt() const
+{
+    const x11::WindowId holder = x11::focused();
+    return holder != 0 && x11::topLevelOf(holder) == x11::topLevelOf(m_host) && !x11::isButtonHeld();
+}
+
+}  // namespace penwright

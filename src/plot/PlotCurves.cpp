@@ -1,0 +1,109 @@
+#include "plot/PlotCurves.h"
+
+#include <algorithm>
+
+#include "core/NumberText.h"
+#include "plot/PlotSymmetry.h"
+#include "plot/PlotTable.h"
+
+namespace penwright {
+
+namespace {
+
+void takePeak(PlotCurve &curve, const std::vector<PlotNode> &nodes, bool opposite)
+{
+    for (const PlotNode &node : nodes)
+        if (node.candela && (!curve.largest || *node.candela > curve.largest->candela))
+            curve.largest = PlotPeak{*node.candela, node.degrees, opposite};
+}
+
+void appendHalf(PlotCurve &plane, const std::vector<PlotNode> &nodes, PlotPlacing place, bool opposite)
+{
+    appendRuns(plane.runs, nodes, place);
+    takePeak(plane, nodes, opposite);
+}
+
+/// The listed values in every direction that they stand for, from the list's own ones on.
+std::vector<PlotNode> turnedFullCircle(const std::vector<PlotNode> &listed, const PlotCircle &circle)
+{
+    const float first = listed.front().degrees;
+    const float last = listed.back().degrees;
+    if (circle.symmetry() == PlotSymmetry::Rotational)
+        return {listed.front(), {first + 360, listed.front().candela}};
+
+    std::vector<PlotNode> around;
+    for (const PlotCircle::Stretch &stretch : circle.stretches()) {
+        // The stretch before has ended with what this one begins with.
+        const int known = around.empty() ? 0 : 1;
+        if (stretch.backward)
+            for (auto node = listed.rbegin() + known; node != listed.rend(); ++node)
+                around.push_back({stretch.start + (last - node->degrees), node->candela});
+        else
+            for (auto node = listed.begin() + known; node != listed.end(); ++node)
+                around.push_back({stretch.start + (node->degrees - first), node->candela});
+    }
+    return around;
+}
+
+void appendCone(PlotCurve &cone, const std::vector<PlotNode> &listed, const PlotCircle &circle)
+{
+    takePeak(cone, listed, false);
+    appendRuns(cone.runs, turnedFullCircle(listed, circle), aroundFromTheRight);
+}
+
+void addTypeC(PlotCurves &curves, const PlotTable &table)
+{
+    const PlotCircle circle(table.firstHorizontal(), table.lastHorizontal());
+    if (const auto right = table.horizontalPlace(curves.horizontalAngle))
+        appendHalf(curves.plane, table.plane(*right), rightOfNadir, false);
+    if (const auto angle = circle.listedAngle(double{curves.horizontalAngle} + 180))
+        if (const auto left = table.horizontalPlace(*angle))
+            appendHalf(curves.plane, table.plane(*left), leftOfNadir, true);
+    if (const auto vertical = table.verticalPlace(curves.verticalAngle))
+        appendCone(curves.cone, table.cone(*vertical), circle);
+}
+
+std::string peakText(const PlotCurve &curve)
+{
+    if (!curve.largest)
+        return "no values";
+    return "largest " + generalText(toSingle(curve.largest->candela)) + " candela at " +
+           generalText(curve.largest->degrees) + " degrees" + (curve.largest->opposite ? " on the opposite side" : "");
+}
+
+}  // namespace
+
+double PlotCurves::largest() const
+{
+    const auto of = [](const PlotCurve &curve) { return curve.largest ? curve.largest->candela : 0.0; };
+    return std::max(of(plane), of(cone));
+}
+
+PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
+                      float verticalAngle)
+{
+    const PlotTable table(record, cells);
+    PlotCurves curves;
+    curves.typeC = record.PhotometricType == kTypeC;
+    curves.horizontalAngle = horizontalAngle;
+    curves.verticalAngle = verticalAngle;
+    if (table.empty())
+        return curves;
+    if (curves.typeC)
+        addTypeC(curves, table);
+    else if (const auto place = table.horizontalPlace(horizontalAngle))
+        appendHalf(curves.plane, table.plane(*place), aroundFromTheRight, false);
+    return curves;
+}
+
+std::string plotDescription(const PlotCurves &curves)
+{
+    std::string text = "Vertical plane through horizontal angle " + generalText(curves.horizontalAngle) + ": " +
+                       peakText(curves.plane);
+    if (curves.typeC)
+        text += "; horizontal cone through vertical angle " + generalText(curves.verticalAngle) + ": " +
+                peakText(curves.cone);
+    return text + ".";
+}
+
+}  // namespace penwright

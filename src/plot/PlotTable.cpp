@@ -1,0 +1,76 @@
+#include "plot/PlotTable.h"
+
+#include <cmath>
+
+namespace penwright {
+
+namespace {
+
+std::optional<PlotPlace> placeIn(const OneBased<float> &angles, int count, float degrees)
+{
+    for (int i = 1; i <= count; ++i)
+        if (angles(i) == degrees)
+            return PlotPlace{i, i, 0};
+    for (int i = 1; i < count; ++i)
+        if (angles(i) < degrees && degrees < angles(i + 1))
+            return PlotPlace{i, i + 1,
+                             (double{degrees} - double{angles(i)}) / (double{angles(i + 1)} - double{angles(i)})};
+    return std::nullopt;
+}
+
+std::optional<double> between(std::optional<double> low, std::optional<double> high, double share)
+{
+    if (!low || !high)
+        return std::nullopt;
+    return inProportion(*low, *high, share);
+}
+
+}  // namespace
+
+PlotTable::PlotTable(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells)
+    : m_record(record), m_cells(cells)
+{
+    const int horizontal = record.NumHorzAngles;
+    const int vertical = record.NumVertAngles;
+    if (horizontal < 0 || horizontal > record.HorAngles.size() || horizontal > cells.rows() || vertical < 0 ||
+        vertical > record.VertAngles.size() || vertical > cells.columns())
+        throw subscriptOutOfRange();
+}
+
+std::optional<PlotPlace> PlotTable::horizontalPlace(float degrees) const
+{
+    return placeIn(m_record.HorAngles, m_record.NumHorzAngles, degrees);
+}
+
+std::optional<PlotPlace> PlotTable::verticalPlace(float degrees) const
+{
+    return placeIn(m_record.VertAngles, m_record.NumVertAngles, degrees);
+}
+
+std::vector<PlotNode> PlotTable::plane(const PlotPlace &horizontal) const
+{
+    std::vector<PlotNode> nodes;
+    for (int v = 1; v <= m_record.NumVertAngles; ++v)
+        nodes.push_back(
+            {m_record.VertAngles(v), between(value(horizontal.low, v), value(horizontal.high, v), horizontal.share)});
+    return nodes;
+}
+
+std::vector<PlotNode> PlotTable::cone(const PlotPlace &vertical) const
+{
+    std::vector<PlotNode> nodes;
+    for (int h = 1; h <= m_record.NumHorzAngles; ++h)
+        nodes.push_back(
+            {m_record.HorAngles(h), between(value(h, vertical.low), value(h, vertical.high), vertical.share)});
+    return nodes;
+}
+
+std::optional<double> PlotTable::value(int h, int v) const
+{
+    const std::optional<double> number = numberOf(m_cells(h, v));
+    if (!number || !std::isfinite(*number) || *number < 0)
+        return std::nullopt;
+    return number;
+}
+
+}  // namespace penwright

@@ -1,0 +1,45 @@
+#include "grid/GridBlock.h"
+
+#include <gtest/gtest.h>
+
+namespace penwright::test {
+namespace {
+
+TEST(GridBlock, isWhatHoldsATabOrALineEnd)
+{
+    EXPECT_FALSE(isGridBlock(""));
+    EXPECT_FALSE(isGridBlock("1 2"));
+    EXPECT_TRUE(isGridBlock("1\t2"));
+    EXPECT_TRUE(isGridBlock("1\n"));
+}
+
+struct SplitCase {
+    const char *text;
+    GridLines lines;
+};
+
+TEST(GridBlock, endsBehindItsLastText)
+{
+    const SplitCase kCases[]{
+        {"", {}},
+        {"1", {{"1"}}},
+        {"1\r\n", {{"1"}}},
+        {"1\t2\r\n3\t4", {{"1", "2"}, {"3", "4"}}},
+        {"1\n2\t3\n", {{"1"}, {"2", "3"}}},
+        {"1\n\n\n", {{"1"}}},
+        {"1\t\t\n\t\t\n", {{"1"}}},
+        {"\t1\t\n\n2\n", {{"", "1"}, {""}, {"2"}}},
+        {"1\t\n\t\n\t2\n\t\n", {{"1", ""}, {"", ""}, {"", "2"}}},
+    };
+    for (const SplitCase &row : kCases)
+        EXPECT_EQ(splitGridBlock(row.text), row.lines) << row.text;
+}
+
+TEST(GridBlock, ofEmptyCellsAloneIsTakenAsItIs)
+{
+    EXPECT_EQ(splitGridBlock("\n"), (GridLines{{""}}));
+    EXPECT_EQ(splitGridBlock("\t\n\t\n"), (GridLines{{"", ""}, {"", ""}}));
+}
+
+}  // namespace
+}  // namespace penwright::test
