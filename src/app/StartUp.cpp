@@ -79,7 +79,7 @@ int runTool(const std::string &commandLine, const std::string &executableFolder)
         return run(tool, commandLine, executableFolder);
     } catch (const RunTimeError &error) {
         Closing closing;
-        const SignalEnd signalEnd(closing);  // a signal dismisses the box, and the status is the same
+        const TerminationSignals terminationSignals(closing);  // a signal dismisses the box, and the status is the same
         QtDialogs dialogs(closing);
         showAndPrint(dialogs,
                      {"died in sub Main. reason: #" + std::to_string(error.number()) + " Msg:" + error.description()});

@@ -10,7 +10,7 @@
 #include "platform/qt/Closing.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
-#include "platform/qt/SignalEnd.h"
+#include "platform/qt/TerminationSignals.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "platform/x11/X11Embedding.h"
 #include "wizard/WizardWindow.h"
@@ -38,7 +38,7 @@ private:
     ToolState m_state;
     CandelaState m_candelaState;
     Closing m_closing;
-    SignalEnd m_signals;
+    TerminationSignals m_signals;
     SqliteSettingsStore m_store;
     PosixTextFiles m_files;
     QtDialogs m_dialogs;

@@ -4,7 +4,7 @@
 #include <QClipboard>
 #include <QMimeData>
 
-#include "platform/qt/ViewText.h"
+#include "platform/qt/QtText.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {
@@ -31,7 +31,7 @@ void writeClipboardText(std::string_view text)
 {
     QClipboard &clipboard = *QApplication::clipboard();
     clipboard.clear();
-    clipboard.setText(fromView(text));
+    clipboard.setText(toQString(text));
 }
 
 }  // namespace penwright

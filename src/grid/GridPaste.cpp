@@ -7,7 +7,7 @@
 #include "grid/GridDelegate.h"
 #include "grid/GridModel.h"
 #include "grid/GridView.h"
-#include "platform/qt/ViewText.h"
+#include "platform/qt/QtText.h"
 
 namespace penwright {
 namespace {
@@ -32,7 +32,7 @@ void GridView::pasteClipboard()
     try {
         const std::string text = readClipboardText();  // once: its owner may take long to answer
         if (m_editor && !isGridBlock(text))
-            return editorLine(m_editor)->insert(fromView(text));
+            return editorLine(m_editor)->insert(toQString(text));
         dropEdit();
         paste(text);
     } catch (const std::exception &error) {

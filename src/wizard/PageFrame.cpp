@@ -10,7 +10,7 @@
 #include "controls/InView.h"
 #include "controls/QuietLabel.h"
 #include "controls/ScreenReader.h"
-#include "platform/qt/ViewText.h"
+#include "platform/qt/QtText.h"
 #include "wizard/HandlerGuard.h"
 #include "wizard/WarningDialog.h"
 
@@ -71,7 +71,7 @@ PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_
 
 QString PageFrame::caption() const
 {
-    return fromView(rowOf(m_index).caption);
+    return toQString(rowOf(m_index).caption);
 }
 
 void PageFrame::focusFirstField()
@@ -98,7 +98,7 @@ void PageFrame::addButtons(const Handler &next, const Handler &back)
 {
     const PageRow &row = rowOf(m_index);
     const QString number = QString::number(row.number);
-    addButton(fromView(row.cancelButton), "Cancel", "Escape", [this] { navigator().ConfirmCancel(); });
+    addButton(toQString(row.cancelButton), "Cancel", "Escape", [this] { navigator().ConfirmCancel(); });
     addButton("cmdHelp" + number, "Help", "F1", [this, id = row.helpId] { navigator().ShowHelp(id); });
     m_buttons->addSpacing(16);
     m_next = addButton("cmdNext" + number, "Next >", "Alt+N", next ? [this, next] { pressNext(next); } : Handler());

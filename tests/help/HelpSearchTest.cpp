@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "help/window/PageLimits.h"
+#include "help/window/HelpPageLimits.h"
 
 namespace penwright::test {
 namespace {
@@ -44,7 +44,7 @@ std::string repeated(const std::string &text, int count)
     return result;
 }
 
-TEST(PageLimits, letPassWhatPeopleWrite)
+TEST(HelpPageLimits, letPassWhatPeopleWrite)
 {
     EXPECT_TRUE(isShowable(""));
     EXPECT_TRUE(isShowable("a < b <"));
@@ -54,7 +54,7 @@ TEST(PageLimits, letPassWhatPeopleWrite)
     EXPECT_TRUE(isShowable(repeated("<table>", 200) + std::string(20000, 'x')));
 }
 
-TEST(PageLimits, refuseWhatTheToolkitWouldHangOn)
+TEST(HelpPageLimits, refuseWhatTheToolkitWouldHangOn)
 {
     EXPECT_FALSE(isShowable(std::string((1U << 20) + 1, ' ')));
     EXPECT_FALSE(isShowable(std::string(20001, 'x')));

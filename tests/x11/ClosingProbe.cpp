@@ -22,7 +22,7 @@
 #include "platform/qt/Closing.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
-#include "platform/qt/SignalEnd.h"
+#include "platform/qt/TerminationSignals.h"
 #include "platform/x11/Display.h"
 #include "platform/x11/X11Embedding.h"
 
@@ -214,7 +214,7 @@ private:
 
     Closing m_closing;
     X11Embedding m_embedding;
-    SignalEnd m_signals;
+    TerminationSignals m_signals;
     QtDialogs m_dialogs;
     QtEventWait m_wait;
     QWidget m_window;

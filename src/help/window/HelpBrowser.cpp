@@ -7,7 +7,7 @@
 #include <QWheelEvent>
 #include <utility>
 
-#include "help/window/PageLimits.h"
+#include "help/window/HelpPageLimits.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {

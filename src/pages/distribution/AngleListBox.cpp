@@ -9,7 +9,7 @@
 
 #include "controls/OneLine.h"
 #include "pages/distribution/PredefinedAngles.h"
-#include "platform/qt/ViewText.h"
+#include "platform/qt/QtText.h"
 
 namespace penwright {
 
@@ -45,7 +45,7 @@ protected:
         forgetSign();
         QLineEdit::mouseReleaseEvent(event);
         const bool isFirst = std::exchange(m_isFirstClick, false);
-        if (event->button() == Qt::LeftButton && !hasSelectedText() && (isFirst || text() == fromView(kAnglePrompt)))
+        if (event->button() == Qt::LeftButton && !hasSelectedText() && (isFirst || text() == toQString(kAnglePrompt)))
             selectAll();
     }
 
@@ -76,9 +76,9 @@ void AngleListBox::offer(std::span<const std::string_view> entries)
     const QSignalBlocker blocker(this);
     clear();
     for (const std::string_view entry : entries)
-        addItem(fromView(entry));
+        addItem(toQString(entry));
     setCurrentIndex(-1);
-    replaceText(fromView(kAnglePrompt));
+    replaceText(toQString(kAnglePrompt));
 }
 
 std::string AngleListBox::chosenText() const

@@ -8,7 +8,7 @@
 
 #include "grid/GridDelegate.h"
 #include "pages/keywords/KeywordTable.h"
-#include "platform/qt/ViewText.h"
+#include "platform/qt/QtText.h"
 
 namespace penwright {
 namespace {
@@ -17,7 +17,7 @@ int widestKey(const QFontMetrics &metrics)
 {
     int widest = 0;
     const auto look = [&](const KeywordEntry &entry) {
-        widest = std::max(widest, metrics.horizontalAdvance(fromView(entry.keyword)));
+        widest = std::max(widest, metrics.horizontalAdvance(toQString(entry.keyword)));
     };
     std::for_each(kStandardKeywords.begin(), kStandardKeywords.end(), look);
     std::for_each(kVersionLines.begin(), kVersionLines.end(), look);

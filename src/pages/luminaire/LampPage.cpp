@@ -3,7 +3,7 @@
 #include "controls/ScreenReader.h"
 #include "pages/luminaire/InputUnits.h"
 #include "pages/luminaire/LuminousShapes.h"
-#include "platform/qt/ViewText.h"
+#include "platform/qt/QtText.h"
 #include "ui_LampPage.h"
 #include "wizard/WarningDialog.h"
 
@@ -12,13 +12,13 @@ namespace {
 
 void apply(const DimensionLook &look, QLabel &label, QLineEdit &box)
 {
-    const QString caption = fromView(look.caption);
+    const QString caption = toQString(look.caption);
     label.setText(caption);
     label.setEnabled(look.isEnabled);
     box.setAccessibleName(caption);
     box.setEnabled(look.isEnabled);
     if (look.text)
-        box.setText(fromView(*look.text));
+        box.setText(toQString(*look.text));
 }
 
 }  // namespace
@@ -40,7 +40,7 @@ void LampPage::load()
     m_form->rdoMeters->setChecked(!feet);
     tellUnits();
     for (const LuminousShape &shape : kLuminousShapes)
-        m_form->lmpCmbShape->addItem(fromView(shape.name));
+        m_form->lmpCmbShape->addItem(toQString(shape.name));
 }
 
 void LampPage::lmpCmbShape_Click()

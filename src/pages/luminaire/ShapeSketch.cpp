@@ -5,7 +5,7 @@
 #include <numbers>
 
 #include "pages/luminaire/LuminousShapes.h"
-#include "pages/luminaire/SketchSpace.h"
+#include "pages/luminaire/SketchGeometry.h"
 
 namespace penwright {
 namespace {
@@ -14,7 +14,7 @@ enum class Form { Point, Rectangle, Box, Disc, Cylinder, Ellipsoid };
 
 struct Solid {
     Form form;
-    Space half{};    ///< half its extent each way
+    Vector3 half{};  ///< half its extent each way
     int axis = kUp;  ///< of a disc or cylinder
 };
 
@@ -65,15 +65,15 @@ public:
 
 private:
     void polyline(StrokeKind kind, std::vector<SketchPoint> points);
-    void line(StrokeKind kind, const Space &from, const Space &to);
+    void line(StrokeKind kind, const Vector3 &from, const Vector3 &to);
     void arc(StrokeKind kind, const Ring &ring, double from, double to);
     void halfHiddenRing(const Ring &ring);
     void labelledLine(const SketchPoint &from, const SketchPoint &to, std::string_view label);
     void drawAxis(int axis, std::string_view letter);
-    void drawArrow(const Space &from, int axis, int across, std::string_view angle);
+    void drawArrow(const Vector3 &from, int axis, int across, std::string_view angle);
     void drawPoint();
-    void drawRectangle(const Space &half);
-    void drawBox(const Space &half);
+    void drawRectangle(const Vector3 &half);
+    void drawBox(const Vector3 &half);
     void drawDisc(const Solid &solid);
     void drawCylinder(const Solid &solid);
     void drawEllipsoid(const Solid &solid);
@@ -84,7 +84,7 @@ void Sketcher::polyline(StrokeKind kind, std::vector<SketchPoint> points)
     sketch.strokes.push_back({kind, std::move(points)});
 }
 
-void Sketcher::line(StrokeKind kind, const Space &from, const Space &to)
+void Sketcher::line(StrokeKind kind, const Vector3 &from, const Vector3 &to)
 {
     polyline(kind, {project(from), project(to)});
 }
@@ -100,7 +100,7 @@ void Sketcher::arc(StrokeKind kind, const Ring &ring, double from, double to)
 
 void Sketcher::halfHiddenRing(const Ring &ring)
 {
-    const auto [middle, half] = sightOf(ring);
+    const auto [middle, half] = visibleArcOf(ring);
     arc(StrokeKind::Outline, ring, middle - half, middle + half);
     arc(StrokeKind::Hidden, ring, middle + half, middle + kTurn - half);
 }
@@ -122,7 +122,7 @@ void Sketcher::drawFrame()
 void Sketcher::drawArrows(const Solid &solid)
 {
     // On the floor below the shape and in front of it, where they never cross it.
-    const Space floor = along(kUp, -solid.half[kUp]);
+    const Vector3 floor = along(kUp, -solid.half[kUp]);
     drawArrow(sum(floor, 1, along(kTo0, footOf(solid, kTo0))), kTo0, kTo90, "0°");
     drawArrow(sum(floor, 1, along(kTo90, footOf(solid, kTo90))), kTo90, kTo0, "90°");
 }
@@ -134,12 +134,12 @@ void Sketcher::drawAxis(int axis, std::string_view letter)
     labelledLine(kCorner, end, letter);
 }
 
-void Sketcher::drawArrow(const Space &from, int axis, int across, std::string_view angle)
+void Sketcher::drawArrow(const Vector3 &from, int axis, int across, std::string_view angle)
 {
     constexpr double kLength = 0.35;
     constexpr double kBarb = 0.11;
-    const Space tip = sum(from, kLength, along(axis, 1));
-    const Space back = sum(tip, -kBarb, along(axis, 1));
+    const Vector3 tip = sum(from, kLength, along(axis, 1));
+    const Vector3 back = sum(tip, -kBarb, along(axis, 1));
     labelledLine(project(from), project(tip), angle);
     polyline(StrokeKind::Frame, {project(sum(back, 0.5, along(across, kBarb))), project(tip),
                                  project(sum(back, -0.5, along(across, kBarb)))});
@@ -170,12 +170,12 @@ void Sketcher::drawPoint()
     arc(StrokeKind::Outline, {{}, sum({}, kRadius, kPictureRight), sum({}, kRadius, kPictureTop)}, 0, kTurn);
     const Ring sun{{}, kPictureRight, kPictureTop};
     for (int i = 0; i < kRays; ++i) {
-        const Space ray = sun.at(kTurn * i / kRays);
+        const Vector3 ray = sun.at(kTurn * i / kRays);
         line(StrokeKind::Outline, sum({}, 0.16, ray), sum({}, i % 2 ? 0.28 : 0.38, ray));
     }
 }
 
-void Sketcher::drawRectangle(const Space &half)
+void Sketcher::drawRectangle(const Vector3 &half)
 {
     const double x = half[kTo0];
     const double y = half[kTo90];
@@ -183,14 +183,14 @@ void Sketcher::drawRectangle(const Space &half)
              {project({x, y, 0}), project({-x, y, 0}), project({-x, -y, 0}), project({x, -y, 0}), project({x, y, 0})});
 }
 
-void Sketcher::drawBox(const Space &half)
+void Sketcher::drawBox(const Vector3 &half)
 {
     for (int axis = 0; axis < 3; ++axis) {
         const int one = (axis + 1) % 3;
         const int other = (axis + 2) % 3;
         for (const int a : {-1, 1}) {
             for (const int b : {-1, 1}) {
-                const Space middle = sum(along(one, a * half[one]), b, along(other, half[other]));
+                const Vector3 middle = sum(along(one, a * half[one]), b, along(other, half[other]));
                 // An edge is in sight when one of its two faces is.
                 const bool isSeen = a * kEye[one] > half[one] || b * kEye[other] > half[other];
                 line(isSeen ? StrokeKind::Outline : StrokeKind::Hidden, sum(middle, -1, along(axis, half[axis])),
@@ -217,7 +217,7 @@ void Sketcher::drawCylinder(const Solid &solid)
         else
             halfHiddenRing(ringAround(solid, end * length));
     }
-    const auto [middle, half] = sightOf(ringAround(solid, 0));
+    const auto [middle, half] = visibleArcOf(ringAround(solid, 0));
     for (const double angle : {middle - half, middle + half})
         line(StrokeKind::Outline, ringAround(solid, -length).at(angle), ringAround(solid, length).at(angle));
 }

@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include "controls/ScreenReader.h"
-#include "platform/qt/ViewText.h"
+#include "platform/qt/QtText.h"
 
 namespace penwright {
 namespace {
@@ -90,7 +90,7 @@ void ShapeSketchView::paintEvent(QPaintEvent *)
     }
     painter.setPen(colour);
     for (const SketchLabel &label : m_sketch.labels) {
-        const QString text = fromView(label.text);
+        const QString text = toQString(label.text);
         const QPointF end = place(label.end);
         painter.drawText(boxBeside(end, {label.away.x, label.away.y}, text, fontMetrics()),
                          Qt::AlignCenter | Qt::TextDontClip, text);

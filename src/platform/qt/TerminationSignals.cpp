@@ -1,4 +1,4 @@
-#include "platform/qt/SignalEnd.h"
+#include "platform/qt/TerminationSignals.h"
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -48,7 +48,7 @@ void releaseSignal(int number)
 
 }  // namespace
 
-SignalEnd::SignalEnd(Closing &closing)
+TerminationSignals::TerminationSignals(Closing &closing)
 {
     if (pipe2(m_pipe, O_CLOEXEC | O_NONBLOCK) != 0)
         return;  // without a pipe the signals keep ending the process at once
@@ -64,7 +64,7 @@ SignalEnd::SignalEnd(Closing &closing)
         catchSignal(number);
 }
 
-SignalEnd::~SignalEnd()
+TerminationSignals::~TerminationSignals()
 {
     for (const int number : kSignals)
         releaseSignal(number);

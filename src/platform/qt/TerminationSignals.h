@@ -9,12 +9,12 @@ namespace penwright {
 class Closing;
 
 /// Turns SIGTERM, SIGINT and SIGHUP into the one closing flag.
-class SignalEnd : public QObject {
+class TerminationSignals : public QObject {
     Q_OBJECT
 
 public:
-    explicit SignalEnd(Closing &closing);
-    ~SignalEnd() override;
+    explicit TerminationSignals(Closing &closing);
+    ~TerminationSignals() override;
 
 private:
     int m_pipe[2] = {-1, -1};

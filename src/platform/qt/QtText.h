@@ -7,7 +7,7 @@
 namespace penwright {
 
 /// A UTF-8 text as the toolkit takes it.
-inline QString fromView(std::string_view text)
+inline QString toQString(std::string_view text)
 {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }

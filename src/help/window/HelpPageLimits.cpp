@@ -1,4 +1,4 @@
-#include "help/window/PageLimits.h"
+#include "help/window/HelpPageLimits.h"
 
 #include <algorithm>
 #include <iterator>
