@@ -13,6 +13,8 @@
 #include <memory>
 #include <optional>
 
+#include "platform/posix/TemporaryFile.h"
+
 namespace penwright {
 namespace {
 
@@ -21,7 +23,6 @@ constexpr mode_t kPrivateModes = 0600;
 constexpr mode_t kAnyoneMayWrite = 0222;
 constexpr mode_t kAllModes = 07777;
 constexpr int kMostLinks = 40;
-constexpr int kMostTemporaryNames = 100;
 
 FileCalls &systemCalls()
 {
@@ -164,8 +165,9 @@ int PosixTextFiles::replaceByRename(const std::string &target, const struct stat
 {
     std::string temporary;
     const std::string folder = folderOf(target);
+    removeLeftOver(folder);
     // What stands in a private file is not shown to others on its way.
-    const int file = openTemporary(temporary, folder, existing ? kPrivateModes : kNewFileModes);
+    const int file = openTemporary(m_calls, temporary, folder, existing ? kPrivateModes : kNewFileModes);
     if (file < 0)
         return errno;
     int error = writeAll(file, text);
@@ -181,19 +183,6 @@ int PosixTextFiles::replaceByRename(const std::string &target, const struct stat
     else
         flushFolder(folder);
     return error;
-}
-
-/// A name may be left over from a process of the same number that was killed while it wrote.
-int PosixTextFiles::openTemporary(std::string &name, const std::string &folder, mode_t modes)
-{
-    int file = -1;
-    for (int number = 1; number <= kMostTemporaryNames; ++number) {
-        name = folder + ".penwright-" + std::to_string(::getpid()) + "-" + std::to_string(number) + ".tmp";
-        file = m_calls.open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, modes);
-        if (file >= 0 || errno != EEXIST)
-            break;
-    }
-    return file;
 }
 
 // Opened without waiting, a pipe that nobody reads refuses at once. A regular file is cut to its size at the end only,

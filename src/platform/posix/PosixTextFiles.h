@@ -10,7 +10,7 @@ namespace penwright {
 /// Files by way of a temporary one beside the target, flushed to disk and renamed over it. Symbolic links are followed;
 /// modes, and the owner where the system lets us, of an existing file are kept. Pipes and devices are written in place
 /// (one that takes nothing for ten seconds is EIO), and so is a file whose folder takes no new one: a failure there
-/// puts the old text back as far as the disk allows.
+/// puts the old text back as far as the disk allows. A temporary file that a killed process left in the folder goes.
 class PosixTextFiles : public TextFiles {
 public:
     PosixTextFiles();
@@ -23,7 +23,6 @@ private:
     int replaceExisting(const std::string &target, const struct stat &existing, std::string_view text);
     int replaceByRename(const std::string &target, const struct stat *existing, std::string_view text);
     int writeInPlace(const std::string &target, bool isRegular, std::string_view text);
-    int openTemporary(std::string &name, const std::string &folder, mode_t modes);
     int askWritable(const std::string &target);
     int writeAll(int file, std::string_view text);
     int closed(int file, int error);

@@ -82,15 +82,6 @@ TEST_F(Files, ownerAndGroupAreKeptWhereTheSystemLetsUs)
     EXPECT_EQ(contentOf(path), "theirs");
 }
 
-TEST_F(Files, nameLeftOverFromAKilledProcessIsPassedOver)
-{
-    const std::string leftOver = make(".penwright-" + std::to_string(getpid()) + "-1.tmp", "half");
-    EXPECT_EQ(files.replace(folder.file("a.ies"), "text"), 0);
-    EXPECT_EQ(contentOf(folder.file("a.ies")), "text");
-    EXPECT_EQ(contentOf(leftOver), "half");
-    EXPECT_EQ(entries(), 2);
-}
-
 TEST_F(Files, relativeNamesGoByTheWorkingFolder)
 {
     const fs::path before = fs::current_path();
