@@ -16,6 +16,8 @@
 #include <utility>
 #include <vector>
 
+#include "support/ForeignLines.h"
+
 namespace penwright::test {
 
 using namespace std::chrono_literals;
@@ -35,7 +37,7 @@ bool waitUntil(Condition condition, Milliseconds bound = 10s)
 }
 
 /// A child process whose standard input and output are pipes; standard error stays the test's own unless it is joined
-/// to the output or dropped. Killed, if it still runs, when this object goes.
+/// to the output, without its foreign lines, or dropped. Killed, if it still runs, when this object goes.
 class Process {
 public:
     using Environment = std::vector<std::pair<std::string, std::string>>;
@@ -43,6 +45,7 @@ public:
 
     explicit Process(const std::vector<std::string> &command, const Environment &added = {},
                      Errors errors = Errors::Inherited)
+        : m_errors(errors)
     {
         int input[2];
         int output[2];
@@ -89,12 +92,15 @@ public:
     std::optional<std::string> readLine(Milliseconds bound = 20s)
     {
         const auto end = std::chrono::steady_clock::now() + bound;
-        while (m_unread.find('\n') == std::string::npos)
-            if (!readMore(end))
-                return std::nullopt;
-        const auto length = m_unread.find('\n');
-        const std::string line = m_unread.substr(0, length);
-        m_unread.erase(0, length + 1);
+        std::string line;
+        do {
+            while (m_unread.find('\n') == std::string::npos)
+                if (!readMore(end))
+                    return std::nullopt;
+            const auto length = m_unread.find('\n');
+            line = m_unread.substr(0, length);
+            m_unread.erase(0, length + 1);
+        } while (m_errors == Errors::Joined && isForeignLine(line));
         return line;
     }
 
@@ -104,7 +110,8 @@ public:
         const auto end = std::chrono::steady_clock::now() + bound;
         while (readMore(end)) {
         }
-        return std::exchange(m_unread, {});
+        const std::string all = std::exchange(m_unread, {});
+        return m_errors == Errors::Joined ? withoutForeignLines(all) : all;
     }
 
     /// The exit status, or minus the number of the signal that ended the process; nothing when it goes on running.
@@ -151,6 +158,7 @@ private:
         return count > 0;
     }
 
+    Errors m_errors;
     pid_t m_pid = -1;
     int m_input = -1;
     int m_output = -1;

@@ -18,6 +18,7 @@
 #include "platform/qt/QtDialogs.h"
 #include "platform/x11/X11Embedding.h"
 #include "support/DialogDriver.h"
+#include "support/ForeignLines.h"
 #include "x11/DisplayQuery.h"
 #include "x11/HostProcess.h"
 
