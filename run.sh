@@ -22,11 +22,8 @@ esac
 
 . tools/prepare.sh
 install_packages
-log=build/run.log
-mkdir -p build
-echo "Building (the first time takes a few minutes) ..."
-{ configure release && cmake --build --preset release --target PenwrightPE hostbench; } >"$log" 2>&1 ||
-    { tail -n 40 "$log" >&2; echo "The build failed; all of its output is in $log." >&2; exit 1; }
+configure release
+build release --target PenwrightPE hostbench || { echo "The build failed." >&2; exit 1; }
 
 if [ -z "$folder" ]; then
     if xdpyinfo >/dev/null 2>&1; then

@@ -9,8 +9,8 @@ cd "$(dirname "$0")"
 install_packages
 
 for preset in ${1:-test test-clang release}; do
-    echo "== $preset"
-    configure "$preset" >/dev/null
-    cmake --build --preset "$preset" -- --quiet
+    configure "$preset"
+    build "$preset"
+    echo "== $preset: testing"
     ctest --preset "$preset" -j "$(($(nproc) + 1))"  # most of them wait most of the time
 done

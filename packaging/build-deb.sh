@@ -22,8 +22,8 @@ if [ $# -eq 2 ]; then
 else
     . tools/prepare.sh
     install_packages
-    configure release >/dev/null
-    cmake --build --preset release --target PenwrightPE hostbench help_file penwright_host -- --quiet
+    configure release
+    build release --target PenwrightPE hostbench help_file penwright_host
 fi
 
 umask 022

@@ -1,25 +1,18 @@
 #!/bin/sh
-# Tries the packages on a Debian 12 that has nothing else: installs them with what they depend on, runs the walk, removes
-# them, and looks for what is left. Needs root, debootstrap and the net; takes some minutes.
+# Tries the packages on a Debian 12 that has nothing else: installs them with what they depend on, runs the walk,
+# removes them, and looks for what is left. Needs what tools/fresh.sh needs; takes some minutes.
 #   packaging/try-deb.sh            tries the packages in build/packages
 #   packaging/try-deb.sh FOLDER     tries those in FOLDER
 set -eu
 packages=$(realpath "${1:-"$(dirname "$0")/../build/packages"}")
-expected=$(realpath "$(dirname "$0")/../tests/host/luminaire.ies")
+fresh=$(realpath "$(dirname "$0")/../tools/fresh.sh")
 
-root=$(mktemp -d)
-chmod 755 "$root"
-trap 'rm -rf --one-file-system "$root"' EXIT
-trap 'exit 1' HUP INT TERM
-debootstrap --variant=minbase bookworm "$root" >"$root.log" 2>&1 || { tail "$root.log" >&2; exit 1; }
-rm "$root.log"
-mkdir "$root/try"
-cp "$packages"/*.deb "$expected" "$root/try"
-
-cat >"$root/try/run" <<'END'
+# Run there; the packages come by standard input, and beside it lies a clone of this tree.
+script=$(cat <<'END'
 set -eu
-unset TMPDIR XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME  # folders of the machine outside
 export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
+mkdir /try
+tar -x -C /try
 fail() { echo "FAILED: $1" >&2; exit 1; }
 all_files() {
     find / -xdev \( -path /dev -o -path /proc -o -path /run -o -path /sys -o -path /tmp -o -path /try \
@@ -36,7 +29,7 @@ all_files >/try/installed
 mkdir -m 700 /try/runtime
 HOME=/try XDG_RUNTIME_DIR=/try/runtime unshare --net xvfb-run -a -s '-noreset -screen 0 1400x1100x24' \
     hostbench --walk /try/walk || fail walk
-cmp /try/walk/luminaire.ies /try/luminaire.ies || fail 'another file'
+cmp /try/walk/luminaire.ies tests/host/luminaire.ies || fail 'another file'
 PenwrightPE 2>/try/refusal && fail 'no refusal'
 grep -q 'there is no X display' /try/refusal || fail 'no reason'
 
@@ -48,5 +41,6 @@ comm -12 /try/owned /try/purged | while read -r path; do
 done | grep . && fail 'the packages left files'
 echo 'The packages install, run, and leave nothing.'
 END
-# Mounts of a namespace of its own end with it.
-unshare --mount sh -c 'mount -t proc proc "$0/proc" && mount --rbind /dev "$0/dev" && exec chroot "$0" sh /try/run' "$root"
+)
+cd "$packages"
+tar -c -- *.deb | "$fresh" sh -c "$script"
