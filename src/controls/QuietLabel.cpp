@@ -6,12 +6,6 @@
 #include "controls/MixedColour.h"
 
 namespace penwright {
-namespace {
-
-// Enough of the text's own colour to stay readable for weak eyes.
-constexpr float kShareOfText = 0.70F;
-
-}  // namespace
 
 QuietLabel::QuietLabel(QWidget *parent) : QuietLabel(QString(), parent) {}
 
@@ -30,7 +24,7 @@ void QuietLabel::changeEvent(QEvent *event)
 void QuietLabel::mixColour()
 {
     const QPalette base = QApplication::palette();  // the parent's may not have followed yet
-    const QColor quiet = mixedColour(base.color(QPalette::WindowText), base.color(QPalette::Window), kShareOfText);
+    const QColor quiet = quietText(base, QPalette::WindowText, QPalette::Window);
     if (palette().color(QPalette::WindowText) == quiet)
         return;  // setting it would be told as a change again
     QPalette own;

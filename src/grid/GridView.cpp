@@ -26,10 +26,7 @@ public:
     {
         if (hint != SH_Table_GridLineColor || !widget)
             return QProxyStyle::styleHint(hint, option, widget, returned);
-        constexpr float kShareOfText = 0.22F;
-        const QPalette &palette = widget->palette();
-        return static_cast<int>(
-            mixedColour(palette.color(QPalette::Text), palette.color(QPalette::Base), kShareOfText).rgba());
+        return static_cast<int>(lineColour(widget->palette()).rgba());
     }
 };
 

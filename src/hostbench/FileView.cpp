@@ -8,8 +8,8 @@
 #include <QPlainTextEdit>
 #include <QSplitter>
 
+#include "controls/MixedColour.h"
 #include "core/NumberText.h"
-#include "hostbench/HostStyle.h"
 #include "hostbench/PolarPicture.h"
 #include "hostlib/RecordBridge.h"
 #include "platform/RunTimeError.h"

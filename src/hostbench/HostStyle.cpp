@@ -4,16 +4,15 @@
 
 #include <utility>
 
+#include "controls/MixedColour.h"
+
 namespace penwright {
 
 namespace {
 
 QString mix(const QColor &over, const QColor &under, float share)
 {
-    const auto blend = [share](float a, float b) { return share * a + (1 - share) * b; };
-    return QColor::fromRgbF(blend(over.redF(), under.redF()), blend(over.greenF(), under.greenF()),
-                            blend(over.blueF(), under.blueF()))
-        .name();
+    return mixedColour(over, under, share).name();
 }
 
 constexpr const char *kSheet = R"(
@@ -59,7 +58,7 @@ QString hostStyleSheet(const QPalette &palette)
         {"@hover", mix(text, base, 0.07F)},
         {"@stripe", mix(text, base, 0.03F)},
         {"@text", text.name()},
-        {"@quiet", mix(text, base, 0.68F)},
+        {"@quiet", quietText(palette, QPalette::WindowText).name()},
         {"@disabled", mix(text, base, 0.45F)},
         {"@accent", isDark ? "#6ea8e6" : "#1d5fa8"},
     };
@@ -67,13 +66,6 @@ QString hostStyleSheet(const QPalette &palette)
     for (const auto &[name, colour] : colours)
         sheet.replace(name, colour);
     return sheet;
-}
-
-QColor quietText(const QPalette &palette)
-{
-    QColor quiet = palette.color(QPalette::Text);
-    quiet.setAlphaF(0.6F);
-    return quiet;
 }
 
 }  // namespace penwright

@@ -9,7 +9,4 @@ namespace penwright {
 /// palette, so that it is as legible on dark as on light.
 QString hostStyleSheet(const QPalette &palette);
 
-/// The colour of quiet texts. The palette's own role for it is black in some desktops' dark palettes.
-QColor quietText(const QPalette &palette);
-
 }  // namespace penwright

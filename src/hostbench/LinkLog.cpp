@@ -4,7 +4,7 @@
 #include <QHeaderView>
 #include <QTime>
 
-#include "hostbench/HostStyle.h"
+#include "controls/MixedColour.h"
 
 namespace penwright {
 

@@ -5,7 +5,7 @@
 #include <QPainterPath>
 #include <QTransform>
 
-#include "hostbench/HostStyle.h"
+#include "controls/MixedColour.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {

@@ -7,7 +7,7 @@
 #include <QGuiApplication>
 #include <QPainter>
 
-#include "hostbench/HostStyle.h"
+#include "controls/MixedColour.h"
 
 namespace penwright {
 
@@ -40,7 +40,7 @@ void ToolArea::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.fillRect(rect(), palette().window());
-    painter.setPen(quietText(palette()));
+    painter.setPen(quietText(palette(), QPalette::WindowText, QPalette::Window));
     painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, m_message);
 }
 

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QPainter>
 
-#include "hostbench/HostStyle.h"
+#include "controls/MixedColour.h"
 
 namespace penwright {
 
