@@ -10,9 +10,9 @@
 
 #include "controls/MixedColour.h"
 #include "core/NumberText.h"
-#include "hostbench/PolarPicture.h"
 #include "hostlib/RecordBridge.h"
 #include "platform/RunTimeError.h"
+#include "plot/PlotView.h"
 
 namespace penwright {
 
@@ -47,6 +47,18 @@ int coneFirstShown(const PhotometricRecord &record, int ofLargest)
         if (std::abs(record.VertAngles(v) - kHalfWayOut) < std::abs(record.VertAngles(nearest) - kHalfWayOut))
             nearest = v;
     return nearest;
+}
+
+/// The empty grid for a record without angles and for one whose lists disagree.
+PlotPicture pictureOf(const PhotometricRecord &record, float horizontalAngle, float verticalAngle)
+{
+    if (record.NumHorzAngles == 0 || record.NumVertAngles == 0)
+        return {};
+    try {
+        return plotPicture(record, horizontalAngle, verticalAngle);
+    } catch (const RunTimeError &) {
+        return {};
+    }
 }
 
 void fill(QComboBox *choice, const OneBased<float> &angles)
@@ -96,7 +108,12 @@ QWidget *FileView::makePicture()
 {
     auto *whole = new QFrame;
     whole->setObjectName("picture");
-    m_picture = new PolarPicture;
+    m_picture = new PlotView;
+    m_picture->setObjectName("polarPicture");
+    m_picture->setAccessibleName(tr("Polar picture of the selected file"));
+    m_picture->setFrameStyle(QFrame::NoFrame);
+    m_picture->setMinimumSize(140, 140);
+    m_picture->setFollowsPalette();
     m_plane = makeChoice("plane", tr("Horizontal angle of the vertical plane shown"));
     m_cone = makeChoice("cone", tr("Vertical angle of the cone shown"));
     m_planeLabel = new QLabel;
@@ -122,8 +139,8 @@ void FileView::followPalette()
     const auto line = [](const QColor &colour, const QString &text) {
         return QStringLiteral("<span style=\"color: %1\">\u2501\u2501</span>&nbsp; %2").arg(colour.name(), text);
     };
-    m_planeLabel->setText(line(m_picture->planeColour(), tr("Vertical plane through H")));
-    m_coneLabel->setText(line(m_picture->coneColour(), tr("Cone through V")));
+    m_planeLabel->setText(line(m_picture->look().plane, tr("Vertical plane through H")));
+    m_coneLabel->setText(line(m_picture->look().cone, tr("Cone through V")));
 }
 
 void FileView::showFile(const PhotometricRecord &record)
@@ -164,9 +181,7 @@ void FileView::fillChoices()
 
 void FileView::drawCurves()
 {
-    if (m_record.NumHorzAngles == 0 || m_record.NumVertAngles == 0)
-        return m_picture->clear();
-    m_picture->showCurves(m_record, m_plane->currentData().toFloat(), m_cone->currentData().toFloat());
+    m_picture->setPicture(pictureOf(m_record, m_plane->currentData().toFloat(), m_cone->currentData().toFloat()));
 }
 
 }  // namespace penwright

@@ -10,7 +10,7 @@ class QPlainTextEdit;
 
 namespace penwright {
 
-class PolarPicture;
+class PlotView;
 
 /// What a file holds: its text as it stands on disk, and its polar picture with the plane and the cone to look at.
 class FileView : public QWidget {
@@ -36,7 +36,7 @@ private:
 
     PhotometricRecord m_record;
     QPlainTextEdit *m_text = nullptr;
-    PolarPicture *m_picture = nullptr;
+    PlotView *m_picture = nullptr;
     QComboBox *m_plane = nullptr;
     QComboBox *m_cone = nullptr;
     QLabel *m_planeLabel = nullptr;

@@ -2,7 +2,7 @@
 
 #include <QPainter>
 
-#include "plot/PlotPainter.h"
+#include "plot/PlotLook.h"
 
 namespace penwright {
 
@@ -22,8 +22,8 @@ void CurveKey::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF box = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
-    painter.setPen(kPlotGrid);
-    painter.setBrush(kPlotPaper);
+    painter.setPen(kPaperLook.grid);
+    painter.setBrush(kPaperLook.paper);
     painter.drawRect(box);
     painter.setPen(QPen(m_colour, 2));
     painter.drawLine(QPointF(box.left() + 4, box.center().y()), QPointF(box.right() - 4, box.center().y()));

@@ -26,7 +26,7 @@ struct PlotCurve {
 
 /// All that one picture shows.
 struct PlotCurves {
-    bool typeC = false;         ///< nadir down and a cone; otherwise vertical angle 0 to the right and no cone
+    bool typeC = true;          ///< nadir down and a cone; otherwise vertical angle 0 to the right and no cone
     float horizontalAngle = 0;  ///< degrees, of the vertical plane
     float verticalAngle = 0;    ///< degrees, of the cone
     PlotCurve plane;            ///< type C: the right half's runs, then those of its opposite

@@ -1,7 +1,5 @@
 #include "plot/PlotFrame.h"
 
-#include <QFontMetricsF>
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -15,33 +13,30 @@ constexpr double kLeastLettered = 45;  // radius
 
 }  // namespace
 
-QPointF PlotFrame::polar(double length, double degrees) const
+PlotPixel PlotFrame::polar(double length, double degrees) const
 {
     const double radians = degrees * std::numbers::pi / 180;
-    return centre + QPointF(length * std::cos(radians), -length * std::sin(radians));
+    return {centre.x + length * std::cos(radians), centre.y - length * std::sin(radians)};
 }
 
-PlotFrame plotFrame(const QRectF &area, const QFont &font)
+PlotPixel PlotFrame::placeOf(const PlotPoint &point) const
 {
-    const double aside =
-        QFontMetricsF(plotFigureFont(font)).horizontalAdvance(QStringLiteral("-90\u00B0")) + 2 * kMargin;
-    const double above = QFontMetricsF(font).capHeight() + 3 * kMargin;
+    return {centre.x + point.x * perCandela, centre.y - point.y * perCandela};
+}
+
+PlotFrame plotFrame(const PlotBox &area, const PlotTextRoom &room, double largest)
+{
+    const double aside = room.figureWidth("-90\u00B0") + 2 * kMargin;
+    const double above = room.plainHeight + 3 * kMargin;
     PlotFrame frame;
-    frame.centre = {std::floor(area.center().x()) + 0.5, std::floor(area.center().y()) + 0.5};
-    frame.radius = std::floor(std::min(area.width() / 2 - aside, area.height() / 2 - above));
+    frame.centre = {std::floor(area.left + area.width / 2) + 0.5, std::floor(area.top + area.height / 2) + 0.5};
+    frame.radius = std::floor(std::min(area.width / 2 - aside, area.height / 2 - above));
     frame.lettered = frame.radius >= kLeastLettered;
     if (!frame.lettered)
-        frame.radius = std::max(0.0, std::floor(std::min(area.width(), area.height()) / 2 - kMargin));
+        frame.radius = std::max(0.0, std::floor(std::min(area.width, area.height) / 2 - kMargin));
+    if (largest > 0)
+        frame.perCandela = frame.radius / largest;
     return frame;
-}
-
-QFont plotFigureFont(QFont font)
-{
-    if (font.pointSizeF() > 0)
-        font.setPointSizeF(font.pointSizeF() * 0.8);
-    else
-        font.setPixelSize(std::max(1, font.pixelSize() * 4 / 5));
-    return font;
 }
 
 }  // namespace penwright

@@ -1,26 +1,54 @@
 #pragma once
 
-#include <QFont>
-#include <QPointF>
-#include <QRectF>
+#include <functional>
+#include <string_view>
+
+#include "plot/PlotRuns.h"
 
 namespace penwright {
 
-/// Where the picture stands, in logical pixels: its centre, and the length from there to the outer ring.
+/// A place in a picture box, in logical pixels: x to the right, y down.
+struct PlotPixel {
+    double x = 0;
+    double y = 0;
+};
+
+/// An area of a picture box, in logical pixels.
+struct PlotBox {
+    double left = 0;
+    double top = 0;
+    double width = 0;
+    double height = 0;
+};
+
+/// The room that texts take in the fonts of a picture, in logical pixels. A height is that of a capital letter.
+struct PlotTextRoom {
+    double plainHeight = 0;   ///< in the font of the box itself
+    double figureHeight = 0;  ///< of degrees and candela
+    double letterHeight = 0;  ///< of "H" and "V"
+    std::function<double(std::string_view)> figureWidth;
+    std::function<double(std::string_view)> letterWidth;
+};
+
+/// Degrees between the radial lines.
+inline constexpr int kPlotSpoke = 30;
+
+/// Where the picture stands in its box, and how large a candela is.
 struct PlotFrame {
-    QPointF centre;
-    double radius = 0;
+    PlotPixel centre;
+    double radius = 0;      ///< pixels from the centre to the outer ring
+    double perCandela = 0;  ///< pixels, 0 when no value is above zero
     bool lettered = false;  ///< whether letters and figures stand around the outer ring
 
     /// The place `length` pixels from the centre; degrees from the right, turning left.
-    QPointF polar(double length, double degrees) const;
+    PlotPixel polar(double length, double degrees) const;
+
+    /// The place of a point in candela.
+    PlotPixel placeOf(const PlotPoint &point) const;
 };
 
-/// The largest round picture in an area, with room for letters around it where the area is large enough. The
-/// centre is the middle of a pixel and the radius whole, so that the axes are sharp.
-PlotFrame plotFrame(const QRectF &area, const QFont &font);
-
-/// The smaller font of the figures of a plot.
-QFont plotFigureFont(QFont font);
+/// The largest round picture in an area whose outer ring is at `largest` candela, with room for letters around it where
+/// the area is large enough. The centre is the middle of a pixel and the radius whole, so that the axes are sharp.
+PlotFrame plotFrame(const PlotBox &area, const PlotTextRoom &room, double largest);
 
 }  // namespace penwright

@@ -1,19 +1,36 @@
 #pragma once
 
-#include <QFont>
-
+#include <string>
 #include <vector>
 
 #include "plot/PlotFrame.h"
 #include "plot/PlotRings.h"
 
-class QPainter;
-
 namespace penwright {
 
-/// Paints the letters "H" and "V" at the ends of their axes and, where the frame has room for it, the vertical angles
-/// around the outer ring and the candela of the rings.
-void paintPlotLettering(QPainter &painter, const PlotFrame &frame, const QFont &font, bool typeC,
-                        const std::vector<PlotRing> &rings);
+/// A text in the middle of its box.
+struct PlotFigure {
+    std::string text;
+    PlotBox box;
+};
+
+/// A text that begins at a place on its base line.
+struct PlotLetter {
+    std::string text;
+    PlotPixel begin;
+};
+
+/// The texts of a picture and where they stand.
+struct PlotLettering {
+    std::vector<PlotFigure> degrees;   ///< the vertical angles around the outer ring
+    std::vector<PlotFigure> candelas;  ///< of the rings; a little paper below each keeps it off the lines
+    std::vector<PlotLetter> letters;   ///< "V" and "H" at the ends of their axes
+};
+
+/// The letters and, where the frame has room for them, the figures. Type C counts from nadir up on both sides and has
+/// the candela right of the upper axis; the others know the right half only and have them left of it. A candela figure
+/// without room below the one outside it is left out.
+PlotLettering plotLettering(const PlotFrame &frame, const PlotTextRoom &room, bool typeC,
+                            const std::vector<PlotRing> &rings);
 
 }  // namespace penwright

@@ -7,6 +7,7 @@
 #include <QPen>
 #include <QPolygonF>
 
+#include "plot/PlotFonts.h"
 #include "plot/PlotFrame.h"
 #include "plot/PlotLettering.h"
 
@@ -22,6 +23,11 @@ constexpr double kLongestShape = 10'000;  // some ten times around a large pictu
 constexpr double kLonePoint = 1.5;        // radius of a value between two gaps
 constexpr double kClosest = 0.25;         // between two points of a line that can be told apart
 
+QPointF pointOf(const PlotPixel &place)
+{
+    return {place.x, place.y};
+}
+
 std::vector<double> ringRadii(const PlotFrame &frame, const std::vector<PlotRing> &rings)
 {
     std::vector<double> radii;
@@ -32,25 +38,48 @@ std::vector<double> ringRadii(const PlotFrame &frame, const std::vector<PlotRing
     return radii;
 }
 
-void paintGrid(QPainter &painter, const PlotFrame &frame, const std::vector<double> &radii)
+void paintGrid(QPainter &painter, const PlotFrame &frame, const std::vector<double> &radii, const QColor &colour)
 {
-    painter.setPen(QPen(kPlotGrid, 1));
+    const auto ray = [&](double from, int degrees) {
+        painter.drawLine(pointOf(frame.polar(from, degrees)), pointOf(frame.polar(frame.radius, degrees)));
+    };
+    painter.setPen(QPen(colour, 1));
     painter.setBrush(Qt::NoBrush);
     for (const double radius : radii)
-        painter.drawEllipse(frame.centre, radius, radius);
+        painter.drawEllipse(pointOf(frame.centre), radius, radius);
     for (int degrees = 0; degrees < 360; degrees += kPlotSpoke)
-        painter.drawLine(frame.centre, frame.polar(frame.radius, degrees));
+        ray(0, degrees);
     if (frame.radius < kLeastTicked)
         return;
     for (int degrees = 0; degrees < 360; degrees += kTick)
-        painter.drawLine(frame.polar(frame.radius - kTickLength, degrees), frame.polar(frame.radius, degrees));
+        ray(frame.radius - kTickLength, degrees);
 }
 
-QPolygonF lineOf(const PlotRun &run, const PlotFrame &frame, double scale)
+void paintLettering(QPainter &painter, const PlotLettering &lettering, const PlotFonts &fonts, const PlotLook &look)
+{
+    const auto write = [&](const PlotFigure &figure, bool onPaper) {
+        const QRectF box(figure.box.left, figure.box.top, figure.box.width, figure.box.height);
+        if (onPaper)
+            painter.fillRect(box.adjusted(-1, -1, 1, 0), look.paper);
+        painter.drawText(box, Qt::AlignCenter | Qt::TextDontClip, QString::fromStdString(figure.text));
+    };
+    painter.setFont(fonts.figures());
+    painter.setPen(look.figures);
+    for (const PlotFigure &figure : lettering.degrees)
+        write(figure, false);
+    for (const PlotFigure &figure : lettering.candelas)
+        write(figure, true);
+    painter.setFont(fonts.letters());
+    painter.setPen(look.letters);
+    for (const PlotLetter &letter : lettering.letters)
+        painter.drawText(pointOf(letter.begin), QString::fromStdString(letter.text));
+}
+
+QPolygonF lineOf(const PlotRun &run, const PlotFrame &frame)
 {
     QPolygonF line;
     for (const PlotPoint &point : run) {
-        const QPointF next = frame.centre + QPointF(point.x * scale, -point.y * scale);
+        const QPointF next = pointOf(frame.placeOf(point));
         const bool last = &point == &run.back();
         if (line.isEmpty() || last || (next - line.last()).manhattanLength() >= kClosest)
             line.append(next);
@@ -81,14 +110,13 @@ void paintLine(QPainter &painter, const QPolygonF &line, const QPen &pen)
         painter.drawLine(line[i - 1], line[i]);
 }
 
-void paintCurve(QPainter &painter, const PlotFrame &frame, const PlotCurve &curve, double scale, const QColor &colour)
+void paintCurve(QPainter &painter, const PlotFrame &frame, const PlotCurve &curve, const QPen &pen)
 {
-    const QPen pen(colour, 1, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     for (const PlotRun &run : curve.runs) {
-        const QPolygonF line = lineOf(run, frame, scale);
+        const QPolygonF line = lineOf(run, frame);
         if (line.size() == 1) {
             painter.setPen(pen);
-            painter.setBrush(colour);
+            painter.setBrush(pen.color());
             painter.drawEllipse(line.first(), kLonePoint, kLonePoint);
         } else {
             paintLine(painter, line, pen);
@@ -98,19 +126,24 @@ void paintCurve(QPainter &painter, const PlotFrame &frame, const PlotCurve &curv
 
 }  // namespace
 
-void paintPlot(QPainter &painter, const QRectF &area, const QFont &font, const PlotCurves &curves,
-               const std::vector<PlotRing> &rings)
+void paintPlot(QPainter &painter, const QRectF &area, const QFont &font, const PlotPicture &picture,
+               const PlotLook &look)
 {
-    const PlotFrame frame = plotFrame(area, font);
-    painter.fillRect(area, kPlotPaper);
+    const PlotFonts fonts(font);
+    const PlotTextRoom room = fonts.room();
+    const PlotFrame frame =
+        plotFrame({area.x(), area.y(), area.width(), area.height()}, room, picture.curves.largest());
+    painter.fillRect(area, look.paper);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintGrid(painter, frame, ringRadii(frame, rings));
-    paintPlotLettering(painter, frame, font, curves.typeC, rings);
-    if (rings.empty())
+    paintGrid(painter, frame, ringRadii(frame, picture.rings), look.grid);
+    paintLettering(painter, plotLettering(frame, room, picture.curves.typeC, picture.rings), fonts, look);
+    if (picture.rings.empty())
         return;
-    const double scale = frame.radius / rings.back().candela;
-    paintCurve(painter, frame, curves.plane, scale, kPlaneColour);
-    paintCurve(painter, frame, curves.cone, scale, kConeColour);
+    const auto penOf = [&look](const QColor &colour) {
+        return QPen(colour, look.curveWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+    };
+    paintCurve(painter, frame, picture.curves.plane, penOf(look.plane));
+    paintCurve(painter, frame, picture.curves.cone, penOf(look.cone));
 }
 
 }  // namespace penwright

@@ -12,7 +12,6 @@ namespace penwright {
 PlotView::PlotView(QWidget *parent) : QFrame(parent)
 {
     setScreenReaderRole(*this, QAccessible::Graphic);
-    m_curves.typeC = true;
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(QStringLiteral("Candela plot"));
@@ -22,21 +21,32 @@ PlotView::PlotView(QWidget *parent) : QFrame(parent)
 void PlotView::draw(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
                     float verticalAngle)
 {
-    PlotCurves curves = plotCurves(record, cells, horizontalAngle, verticalAngle);
-    std::vector<PlotRing> rings = plotRings(curves.largest());
-    const QString description = QString::fromStdString(plotDescription(curves));
+    setPicture(plotPicture(record, cells, horizontalAngle, verticalAngle));
+}
 
-    m_curves = std::move(curves);
-    m_rings = std::move(rings);
-    describe(*this, description);
+void PlotView::setPicture(PlotPicture picture)
+{
+    m_picture = std::move(picture);
+    describe(*this, QString::fromStdString(m_picture.words));
     update();
+}
+
+void PlotView::setFollowsPalette()
+{
+    m_followsPalette = true;
+    update();
+}
+
+PlotLook PlotView::look() const
+{
+    return m_followsPalette ? plotLook(palette()) : kPaperLook;
 }
 
 void PlotView::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
     painter.setClipRect(contentsRect());
-    paintPlot(painter, contentsRect(), font(), m_curves, m_rings);
+    paintPlot(painter, contentsRect(), font(), m_picture, look());
     painter.end();
     QFrame::paintEvent(event);
 }

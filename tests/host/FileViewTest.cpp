@@ -7,8 +7,8 @@
 #include <QPlainTextEdit>
 #include <QTest>
 
-#include "hostbench/PolarPicture.h"
 #include "hostbench/SampleLuminaire.h"
+#include "plot/PlotView.h"
 
 namespace penwright {
 namespace {
@@ -23,7 +23,7 @@ protected:
     }
 
     QComboBox *choice(const char *name) const { return m_view.findChild<QComboBox *>(name); }
-    PolarPicture *picture() const { return m_view.findChild<PolarPicture *>("polarPicture"); }
+    PlotView *picture() const { return m_view.findChild<PlotView *>("polarPicture"); }
 
     /// Pixels of the picture that are nearer to a colour than antialiasing comes to any other.
     int count(const QColor &colour) const
@@ -50,8 +50,8 @@ TEST_F(FileViewTest, showsThePlaneOfTheLargestValueAndACone)
     EXPECT_EQ(choice("cone")->currentText(), "45\u00b0");
     EXPECT_EQ(choice("plane")->count(), 5);
     EXPECT_EQ(choice("cone")->count(), 37);
-    EXPECT_GT(count(picture()->planeColour()), 200);
-    EXPECT_GT(count(picture()->coneColour()), 200);
+    EXPECT_GT(count(picture()->look().plane), 200);
+    EXPECT_GT(count(picture()->look().cone), 200);
     EXPECT_TRUE(picture()->accessibleDescription().contains("2480.4"))
         << qPrintable(picture()->accessibleDescription());
 }
@@ -84,8 +84,8 @@ TEST_F(FileViewTest, typeBHasNoCone)
     record.PhotometricType = kTypeB;
     m_view.showFile(record);
     EXPECT_FALSE(choice("cone")->isVisible());
-    EXPECT_GT(count(picture()->planeColour()), 100);
-    EXPECT_EQ(count(picture()->coneColour()), 0);
+    EXPECT_GT(count(picture()->look().plane), 100);
+    EXPECT_EQ(count(picture()->look().cone), 0);
     m_view.showFile(sampleLuminaire());
     EXPECT_TRUE(choice("cone")->isVisible());
 }
@@ -95,7 +95,7 @@ TEST_F(FileViewTest, withoutAFileTheGridIsEmpty)
     m_view.showFile(sampleLuminaire());
     m_view.clear();
     EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "");
-    EXPECT_EQ(count(picture()->planeColour()), 0);
+    EXPECT_EQ(count(picture()->look().plane), 0);
     EXPECT_FALSE(choice("plane")->isEnabled());
     EXPECT_EQ(picture()->accessibleDescription(), "");
 }
@@ -106,17 +106,17 @@ TEST_F(FileViewTest, aRecordWhoseListsDisagreeShowsWhy)
     torn.NumVertAngles = 40;
     m_view.showFile(torn);
     EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "Subscript out of range");
-    EXPECT_EQ(count(picture()->planeColour()), 0);
+    EXPECT_EQ(count(picture()->look().plane), 0);
 }
 
 TEST_F(FileViewTest, curvesStandOutOnDarkToo)
 {
     const QPalette light = QApplication::palette();
     m_view.showFile(sampleLuminaire());
-    const QColor onLight = picture()->planeColour();
+    const QColor onLight = picture()->look().plane;
     QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture()->planeColour().lightness() > onLight.lightness() + 40; }));
-    EXPECT_GT(count(picture()->planeColour()), 200);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return picture()->look().plane.lightness() > onLight.lightness() + 40; }));
+    EXPECT_GT(count(picture()->look().plane), 200);
     QApplication::setPalette(light);
 }
 

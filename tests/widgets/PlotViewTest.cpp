@@ -8,8 +8,8 @@
 #include <numbers>
 
 #include "platform/RunTimeError.h"
-#include "plot/PlotFrame.h"
-#include "plot/PlotPainter.h"
+#include "plot/PlotLook.h"
+#include "plot/PlotFonts.h"
 #include "plot/PlotView.h"
 #include "support/PlotTables.h"
 
@@ -46,13 +46,17 @@ protected:
 
     QImage picture() { return view.grab().toImage(); }
 
-    PlotFrame frame() const { return plotFrame(view.contentsRect(), view.font()); }
+    PlotFrame frame() const
+    {
+        const QRectF area = view.contentsRect();
+        return plotFrame({area.x(), area.y(), area.width(), area.height()}, PlotFonts(view.font()).room(), 1);
+    }
 
     /// Whether the colour is on the picture within a pixel of a place: shares of the outer ring's radius, y up.
     bool has(const QImage &image, ColourTest wanted, double x, double y) const
     {
-        const QPointF place = frame().centre + QPointF(x, -y) * frame().radius;
-        const QPoint pixel(static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y())));
+        const PlotPixel place = frame().placeOf({x, y});
+        const QPoint pixel(static_cast<int>(std::floor(place.x)), static_cast<int>(std::floor(place.y)));
         return !boundsOf(image.copy(QRect(pixel - QPoint(1, 1), QSize(3, 3))), wanted).isEmpty();
     }
 
@@ -120,12 +124,12 @@ TEST_F(PlotViewTest, linesAreOneLogicalPixelWideAndSharpAtEveryScale)
         QImage image(view.size() * scale, QImage::Format_ARGB32_Premultiplied);
         image.setDevicePixelRatio(scale);
         view.render(&image);
-        const int column = static_cast<int>(frame().centre.x() * scale);
+        const int column = static_cast<int>(frame().centre.x * scale);
         int lines = 0;
         for (int y = 0; y < image.height() / 2; ++y)
             lines += isRed(image.pixelColor(column, y)) ? 1 : 0;
         EXPECT_EQ(lines, scale);
-        const int top = static_cast<int>((frame().centre.y() - frame().radius) * scale);
+        const int top = static_cast<int>((frame().centre.y - frame().radius) * scale);
         EXPECT_LT(image.pixelColor(column, top).green(), 40) << scale;
     }
 }
@@ -134,8 +138,8 @@ TEST_F(PlotViewTest, closePointsAreNotPale)
 {
     draw(plotTable(
         "", kTypeC, evenAngles(1000, 360), {0, 90}, [](double, double) { return 5; }, 0, 90));
-    const QPointF top = frame().centre - QPointF(0, frame().radius);
-    EXPECT_LT(picture().pixelColor(top.toPoint() - QPoint(1, 1)).green(), 80);
+    const PlotPixel top = frame().placeOf({0, 1});
+    EXPECT_LT(picture().pixelColor(QPointF(top.x, top.y).toPoint() - QPoint(1, 1)).green(), 80);
 }
 
 TEST_F(PlotViewTest, whatIsZeroOrBlankShowsTheGridAlone)
@@ -147,7 +151,7 @@ TEST_F(PlotViewTest, whatIsZeroOrBlankShowsTheGridAlone)
         const QImage image = picture();
         EXPECT_TRUE(boundsOf(image, isBlue).isEmpty()) << table.name;
         EXPECT_TRUE(boundsOf(image, isRed).isEmpty()) << table.name;
-        const QRect grid = boundsOf(image, [](const QColor &colour) { return colour == kPlotGrid; });
+        const QRect grid = boundsOf(image, [](const QColor &colour) { return colour == kPaperLook.grid; });
         EXPECT_NEAR(grid.width(), 2 * frame().radius + 1, 1) << table.name;
     }
 }

@@ -6,7 +6,7 @@
 
 #include "core/NumberText.h"
 #include "pages/candela/CandelaChecks.h"
-#include "plot/PlotPainter.h"
+#include "plot/PlotLook.h"
 #include "ui_CandelaPage.h"
 #include "wizard/WarningDialog.h"
 
@@ -33,8 +33,8 @@ CandelaPage::CandelaPage(const PageContext &context, CandelaState &flags)
       m_table(state(), flags, caption().toStdString())
 {
     m_form->setupUi(formArea());
-    m_form->planeKey->setColour(kPlaneColour);
-    m_form->coneKey->setColour(kConeColour);
+    m_form->planeKey->setColour(kPaperLook.plane);
+    m_form->coneKey->setColour(kPaperLook.cone);
     m_form->cdaGridCd->setTable(m_table, services().dialogs);
     connectGrid();
     addButtons([this] { cmdNext50_Click(); }, [this] { cmdBack50_Click(); });

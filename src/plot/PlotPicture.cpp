@@ -1,0 +1,24 @@
+#include "plot/PlotPicture.h"
+
+namespace penwright {
+
+PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
+                        float verticalAngle)
+{
+    PlotPicture picture;
+    picture.curves = plotCurves(record, cells, horizontalAngle, verticalAngle);
+    picture.rings = plotRings(picture.curves.largest());
+    picture.words = plotDescription(picture.curves);
+    return picture;
+}
+
+PlotPicture plotPicture(const PhotometricRecord &record, float horizontalAngle, float verticalAngle)
+{
+    OneBasedTable<CandelaCell> cells(record.Candela.rows(), record.Candela.columns());
+    for (int h = 1; h <= cells.rows(); ++h)
+        for (int v = 1; v <= cells.columns(); ++v)
+            cells(h, v) = record.Candela(h, v);
+    return plotPicture(record, cells, horizontalAngle, verticalAngle);
+}
+
+}  // namespace penwright

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "plot/PlotCurves.h"
+#include "plot/PlotRings.h"
+
+namespace penwright {
+
+/// What a picture shows, in any size and any colours. One that is made of nothing is the empty grid of type C.
+struct PlotPicture {
+    PlotCurves curves;
+    std::vector<PlotRing> rings;  ///< from the inside out; none when no value is above zero
+    std::string words;            ///< for those who cannot see it
+};
+
+/// The picture of the vertical plane through `horizontalAngle` and, for type C, the cone through `verticalAngle`, both
+/// in degrees; cells are indexed (horizontal, vertical). Only counts, type and angles of the record are read. Error 9
+/// when the angle lists or the cells are smaller than the record's counts, 6 when a value is beyond the single range.
+PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
+                        float verticalAngle);
+
+/// The same of the candela that the record itself holds.
+PlotPicture plotPicture(const PhotometricRecord &record, float horizontalAngle, float verticalAngle);
+
+}  // namespace penwright
