@@ -24,7 +24,7 @@ enum LampField : int {
 /// What stands on the lamp page when Next is pressed.
 struct LampFields {
     std::array<std::string, kLampFieldCount> texts;  ///< by LampField
-    int shape = -1;                                  ///< list position; outside 0 to 14 none is chosen
+    int shape = -1;                                  ///< list position; outside the list none is chosen
     bool isFeet = true;
     bool isTiltIncluded = false;
 };

@@ -41,6 +41,7 @@ void LampPage::load()
     tellUnits();
     for (const LuminousShape &shape : kLuminousShapes)
         m_form->lmpCmbShape->addItem(toQString(shape.name));
+    m_form->lmpCmbShape->setMaxVisibleItems(m_form->lmpCmbShape->count());
 }
 
 void LampPage::lmpCmbShape_Click()

@@ -33,7 +33,7 @@ private:
     void tellUnits();
     void cmdNext10_Click();
 
-    /// Shows the dimensions and the sketch of the shape at a list position. A position outside 0 to 14 changes nothing
+    /// Shows the dimensions and the sketch of the shape at a list position. A position outside the list changes nothing
     /// but the sketch, which then holds its frame alone.
     void gsbDrawLuminaireGeo(std::int16_t position);
 

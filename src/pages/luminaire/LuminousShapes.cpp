@@ -41,7 +41,7 @@ float stored(Stored rule, float typed, float width, float length)
 // The box of the vertical circle's height is both emptied and disabled, so that its page never passes its checks: that
 // is meant.
 // clang-format off
-constexpr std::array<LuminousShape, 15> kLuminousShapes{{
+constexpr std::array<LuminousShape, kShapeCount> kLuminousShapes = std::to_array<LuminousShape>({
     {"Point",
      {"Width: (90-270)", kOff, "0"}, {"Length: (0-180)", kOff, "0"}, {"Height:", kOff, "0"},
      kZero, kZero, kZero},
@@ -87,7 +87,7 @@ constexpr std::array<LuminousShape, 15> kLuminousShapes{{
     {"Vertical Ellipse Facing Photometric Horizontal",
      {"Width: (90-270)", kOn, kEmpty}, {"Length: (0-180)", kOff, "0"}, {"Height", kOn, kEmpty},
      kMinus, kZero, kMinus},
-}};
+});
 // clang-format on
 
 const LuminousShape *luminousShapeAt(int position)

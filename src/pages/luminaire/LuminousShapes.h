@@ -1,7 +1,7 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
+#include <cstddef>
 #include <optional>
 #include <string_view>
 
@@ -36,12 +36,14 @@ struct LuminousShape {
     Stored storedHeight = Stored::Typed;
 };
 
+inline constexpr std::size_t kShapeCount = 15;
+
 /// The luminous shapes by their list position, which is the shape code used everywhere. The captions differ from row to
 /// row in colon, blank and wording on purpose. So do names and stored signs from the sphere on: rows 8 to 12 carry the
 /// signs of the shape one row above them.
-extern const std::array<LuminousShape, 15> kLuminousShapes;
+extern const std::array<LuminousShape, kShapeCount> kLuminousShapes;
 
-/// The shape at a list position, null outside 0 to 14.
+/// The shape at a list position, null outside the list.
 const LuminousShape *luminousShapeAt(int position);
 
 /// The luminous opening, in feet or meters.
@@ -51,7 +53,7 @@ struct Dimensions {
     float height = 0;
 };
 
-/// What the record holds of typed dimensions; outside positions 0 to 14 no shape is chosen, and they stay as typed.
+/// What the record holds of typed dimensions; outside the list no shape is chosen, and they stay as typed.
 Dimensions storedDimensions(int position, const Dimensions &typed);
 
 }  // namespace penwright

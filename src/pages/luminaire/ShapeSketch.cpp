@@ -18,7 +18,7 @@ struct Solid {
     int axis = kUp;  ///< of a disc or cylinder
 };
 
-constexpr std::array<Solid, 15> kSolids{{
+constexpr auto kSolids = std::to_array<Solid>({
     {Form::Point, {0.35, 0.35, 0}},
     {Form::Rectangle, {1.05, 0.75, 0}},
     {Form::Box, {1.0, 0.65, 0.38}},
@@ -34,7 +34,8 @@ constexpr std::array<Solid, 15> kSolids{{
     {Form::Cylinder, {0.75, 1.0, 0.35}, kTo90},
     {Form::Disc, {0, 0.75, 0.75}, kTo0},
     {Form::Disc, {0, 1.0, 0.5}, kTo0},
-}};
+});
+static_assert(kSolids.size() == kLuminousShapes.size(), "each shape has its solid, in the order of the list");
 
 constexpr double kTurn = 2 * std::numbers::pi;
 constexpr SketchPoint kCorner{0.58, 0.62};  ///< where the frame of reference stands

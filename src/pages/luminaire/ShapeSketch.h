@@ -41,7 +41,7 @@ struct ShapeSketch {
 
 /// The luminous shape at a list position, seen from above in a light perspective: its length lies along the plane of 0
 /// and 180 degrees, its width along that of 90 and 270. A small frame of reference names length, width and height, and
-/// two arrows point to 0 and 90 degrees. Outside positions 0 to 14 these stand alone.
+/// two arrows point to 0 and 90 degrees. Outside the list these stand alone.
 ShapeSketch sketchOfShape(int position);
 
 /// The sketch in words, for those who cannot see it: the shape, and which way its dimensions and angles lie.

@@ -13,7 +13,7 @@ class ShapeSketchView : public QWidget {
 public:
     explicit ShapeSketchView(QWidget *parent = nullptr);
 
-    /// Draws the shape at a list position; outside 0 to 14 the frame of reference alone.
+    /// Draws the shape at a list position; outside the list the frame of reference alone.
     void setShape(int position);
 
     QSize sizeHint() const override;

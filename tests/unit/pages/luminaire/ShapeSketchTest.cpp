@@ -7,10 +7,12 @@
 #include <set>
 #include <string>
 
+#include "pages/luminaire/LuminousShapes.h"
+
 namespace penwright::test {
 namespace {
 
-constexpr int kShapes = 15;
+constexpr int kShapes = kShapeCount;
 
 std::vector<SketchPoint> pointsOf(const ShapeSketch &sketch, StrokeKind kind)
 {
@@ -198,7 +200,7 @@ TEST_P(EverySketch, hiddenEdgesLieBehindTheShape)
 
 TEST(ShapeSketches, outsideTheListHoldTheFrameAlone)
 {
-    for (const int position : {-1, 15, -32768, 32767})
+    for (const int position : {-1, kShapes, -32768, 32767})
         for (const SketchStroke &stroke : sketchOfShape(position).strokes)
             EXPECT_EQ(stroke.kind, StrokeKind::Frame);
     for (int position = 0; position < kShapes; ++position)

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -61,10 +62,18 @@ TEST_P(ShapeLook, isTheRowOfTheTable)
     EXPECT_EQ(look(shape->height), GetParam().height);
 }
 
-TEST(LuminousShapes, areThereFromZeroToFourteen)
+TEST(LuminousShapes, areThereFromZeroOnAndEachHasItsName)
 {
+    constexpr int kShapes = kShapeCount;
     EXPECT_FALSE(luminousShapeAt(-1));
-    EXPECT_FALSE(luminousShapeAt(15));
+    std::set<std::string_view> names;
+    for (int position = 0; position < kShapes; ++position) {
+        ASSERT_TRUE(luminousShapeAt(position)) << position;
+        names.insert(luminousShapeAt(position)->name);
+    }
+    EXPECT_EQ(names.size(), kShapeCount);
+    EXPECT_EQ(names.count(""), 0U);
+    EXPECT_FALSE(luminousShapeAt(kShapes));
 }
 
 /// A dimension with its sign, which "==" does not tell of zeros.
@@ -105,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(Table, ShapeEncoding,
                              {13, "-2 +0 -2", "-2 +0 -2", "-0 +0 -0"},
                              {14, "-2 +0 -5", "-2 +0 -5", "-0 +0 -0"},
                              {-1, "+2 +3 +5", "-2 -3 -5", "+0 +0 +0"},
-                             {15, "+2 +3 +5", "-2 -3 -5", "+0 +0 +0"},
+                             {kShapeCount, "+2 +3 +5", "-2 -3 -5", "+0 +0 +0"},
                          }));
 
 TEST_P(ShapeEncoding, isTheRowOfTheTable)
