@@ -5,6 +5,7 @@
 
 #include "core/IesWriter.h"
 #include "pages/candela/CandelaChecks.h"
+#include "pages/candela/StoreCandela.h"
 #include "pages/distribution/DistributionFields.h"
 #include "pages/keywords/KeywordLines.h"
 #include "pages/luminaire/LampFields.h"

@@ -1,7 +1,6 @@
 #include "pages/candela/CandelaChecks.h"
 
 #include <cmath>
-#include <utility>
 
 #include "core/NumberText.h"
 #include "wizard/FieldCheck.h"
@@ -106,19 +105,6 @@ private:
 void checkCandela(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, WarningList &dlgWarn)
 {
     Check(record, cells, dlgWarn).run();
-}
-
-void storeCandela(const OneBasedTable<CandelaCell> &cells, PhotometricRecord &record)
-{
-    OneBasedTable<double> candela(record.NumHorzAngles, record.NumVertAngles);
-    for (int h = 1; h <= candela.rows(); ++h)
-        for (int v = 1; v <= candela.columns(); ++v) {
-            const std::optional<double> number = numberOf(cells(h, v));
-            if (!number)
-                throw typeMismatch();
-            candela(h, v) = double{toSingle(*number)};
-        }
-    record.Candela = std::move(candela);
 }
 
 }  // namespace penwright

@@ -6,6 +6,7 @@
 
 #include "core/NumberText.h"
 #include "pages/candela/CandelaChecks.h"
+#include "pages/candela/StoreCandela.h"
 #include "plot/PlotLook.h"
 #include "ui_CandelaPage.h"
 #include "wizard/WarningDialog.h"

@@ -185,33 +185,6 @@ TEST_F(CandelaChecks, passARecordWithoutAngles)
     EXPECT_TRUE(list.Clean());
 }
 
-TEST_F(CandelaChecks, storeSinglesWidened)
-{
-    giveAngles({0, 90}, {0, 45});
-    fill({{"12.3", "16777215"}, {"0", "1"}});
-    cells(2, 2) = 0.1;
-    record().Candela.reset(5, 5);
-    storeCandela(cells, record());
-    OneBasedTable<double> expected(2, 2);
-    expected(1, 1) = 12.300000190734863;
-    expected(2, 1) = 16777215;
-    expected(2, 2) = 0.10000000149011612;
-    EXPECT_EQ(record().Candela, expected);
-}
-
-TEST_F(CandelaChecks, storeNothingWhenAValueCannotBe)
-{
-    giveAngles({0}, {0, 90});
-    fill({{"1"}, {"2"}});
-    record().Candela.reset(3, 3);
-    const auto before = record().Candela;
-    cells(1, 2) = 1E39;
-    EXPECT_THROW(storeCandela(cells, record()), RunTimeError);
-    cells(1, 2) = CandelaCell();
-    EXPECT_THROW(storeCandela(cells, record()), RunTimeError);
-    EXPECT_EQ(record().Candela, before);
-}
-
 TEST(CandelaCellText, isTheGeneralFormOfWhatTheCellIs)
 {
     EXPECT_EQ(textOf(CandelaCell()), " ");
