@@ -8,7 +8,6 @@
 #include <QVBoxLayout>
 
 #include "controls/InView.h"
-#include "controls/QuietLabel.h"
 #include "controls/ScreenReader.h"
 #include "platform/qt/QtText.h"
 #include "wizard/HandlerGuard.h"
@@ -83,15 +82,6 @@ void PageFrame::focusFirstField()
         widget = m_next;
     widget->setFocus(Qt::OtherFocusReason);
     bringIntoView(*widget);
-}
-
-void PageFrame::showValuesComeFromHost()
-{
-    auto *label = new QuietLabel("The values of this page come from the record that the host hands over.");
-    label->setWordWrap(true);
-    auto *layout = new QVBoxLayout(m_formArea);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(label, 0, Qt::AlignTop);
 }
 
 void PageFrame::addButtons(const Handler &next, const Handler &back)

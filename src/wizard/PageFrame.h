@@ -72,9 +72,6 @@ protected:
     /// The widget that takes the page's form.
     QWidget *formArea() const { return m_formArea; }
 
-    /// Puts one quiet line into the form of a page on which nothing is typed.
-    void showValuesComeFromHost();
-
     /// Adds the row of buttons, last of all so that the tab order ends with it. A button without a handler leads
     /// nowhere and is disabled.
     void addButtons(const Handler &next, const Handler &back);

@@ -19,7 +19,8 @@ public:
     /// The window over which dialogs open; without one they stand for themselves.
     void setOwner(QWidget *owner) { m_owner = owner; }
 
-    /// Escape answers No where there is one, else Cancel, else OK; Enter the first button.
+    /// Escape and Enter both answer No where there is one, so that a key too many loses nothing. Elsewhere Enter
+    /// answers OK, and Escape Cancel where there is one.
     Answer show(const MessageBox &box) override;
 
     /// Starts in the user's home, later in the folder of the name chosen last. The dialog is called `commonDialog`.
