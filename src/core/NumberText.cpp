@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "core/Blanks.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {
@@ -79,15 +80,6 @@ bool readNumber(std::string_view number, double &value)
     return isTooSmall(number);
 }
 
-std::string_view withoutBlanks(std::string_view text)
-{
-    while (!text.empty() && text.front() == ' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
-        text.remove_suffix(1);
-    return text;
-}
-
 template <typename Integer>
 Integer rounded(double value)
 {
@@ -101,7 +93,7 @@ Integer rounded(double value)
 
 bool isNumeric(std::string_view text)
 {
-    const std::string_view number = withoutBlanks(text);
+    const std::string_view number = withoutOuterBlanks(text);
     double value = 0;
     return !number.empty() && numberLength(number) == number.size() && readNumber(number, value);
 }

@@ -2,12 +2,11 @@
 
 #include <xcb/xcb.h>
 
-#include <cstdlib>
-#include <memory>
 #include <QGuiApplication>
 #include <QPainter>
 
 #include "controls/MixedColour.h"
+#include "platform/x11/Reply.h"
 
 namespace penwright {
 
@@ -25,8 +24,7 @@ QSize ToolArea::pixels() const
     if (QGuiApplication::platformName() != "xcb")
         return size() * devicePixelRatioF();
     xcb_connection_t *display = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
-    using Reply = std::unique_ptr<xcb_get_geometry_reply_t, decltype(&std::free)>;
-    const Reply reply(xcb_get_geometry_reply(display, xcb_get_geometry(display, windowNumber()), nullptr), &std::free);
+    const auto reply = x11::held(xcb_get_geometry_reply(display, xcb_get_geometry(display, windowNumber()), nullptr));
     return reply ? QSize(reply->width, reply->height) : size() * devicePixelRatioF();
 }
 

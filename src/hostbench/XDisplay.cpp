@@ -2,17 +2,13 @@
 
 #include <xcb/xtest.h>
 
-#include <cstdlib>
+#include "platform/x11/Reply.h"
 
 namespace penwright {
 
 namespace {
 
-struct Freed {
-    void operator()(void *reply) const { std::free(reply); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, Freed>;
+using x11::Reply;
 
 std::uint32_t symbolOf(char32_t character)
 {

@@ -7,6 +7,7 @@
 #include "hostlib/RecordBridge.h"
 #include "hostlib/ToolLink.h"
 #include "hostlib/ToolProcess.h"
+#include "platform/Raised.h"
 
 namespace penwright {
 
@@ -20,18 +21,6 @@ void call(const Handler &handler, const Arguments &...arguments)
     if (handler)
         handler(arguments...);
 }
-
-/// Sets a flag for as long as it lives.
-class Raised {
-public:
-    explicit Raised(bool &flag) : m_flag(flag) { m_flag = true; }
-    Raised(const Raised &) = delete;
-    Raised &operator=(const Raised &) = delete;
-    ~Raised() { m_flag = false; }
-
-private:
-    bool &m_flag;
-};
 
 }  // namespace
 

@@ -5,9 +5,11 @@
 #include <cmath>
 #include <limits>
 
+#include "core/Blanks.h"
 #include "core/NumberText.h"
 #include "platform/Dialogs.h"
 #include "platform/HostEmbedding.h"
+#include "platform/Raised.h"
 #include "platform/SettingsStore.h"
 
 namespace penwright {
@@ -19,11 +21,7 @@ constexpr std::size_t kDeleteFileNameStart = 11;
 /// Without blanks at both ends and in upper case; letters beyond ASCII compare as they are.
 std::string trimmedUpper(std::string_view text)
 {
-    while (!text.empty() && text.front() == ' ')
-        text.remove_prefix(1);
-    while (!text.empty() && text.back() == ' ')
-        text.remove_suffix(1);
-    std::string upper(text);
+    std::string upper(withoutOuterBlanks(text));
     std::transform(upper.begin(), upper.end(), upper.begin(),
                    [](unsigned char c) { return static_cast<char>(c < 0x80 ? std::toupper(c) : c); });
     return upper;
@@ -96,9 +94,8 @@ void CommandLink::tellError()
 {
     if (m_isTellingError)
         return;
-    m_isTellingError = true;
+    const Raised raised(m_isTellingError);
     m_services.dialogs.show({"err in linkExectue."});
-    m_isTellingError = false;
 }
 
 void CommandLink::dispatch(const FieldTable &fields)

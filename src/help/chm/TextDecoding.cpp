@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <iterator>
 
+#include "core/CodePoints.h"
+
 namespace penwright::chm {
 namespace {
 
@@ -97,24 +99,7 @@ bool isUtf8(const std::string &bytes)
 
 void appendUtf8(std::string &out, std::uint32_t codePoint)
 {
-    if (!isCodePoint(codePoint, 0))
-        codePoint = 0xFFFD;
-    const auto tail = [&](int shift) { out += static_cast<char>(0x80 | (codePoint >> shift & 0x3F)); };
-    if (codePoint < 0x80) {
-        out += static_cast<char>(codePoint);
-    } else if (codePoint < 0x800) {
-        out += static_cast<char>(0xC0 | codePoint >> 6);
-        tail(0);
-    } else if (codePoint < 0x10000) {
-        out += static_cast<char>(0xE0 | codePoint >> 12);
-        tail(6);
-        tail(0);
-    } else {
-        out += static_cast<char>(0xF0 | codePoint >> 18);
-        tail(12);
-        tail(6);
-        tail(0);
-    }
+    out += codePointText(isCodePoint(codePoint, 0) ? codePoint : 0xFFFD);
 }
 
 std::string decodedText(const std::string &bytes, std::uint32_t lcid)

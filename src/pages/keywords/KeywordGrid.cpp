@@ -6,6 +6,7 @@
 #include <QHeaderView>
 #include <QMenu>
 
+#include "core/Blanks.h"
 #include "grid/GridDelegate.h"
 #include "pages/keywords/KeywordTable.h"
 #include "platform/qt/QtText.h"

@@ -25,14 +25,6 @@ int KeywordRow::length() const
     return codePointCount(key) + codePointCount(value);
 }
 
-std::string_view withoutOuterBlanks(std::string_view text)
-{
-    const std::size_t first = text.find_first_not_of(' ');
-    if (first == std::string_view::npos)
-        return {};
-    return text.substr(first, text.find_last_not_of(' ') - first + 1);
-}
-
 void KeywordRows::insert(int row)
 {
     append();

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/Blanks.h"
 #include "core/OneBased.h"
 #include "grid/GridSource.h"
 
@@ -21,9 +22,6 @@ struct KeywordRow {
 
     bool operator==(const KeywordRow &) const = default;
 };
-
-/// The text without leading and trailing blanks, as a cell keeps it.
-std::string_view withoutOuterBlanks(std::string_view text);
 
 /// The keyword lines of the new file as the grid of the keyword page shows them. Any text is taken.
 class KeywordRows : public GridSource {

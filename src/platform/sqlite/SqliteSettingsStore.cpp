@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <thread>
 
+#include "platform/Raised.h"
 #include "platform/RunTimeError.h"
 #include "platform/sqlite/SqliteFolder.h"
 #include "platform/sqlite/SqliteStatement.h"
@@ -24,19 +25,6 @@ std::string key(std::string_view application, std::string_view section, std::str
         text.append(std::to_string(part.size())).append(":").append(part);
     return text;
 }
-
-/// Sets a flag for as long as it lives.
-class Raised {
-public:
-    explicit Raised(bool &flag) : m_flag(flag), m_before(flag) { flag = true; }
-    Raised(const Raised &) = delete;
-    Raised &operator=(const Raised &) = delete;
-    ~Raised() { m_flag = m_before; }
-
-private:
-    bool &m_flag;
-    bool m_before;
-};
 
 }  // namespace
 

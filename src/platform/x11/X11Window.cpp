@@ -1,21 +1,15 @@
 #include "platform/x11/X11Window.h"
 
 #include <algorithm>
-#include <cstdlib>
 #include <cstring>
-#include <memory>
 #include <QGuiApplication>
 
 #include <xcb/xcb.h>
 
+#include "platform/x11/Reply.h"
+
 namespace penwright::x11 {
 namespace {
-
-struct Free {
-    void operator()(void *memory) const { std::free(memory); }
-};
-template <typename T>
-using Reply = std::unique_ptr<T, Free>;
 
 xcb_connection_t *connection()
 {
