@@ -6,24 +6,11 @@
 #include <chrono>
 #include <random>
 
-#include "core/IesWriter.h"
-#include "platform/Dialogs.h"
-#include "platform/TextFiles.h"
+#include "core/IesText.h"
 
 namespace {
 
 using namespace penwright;
-
-class NoFiles : public TextFiles {
-public:
-    int replace(const std::string &, std::string_view) override { return 0; }
-};
-
-class NoDialogs : public Dialogs {
-public:
-    Answer show(const MessageBox &) override { return Answer::Cancel; }
-    std::optional<std::string> chooseSaveName(const SaveNameQuestion &) override { return std::nullopt; }
-};
 
 /// A square table of candela values as the pages leave them: singles widened to doubles.
 PhotometricRecord squareRecord(int side)
@@ -68,15 +55,14 @@ double seconds(const Work &work)
 void BM_writerAgainstToChars(benchmark::State &state)
 {
     const PhotometricRecord record = squareRecord(static_cast<int>(state.range(0)));
-    NoFiles files;
-    NoDialogs dialogs;
-    IesWriter writer(files, dialogs);
+    std::string text;
     double writing = 1e9;
     double shortest = 1e9;
     double general = 1e9;
     for ([[maybe_unused]] auto _ : state) {
-        const double turn = seconds([&] { writer.build(record); });
-        benchmark::DoNotOptimize(writer.text().data());
+        text.clear();
+        const double turn = seconds([&] { appendIesText(text, record); });
+        benchmark::DoNotOptimize(text.data());
         writing = std::min(writing, turn);
         shortest = std::min(shortest, seconds([&] { toChars(record); }));
         general = std::min(general, seconds([&] { toChars(record, std::chars_format::general, 15); }));

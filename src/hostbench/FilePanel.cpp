@@ -11,9 +11,9 @@
 #include <QTimer>
 #include <QVBoxLayout>
 
+#include "core/IesText.h"
 #include "core/StartupState.h"
 #include "hostbench/TwoLineDelegate.h"
-#include "hostlib/RecordBridge.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {

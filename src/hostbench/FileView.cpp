@@ -9,8 +9,8 @@
 #include <QSplitter>
 
 #include "controls/MixedColour.h"
+#include "core/IesText.h"
 #include "core/NumberText.h"
-#include "hostlib/RecordBridge.h"
 #include "platform/RunTimeError.h"
 #include "plot/PlotView.h"
 

@@ -11,9 +11,9 @@
 #include <QTimer>
 #include <QWindow>
 
+#include "core/IesText.h"
 #include "hostbench/HostWindow.h"
 #include "hostbench/SampleLuminaire.h"
-#include "hostlib/RecordBridge.h"
 #include "hostlink/RecordText.h"
 
 namespace penwright {

@@ -2,25 +2,12 @@
 
 #include <limits>
 
-#include "core/IesWriter.h"
-#include "platform/Dialogs.h"
-#include "platform/TextFiles.h"
+#include "core/IesText.h"
+#include "platform/RunTimeError.h"
 
 namespace penwright {
 
 namespace {
-
-// Building a text touches no file and asks nobody.
-class NoFiles : public TextFiles {
-public:
-    int replace(const std::string &, std::string_view) override { return 0; }
-};
-
-class NoDialogs : public Dialogs {
-public:
-    Answer show(const MessageBox &) override { return Answer::Dismissed; }
-    std::optional<std::string> chooseSaveName(const SaveNameQuestion &) override { return std::nullopt; }
-};
 
 template <typename List>
 std::int16_t countOf(const List &list)
@@ -130,15 +117,6 @@ HostRecord hostRecord(const PhotometricRecord &record)
     to.optionalData = record.OptionalData;
     to.pictureFilename = record.PictureFilename;
     return to;
-}
-
-std::string iesFileText(const PhotometricRecord &record)
-{
-    NoFiles files;
-    NoDialogs dialogs;
-    IesWriter writer(files, dialogs);
-    writer.build(record);
-    return writer.text() + "\r\n";
 }
 
 std::string iesText(const HostRecord &record)

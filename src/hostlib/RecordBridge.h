@@ -12,7 +12,4 @@ PhotometricRecord photometricRecord(const HostRecord &record);
 /// The program's record as a host's. Error 9 when counts and arrays disagree.
 HostRecord hostRecord(const PhotometricRecord &record);
 
-/// The text of the record's IES file as it stands on disk; error 6 or 9 when its counts and arrays disagree.
-std::string iesFileText(const PhotometricRecord &record);
-
 }  // namespace penwright

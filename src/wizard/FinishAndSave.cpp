@@ -1,6 +1,8 @@
 #include "wizard/FinishAndSave.h"
 
 #include "core/FileErrors.h"
+#include "core/FileSaving.h"
+#include "core/IesText.h"
 #include "platform/Dialogs.h"
 
 namespace penwright {
@@ -20,11 +22,7 @@ std::string directoryOf(std::string_view path)
 }
 
 FinishAndSave::FinishAndSave(ToolState &state, const Services &services)
-    : m_state(state),
-      m_services(services),
-      m_writer(services.files, services.dialogs),
-      m_store(state, services),
-      m_post(state.start, services)
+    : m_state(state), m_services(services), m_store(state, services), m_post(state.start, services)
 {
 }
 
@@ -56,7 +54,7 @@ bool FinishAndSave::saveUnderChosenName()
         // A copy: "DATACHANGED" may replace the array while a message box is open.
         const PhotometricRecord record = m_state.PhotFiles(1);
         try {
-            if (!m_writer.WriteIesFile(record))
+            if (!WriteIesFile(record))
                 continue;
         } catch (const RunTimeError &error) {
             m_services.dialogs.show({writingQuestionText(error), kOkOnly, "Error saving " + record.Filename});
@@ -65,6 +63,12 @@ bool FinishAndSave::saveUnderChosenName()
         m_state.PhotFiles(1) = record;  // what was written is what the host gets
         return true;
     }
+}
+
+bool FinishAndSave::WriteIesFile(const PhotometricRecord &record)
+{
+    const TextMaker make = [&record](std::string &text) { appendIesText(text, record); };
+    return saveFile(record.Filename, make, m_services.files, m_services.dialogs);
 }
 
 FinishEnd FinishAndSave::handOver(std::string_view word)

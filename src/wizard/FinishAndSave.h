@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "core/IesWriter.h"
 #include "core/Services.h"
 #include "core/ToolState.h"
 #include "hostlink/ExchangeStore.h"
@@ -28,11 +27,14 @@ public:
 
 private:
     bool saveUnderChosenName();
+
+    /// Saves the record's IES file under its `Filename`, as saveFile does.
+    bool WriteIesFile(const PhotometricRecord &record);
+
     FinishEnd handOver(std::string_view word);
 
     ToolState &m_state;
     Services m_services;
-    IesWriter m_writer;
     ExchangeStore m_store;
     HostPost m_post;
 };

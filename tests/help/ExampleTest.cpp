@@ -3,15 +3,13 @@
 #include <string>
 #include <vector>
 
-#include "core/IesWriter.h"
+#include "core/IesText.h"
 #include "pages/candela/CandelaChecks.h"
 #include "pages/candela/StoreCandela.h"
 #include "pages/distribution/DistributionFields.h"
 #include "pages/keywords/KeywordLines.h"
 #include "pages/luminaire/LampFields.h"
 #include "pages/luminaire/TiltFields.h"
-#include "support/FakeDialogs.h"
-#include "support/FakeTextFiles.h"
 #include "TopicFolder.h"
 
 namespace penwright::test {
@@ -19,11 +17,9 @@ namespace {
 
 std::string textOf(const PhotometricRecord &record)
 {
-    FakeTextFiles files;
-    FakeDialogs dialogs;
-    IesWriter writer(files, dialogs);
-    writer.build(record);
-    return writer.text();
+    std::string text;
+    appendIesText(text, record);
+    return text;
 }
 
 std::string withFileLineEnds(const std::string &text)

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/IesWriter.h"
+#include "core/IesText.h"
 #include "core/PhotometricRecord.h"
 #include "pages/distribution/PredefinedAngles.h"
 #include "pages/keywords/KeywordTable.h"

@@ -2,6 +2,7 @@
 
 #include <QPlainTextEdit>
 
+#include "core/IesText.h"
 #include "hostbench/SampleLuminaire.h"
 #include "hostlib/RecordBridge.h"
 #include "platform/sqlite/SqliteSettingsStore.h"

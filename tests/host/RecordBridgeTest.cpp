@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/IesText.h"
 #include "hostbench/SampleLuminaire.h"
 #include "platform/RunTimeError.h"
 

@@ -1,10 +1,6 @@
-#include "core/IesWriter.h"
+#include "core/IesText.h"
 #include "core/NumberText.h"
-#include "support/FakeDialogs.h"
 #include "support/SampleRecords.h"
-#include "support/TempFolder.h"
-
-#include "platform/posix/PosixTextFiles.h"
 
 namespace penwright {
 namespace {
@@ -48,8 +44,8 @@ protected:
         record.Candela.reset(1, record.NumVertAngles);
         for (int v = 1; v <= record.NumVertAngles; ++v)
             record.Candela(1, v) = values[static_cast<std::size_t>(v) - 1];
-        writer.build(record);
-        const std::string &text = writer.text();
+        std::string text;
+        appendIesText(text, record);
         const std::string mark = "\r\n0\r\n";  // the line of the one horizontal angle
         std::vector<std::string> lines;
         std::size_t start = text.rfind(mark) + mark.size();
@@ -58,10 +54,6 @@ protected:
         lines.push_back(text.substr(start));
         return lines;
     }
-
-    PosixTextFiles files;
-    test::FakeDialogs dialogs;
-    IesWriter writer{files, dialogs};
 };
 
 std::size_t visible(const std::string &line)
@@ -112,8 +104,7 @@ TEST_F(Fold, wholeLinesAreNeverFolded)
 {
     PhotometricRecord record = test::smallRecord();
     record.Keywords(2) = "[OTHER] " + std::string(500, 'x');
-    writer.build(record);
-    EXPECT_NE(writer.text().find("\r\n[OTHER] " + std::string(500, 'x') + "\r\n"), std::string::npos);
+    EXPECT_NE(iesFileText(record).find("\r\n[OTHER] " + std::string(500, 'x') + "\r\n"), std::string::npos);
 }
 
 TEST_F(Fold, anglesAndTiltNumbersAreFoldedToo)
@@ -124,14 +115,13 @@ TEST_F(Fold, anglesAndTiltNumbersAreFoldedToo)
     record.NumTiltAngles = 100;
     record.TiltAngles.reset(100);
     record.TiltMultipliers.reset(100);
-    writer.build(record);
     const std::string full = [] {
         std::string zeros = "0";
         for (int i = 1; i < 66; ++i)
             zeros += " 0";
         return zeros;
     }();
-    const std::string &text = writer.text();
+    const std::string text = iesFileText(record);
     const std::size_t first = text.find("\r\n" + full + "\r\n 0");
     ASSERT_NE(first, std::string::npos);
     EXPECT_NE(text.find("\r\n" + full + "\r\n 0", first + 2), std::string::npos);

@@ -3,7 +3,8 @@
 #include <sys/resource.h>
 
 #include "core/FileErrors.h"
-#include "core/IesWriter.h"
+#include "core/FileSaving.h"
+#include "core/IesText.h"
 #include "support/FakeDialogs.h"
 #include "support/SampleRecords.h"
 #include "unit/core/FilesTest.h"
@@ -16,7 +17,7 @@ namespace fs = std::filesystem;
 /// What a child process ends with when it has seen what it should; no accident ends so.
 constexpr int kSeen = 42;
 
-/// The writer over real files: what the user reads when a real fault befalls the file.
+/// Saving real files: what the user reads when a real fault befalls the file.
 class SavingFaults : public test::FilesTest {
 protected:
     SavingFaults() { dialogs.answers = {Answer::Cancel}; }
@@ -24,9 +25,7 @@ protected:
     /// The first line of the message that saving under `path` shows, "" when it shows none.
     std::string messageOf(const std::string &path)
     {
-        PhotometricRecord record = test::smallRecord();
-        record.Filename = path;
-        const bool isWritten = writer.WriteIesFile(record);
+        const bool isWritten = save(path);
         EXPECT_EQ(isWritten, dialogs.transcript.empty());
         const std::string title = "[Error saving " + path + "|1] ";
         const std::string question = "\r\nOK to Retry, Cancel to quit.\n";
@@ -38,8 +37,13 @@ protected:
         return shown.substr(title.size(), shown.size() - title.size() - question.size());
     }
 
+    bool save(const std::string &path)
+    {
+        const auto make = [](std::string &text) { appendIesText(text, test::smallRecord()); };
+        return saveFile(path, make, files, dialogs);
+    }
+
     test::FakeDialogs dialogs;
-    IesWriter writer{files, dialogs};
 };
 
 TEST_F(SavingFaults, missingFolder)
@@ -130,11 +134,8 @@ TEST_F(SavingFaults, retrySucceedsOnceTheFolderIsThere)
 {
     dialogs.answers = {Answer::Ok};
     dialogs.onShow = [this](const MessageBox &) { fs::create_directory(folder.path() / "late"); };
-    PhotometricRecord record = test::smallRecord();
-    record.Filename = folder.file("late/a.ies");
-    EXPECT_TRUE(writer.WriteIesFile(record));
-    writer.build(record);
-    EXPECT_EQ(test::contentOf(record.Filename), writer.text() + "\r\n");
+    EXPECT_TRUE(save(folder.file("late/a.ies")));
+    EXPECT_EQ(test::contentOf(folder.file("late/a.ies")), iesFileText(test::smallRecord()));
 }
 
 TEST_F(SavingFaults, cancelledSaveLeavesNothing)

@@ -1,13 +1,10 @@
-#include "core/IesWriter.h"
+#include "core/IesText.h"
 
 #include <algorithm>
 #include <iterator>
 #include <limits>
 
-#include "core/FileErrors.h"
 #include "core/NumberText.h"
-#include "platform/Dialogs.h"
-#include "platform/TextFiles.h"
 
 namespace penwright {
 namespace {
@@ -38,16 +35,27 @@ std::string joined(Numbers... numbers)
     return text;
 }
 
-}  // namespace
+/// The text of one file while it is built.
+class IesFile {
+public:
+    explicit IesFile(std::string &text) : IesText(text) {}
 
-std::int16_t foldWidth(std::string_view firstLine)
-{
-    const auto row = std::find_if(std::begin(kFoldRows), std::end(kFoldRows),
-                                  [firstLine](const FoldRow &r) { return r.firstLine == firstLine; });
-    return row == std::end(kFoldRows) ? kOldestFormatWidth : row->width;
-}
+    void append(const PhotometricRecord &record);
 
-void IesWriter::AppendIesPiece(std::string_view piece)
+private:
+    /// Appends one number, one separator or one whole line; a piece without a line end that would pass the fold width
+    /// goes onto a new line, a separating blank too.
+    void AppendIesPiece(std::string_view piece);
+    void appendHeader(const PhotometricRecord &record);
+    void appendNumbers(const OneBased<float> &numbers, int count);
+    void appendCandela(const PhotometricRecord &record);
+
+    std::string &IesText;
+    std::int16_t IesLineWidth = 0;
+    std::int16_t IesLineLength = 0;
+};
+
+void IesFile::AppendIesPiece(std::string_view piece)
 {
     const std::size_t lineEnd = piece.rfind(kLineEnd);
     const std::int16_t together = narrowed(piece.size() + static_cast<std::size_t>(IesLineLength));
@@ -66,7 +74,7 @@ void IesWriter::AppendIesPiece(std::string_view piece)
     }
 }
 
-void IesWriter::appendHeader(const PhotometricRecord &record)
+void IesFile::appendHeader(const PhotometricRecord &record)
 {
     for (const std::string &line : record.Keywords)
         AppendIesPiece(line + "\r\n");
@@ -79,7 +87,7 @@ void IesWriter::appendHeader(const PhotometricRecord &record)
     appendNumbers(record.TiltMultipliers, record.NumTiltAngles);
 }
 
-void IesWriter::appendNumbers(const OneBased<float> &numbers, int count)
+void IesFile::appendNumbers(const OneBased<float> &numbers, int count)
 {
     for (int i = 1; i <= count; ++i) {
         AppendIesPiece(generalText(numbers(i)));
@@ -88,7 +96,7 @@ void IesWriter::appendNumbers(const OneBased<float> &numbers, int count)
 }
 
 // The last row gets no line end here: writing the file ends it.
-void IesWriter::appendCandela(const PhotometricRecord &record)
+void IesFile::appendCandela(const PhotometricRecord &record)
 {
     std::string number;
     for (int h = 1; h <= record.NumHorzAngles; ++h) {
@@ -104,9 +112,8 @@ void IesWriter::appendCandela(const PhotometricRecord &record)
     }
 }
 
-void IesWriter::build(const PhotometricRecord &record)
+void IesFile::append(const PhotometricRecord &record)
 {
-    IesText.clear();
     IesLineWidth = foldWidth(record.Keywords(1));
     appendHeader(record);
     AppendIesPiece(joined(record.NumLamps, record.LumensPerLamp, record.CandelaMultiplier, record.NumVertAngles,
@@ -119,32 +126,25 @@ void IesWriter::build(const PhotometricRecord &record)
     appendCandela(record);
 }
 
-void IesWriter::write(const std::string &path)
+}  // namespace
+
+std::int16_t foldWidth(std::string_view firstLine)
 {
-    IesText += kLineEnd;
-    const int failure = m_files.replace(path, IesText);
-    IesText.resize(IesText.size() - kLineEnd.size());
-    if (failure != 0)
-        throw errorFromErrno(failure);
+    const auto row = std::find_if(std::begin(kFoldRows), std::end(kFoldRows),
+                                  [firstLine](const FoldRow &r) { return r.firstLine == firstLine; });
+    return row == std::end(kFoldRows) ? kOldestFormatWidth : row->width;
 }
 
-bool IesWriter::WriteIesFile(const PhotometricRecord &record)
+void appendIesText(std::string &text, const PhotometricRecord &record)
 {
-    // A host command may replace the record while the message is shown.
-    const std::string path = record.Filename;
-    MessageBox question{"", kOkCancel, "Error saving " + path};
-    try {
-        build(record);
-        write(path);
-        return true;
-    } catch (const RunTimeError &error) {
-        question.text = writingQuestionText(error);
-    }
-    if (m_dialogs.show(question) != Answer::Ok)
-        return false;
-    // The text is not built again: what an error while building has left is what gets written.
-    write(path);
-    return true;
+    IesFile(text).append(record);
+}
+
+std::string iesFileText(const PhotometricRecord &record)
+{
+    std::string text;
+    appendIesText(text, record);
+    return text.append(kLineEnd);
 }
 
 }  // namespace penwright
