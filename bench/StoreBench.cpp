@@ -33,7 +33,7 @@ void recordOut(benchmark::State &state)
 {
     ToolBench bench;
     bench.state.PhotFiles(1) = largeRecord();
-    ExchangeStore exchange(bench.state, bench.services);
+    ExchangeStore exchange(bench.state, bench.store, bench.dialogs);
     for (auto _ : state)
         benchmark::DoNotOptimize(exchange.SaveRecordsToStore(1, 1, 1));
 }
@@ -43,10 +43,10 @@ void recordIn(benchmark::State &state)
 {
     ToolBench bench;
     bench.state.PhotFiles(1) = largeRecord();
-    ExchangeStore exchange(bench.state, bench.services);
+    ExchangeStore exchange(bench.state, bench.store, bench.dialogs);
     exchange.SaveRecordsToStore(1, 1, 1);
     for (auto _ : state)
-        if (exchange.LoadRecordsFromStore())
+        if (exchange.loadRecords())
             state.SkipWithError("the record does not load");
 }
 BENCHMARK(recordIn)->Unit(benchmark::kMillisecond);
@@ -64,9 +64,9 @@ void idleTick(benchmark::State &state)
 {
     ToolBench bench;
     bench.state.PhotFiles(1) = largeRecord();
-    ExchangeStore(bench.state, bench.services).SaveRecordsToStore(1, 1, 1);
+    ExchangeStore(bench.state, bench.store, bench.dialogs).SaveRecordsToStore(1, 1, 1);
     NoWindow window;
-    CommandLink link(bench.state, bench.services, window);
+    CommandLink link(bench.state, bench.store, bench.dialogs, bench.window, window);
     for (auto _ : state)
         benchmark::DoNotOptimize(link.poll());
 }
@@ -77,7 +77,7 @@ void tickAfterAnothersWrite(benchmark::State &state)
 {
     ToolBench bench;
     NoWindow window;
-    CommandLink link(bench.state, bench.services, window);
+    CommandLink link(bench.state, bench.store, bench.dialogs, bench.window, window);
     penwright::SqliteSettingsStore other(bench.folder.file("Lumentor/settings.sqlite3"));
     for (auto _ : state) {
         state.PauseTiming();
@@ -88,11 +88,11 @@ void tickAfterAnothersWrite(benchmark::State &state)
 }
 BENCHMARK(tickAfterAnothersWrite)->Unit(benchmark::kMicrosecond);
 
-void commandTaken(benchmark::State &state)
+void commandPopped(benchmark::State &state)
 {
     ToolBench bench;
     NoWindow window;
-    CommandLink link(bench.state, bench.services, window);
+    CommandLink link(bench.state, bench.store, bench.dialogs, bench.window, window);
     for (auto _ : state) {
         state.PauseTiming();
         bench.setValue("PenwrightPE|7", "MOVEWIN,0,0,720,560");
@@ -100,7 +100,7 @@ void commandTaken(benchmark::State &state)
         benchmark::DoNotOptimize(link.poll());
     }
 }
-BENCHMARK(commandTaken)->Unit(benchmark::kMicrosecond);
+BENCHMARK(commandPopped)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 

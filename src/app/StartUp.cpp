@@ -53,11 +53,11 @@ int run(Tool &tool, const std::string &commandLine, const std::string &executabl
     state.CandelaWorkRecord.clear();
     readSettings(start, tool.services().store);
     start.HelpFilePath = executableFolder + "/Lumentor_PE-HTML.chm";
-    takeCommandLine(commandLine, start);
+    parseCommandLine(commandLine, start);
     if (start.OpenFileCount >= kMaxFiles) {
         showAndPrint(tool.services().dialogs, {kFullText});
         if (!tool.closing().isClosing())
-            HostPost(start, tool.services()).postCommand("ReturnClose,");
+            HostPost(start, tool.services().store, tool.services().wait).postCommand("ReturnClose,");
         return 1;
     }
     state.PhotFiles.reset(1);

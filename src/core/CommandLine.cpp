@@ -5,7 +5,7 @@
 
 namespace penwright {
 
-void takeCommandLine(std::string_view commandLine, StartupState &start)
+void parseCommandLine(std::string_view commandLine, StartupState &start)
 {
     const SplitText split = SplitCommandText(commandLine);
     if (split.fieldCount != 6)

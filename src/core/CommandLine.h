@@ -6,9 +6,9 @@
 
 namespace penwright {
 
-/// Takes the six comma-separated fields that a host passes: window number, embed flag, host inbox, instance tag, open
-/// files, settings section. With any other number of fields nothing is taken, and `HostWindow` stays 0. Fields 1, 2
+/// Parses the six comma-separated fields that a host passes: window number, embed flag, host inbox, instance tag, open
+/// files, settings section. With any other number of fields nothing is stored, and `HostWindow` stays 0. Fields 1, 2
 /// and 5 go by their leading number; one beyond its type raises error 6.
-void takeCommandLine(std::string_view commandLine, StartupState &start);
+void parseCommandLine(std::string_view commandLine, StartupState &start);
 
 }  // namespace penwright

@@ -123,7 +123,7 @@ ToolTab *HostWindow::startTool()
     m_tools.append(tab);
     connect(&tab->run(), &ToolRun::logged, this,
             [this, tab](ToolRun::Line line, const QString &text) { m_log->append(tab->run().name(), line, text); });
-    connect(&tab->run(), &ToolRun::commandTaken, this, [this, tab](const ToolCommand &command) { take(tab, command); });
+    connect(&tab->run(), &ToolRun::commandTaken, this, [this, tab](const ToolCommand &command) { obey(tab, command); });
     connect(&tab->run(), &ToolRun::recordsWanted, this, [this, tab] { storeSelected(tab); });
     // Queued: a tool that cannot be started ends before its tab has begun.
     connect(
@@ -166,16 +166,16 @@ void HostWindow::sendDeleteFile()
     shownTool()->run().tool().sendDeleteFile(m_files.at(m_panel->selected()).record.Filename);
 }
 
-void HostWindow::take(ToolTab *tab, const ToolCommand &command)
+void HostWindow::obey(ToolTab *tab, const ToolCommand &command)
 {
     if (bringsRecord(command.word))
-        takeRecord(tab, isSavedOnDisk(command.word));
+        readRecord(tab, isSavedOnDisk(command.word));
     if (expectsClose(command.word))
         tab->run().tool().sendClose();
     emit commandDone(tab, command);
 }
 
-void HostWindow::takeRecord(ToolTab *tab, bool isSaved)
+void HostWindow::readRecord(ToolTab *tab, bool isSaved)
 {
     try {
         for (const LoadedRecord &read : tab->run().tool().loadRecords()) {

@@ -57,8 +57,8 @@ private:
     void followPalette();
     void storeSelected(ToolTab *tab);
     void sendDeleteFile();
-    void take(ToolTab *tab, const ToolCommand &command);
-    void takeRecord(ToolTab *tab, bool isSaved);
+    void obey(ToolTab *tab, const ToolCommand &command);
+    void readRecord(ToolTab *tab, bool isSaved);
     void removeTool(ToolTab *tab);
     void closeTools();
     void note(ToolTab *tab, const QString &text);

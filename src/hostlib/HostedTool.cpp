@@ -132,7 +132,7 @@ void HostedTool::exchange()
         call(parts.onText, LinkWay::ToTool, text);
     if (const auto waiting = parseToolCommand(parts.link.waiting()); waiting && waiting->word == ToolWord::RefreshData)
         call(parts.onRecordsWanted);
-    const std::string text = parts.link.take();
+    const std::string text = parts.link.pop();
     if (text.empty())
         return;
     call(parts.onText, LinkWay::FromTool, text);

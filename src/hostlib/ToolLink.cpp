@@ -1,7 +1,5 @@
 #include "hostlib/ToolLink.h"
 
-#include <algorithm>
-
 #include "core/StartupState.h"
 
 namespace penwright {
@@ -73,44 +71,29 @@ std::string ToolLink::waiting()
     return m_store.peek(kApplication, m_address.section, m_address.inbox).value_or("");
 }
 
-std::string ToolLink::take()
+std::string ToolLink::pop()
 {
-    return m_store.take(kApplication, m_address.section, m_address.inbox);
+    return m_store.pop(kApplication, m_address.section, m_address.inbox);
 }
 
-void ToolLink::clearRecord(int fileNumber)
+RecordSection ToolLink::records() const
 {
-    for (const std::string_view word : kRecordWords)
-        m_store.write(kApplication, m_address.section, recordValueName(word, fileNumber), "");
+    return RecordSection(m_store, kApplication, m_address.section);
 }
 
-void ToolLink::storeRecords(const std::vector<PhotometricRecord> &records)
+void ToolLink::storeRecords(const std::vector<PhotometricRecord> &list)
 {
+    RecordSection section = records();
     m_store.transact([&] {
-        for (int fileNumber = 1; fileNumber <= kMaxFiles; ++fileNumber)
-            clearRecord(fileNumber);
-        const auto end = records.begin() + std::min<std::ptrdiff_t>(std::ssize(records), kMaxFiles);
-        int fileNumber = 0;
-        for (auto record = records.begin(); record != end; ++record) {
-            ++fileNumber;
-            writeRecordTexts(*record, [&](std::string_view word, const std::string &text) {
-                m_store.write(kApplication, m_address.section, recordValueName(word, fileNumber), text);
-            });
-        }
+        section.clear();
+        for (std::size_t i = 0; i < list.size() && i < std::size_t{kMaxFiles}; ++i)
+            section.write(static_cast<int>(i) + 1, list[i]);
     });
 }
 
 std::vector<ReadRecord> ToolLink::loadRecords()
 {
-    std::vector<ReadRecord> records;
-    for (int fileNumber = 1; fileNumber <= kMaxFiles; ++fileNumber) {
-        const auto read = [&](std::string_view word) {
-            return m_store.read(kApplication, m_address.section, recordValueName(word, fileNumber));
-        };
-        if (!read(kRecordWords.front()).empty())
-            records.push_back(readRecordTexts(read));
-    }
-    return records;
+    return records().read(kMaxFiles);
 }
 
 void ToolLink::forget()

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/PhotometricRecord.h"
-#include "hostlink/RecordText.h"
+#include "hostlink/RecordSection.h"
 #include "platform/SettingsStore.h"
 
 namespace penwright {
@@ -46,9 +46,9 @@ public:
     /// The text that the tool has posted, left in its place; "" when there is none.
     std::string waiting();
 
-    /// Takes the text that the tool has posted, which empties the host's inbox; "" when there is none. The tool waits
-    /// for this up to 3 seconds.
-    std::string take();
+    /// The text that the tool has posted, and empties the host's inbox; "" when there is none. The tool waits for this
+    /// up to 3 seconds.
+    std::string pop();
 
     /// Puts records into the store as files 1, 2 and so on, at most 25, in one transaction. What was there goes.
     void storeRecords(const std::vector<PhotometricRecord> &records);
@@ -61,7 +61,7 @@ public:
 
 private:
     std::string toolInbox() const;
-    void clearRecord(int fileNumber);
+    RecordSection records() const;
 
     SettingsStore &m_store;
     ToolAddress m_address;

@@ -46,8 +46,14 @@ int place(std::int32_t pixels)
 
 }  // namespace
 
-CommandLink::CommandLink(ToolState &state, const Services &services, LinkedWindow &window)
-    : m_state(state), m_services(services), m_window(window), m_store(state, services)
+CommandLink::CommandLink(ToolState &state, SettingsStore &store, Dialogs &dialogs, HostEmbedding &embedding,
+                         LinkedWindow &window)
+    : m_state(state),
+      m_store(store),
+      m_dialogs(dialogs),
+      m_embedding(embedding),
+      m_window(window),
+      m_exchange(state, store, dialogs)
 {
 }
 
@@ -58,14 +64,14 @@ std::string CommandLink::inboxName() const
 
 bool CommandLink::poll()
 {
-    std::string command = m_services.store.take(m_state.start.SettingsApp, m_state.start.ExchangeSection, inboxName());
+    std::string command = m_store.pop(m_state.start.SettingsApp, m_state.start.ExchangeSection, inboxName());
     if (command.empty())
         return false;
     m_waiting.push_back(std::move(command));
     return true;
 }
 
-void CommandLink::execute()
+void CommandLink::obeyNext()
 {
     if (m_waiting.empty())
         return;
@@ -82,7 +88,7 @@ void CommandLink::msbCmd(std::string command)
         try {
             const SplitText split = SplitCommandText(PendingCommand);
             if (split.lineCount > 0)
-                dispatch(split.table);
+                obey(split.table);
         } catch (const RunTimeError &) {
             tellError();
         }
@@ -95,10 +101,10 @@ void CommandLink::tellError()
     if (m_isTellingError)
         return;
     const Raised raised(m_isTellingError);
-    m_services.dialogs.show({"err in linkExectue."});
+    m_dialogs.show({"err in linkExectue."});
 }
 
-void CommandLink::dispatch(const FieldTable &fields)
+void CommandLink::obey(const FieldTable &fields)
 {
     const std::string word = trimmedUpper(fields(1, 1));
     if (word == "DATACHANGED") {
@@ -123,14 +129,13 @@ void CommandLink::moveWindow(const FieldTable &fields)
     const std::int32_t x = number(2), y = number(3), width = number(4), height = number(5);
     m_state.start.MoveX = x;
     m_state.start.MoveY = y;
-    HostEmbedding &window = m_services.window;
-    const auto pixels = [&window](std::int32_t twips) {
-        return static_cast<int>(std::lround(twips / window.twipsPerPixel()));
+    const auto pixels = [this](std::int32_t twips) {
+        return static_cast<int>(std::lround(twips / m_embedding.twipsPerPixel()));
     };
     const PixelSize design{pixels(m_state.start.DesignWidth), pixels(m_state.start.DesignHeight)};
-    window.MoveWindow(place(x), place(y), wantedSize(width, height, design, window.size()));
-    if (window.isShown())
-        window.raise();
+    m_embedding.MoveWindow(place(x), place(y), wantedSize(width, height, design, m_embedding.size()));
+    if (m_embedding.isShown())
+        m_embedding.raise();
 }
 
 void CommandLink::deleteFile()
@@ -146,10 +151,8 @@ void CommandLink::deleteFile()
 
 void CommandLink::dataChanged()
 {
-    if (m_store.loadOrKeepRecords()) {
-        const std::string result = "No data or error -1";
-        return m_log.append(m_store.problem().empty() ? result : result + " " + m_store.problem());
-    }
+    if (const auto problem = m_exchange.loadOrKeepRecords())
+        return m_log.append("No data or error -1" + (problem->empty() ? "" : " " + *problem));
     std::string used;
     for (PhotometricRecord &record : m_state.CandelaWorkRecord)
         for (const PhotometricRecord &fresh : m_state.PhotFiles)

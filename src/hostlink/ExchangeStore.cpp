@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "hostlink/RecordText.h"
 #include "platform/Dialogs.h"
 #include "platform/SettingsStore.h"
 
@@ -13,10 +12,9 @@ const std::string kTooManyText = "You have reached the maximum number of files a
 
 }  // namespace
 
-void ExchangeStore::write(std::string_view word, int fileNumber, std::string_view text)
+RecordSection ExchangeStore::section() const
 {
-    m_services.store.write(m_state.start.SettingsApp, m_state.start.ExchangeSection, recordValueName(word, fileNumber),
-                           text);
+    return RecordSection(m_store, m_state.start.SettingsApp, m_state.start.ExchangeSection);
 }
 
 std::int16_t ExchangeStore::SaveRecordsToStore(int first, int last, int startFile)
@@ -26,7 +24,8 @@ std::int16_t ExchangeStore::SaveRecordsToStore(int first, int last, int startFil
     const OneBased<PhotometricRecord> records = m_state.PhotFiles;
     std::int16_t written = 0;
     bool tooMany = false;
-    m_services.store.transact([&] {
+    RecordSection stored = section();
+    m_store.transact([&] {
         written = 0;
         tooMany = false;
         ClearStore();
@@ -37,76 +36,57 @@ std::int16_t ExchangeStore::SaveRecordsToStore(int first, int last, int startFil
             // The slot goes by the file number, not by the index, and only the index is held against the limit: that is
             // how hosts know it, and the wizard always stores slot 1 as file 1.
             if (file > records.size()) {
-                write("Filename", file, "");
+                stored.writeNone(file);
             } else if (index > kMaxFiles) {
                 tooMany = true;
             } else {
-                writeRecordTexts(records(file),
-                                 [&](std::string_view word, const std::string &text) { write(word, file, text); });
+                stored.write(file, records(file));
                 ++written;
             }
         }
     });
     if (tooMany)
-        m_services.dialogs.show({kTooManyText, kSystemModal + kInformation + kCritical, "Load Data"});
+        m_dialogs.show({kTooManyText, kSystemModal + kInformation + kCritical, "Load Data"});
     return written;
 }
 
-bool ExchangeStore::LoadRecordsFromStore()
+std::optional<std::string> ExchangeStore::loadRecords()
 {
-    return load(readSection());
+    return replaceBy(read());
 }
 
-bool ExchangeStore::loadOrKeepRecords()
+std::optional<std::string> ExchangeStore::loadOrKeepRecords()
 {
-    const Values values = readSection();
+    std::vector<ReadRecord> records = read();
     // What the user has entered so far lives in the array that a load replaces.
     OneBased<PhotometricRecord> before = m_state.PhotFiles;
-    const bool failed = load(values);
-    if (failed)
+    std::optional<std::string> problem = replaceBy(std::move(records));
+    if (problem)
         m_state.PhotFiles = std::move(before);
-    return failed;
+    return problem;
 }
 
-bool ExchangeStore::load(const Values &values)
+// Comes before any change, because window events may run while it waits for a locked store.
+std::vector<ReadRecord> ExchangeStore::read()
 {
-    m_problem.clear();
     m_state.start.LoadLimit = std::min<std::int16_t>(m_state.start.LoadLimit, kMaxFiles);
-    m_state.PhotFiles.clear();
-    for (int file = 1; file <= m_state.start.LoadLimit; ++file) {
-        const auto read = [&](std::string_view word) {
-            const auto value = values.find(recordValueName(word, file));
-            return value == values.end() ? std::string() : value->second;
-        };
-        if (read("Filename").empty())
-            continue;
-        ReadRecord loaded = readRecordTexts(read);
-        m_state.PhotFiles.append(std::move(loaded.record));
-        if (!loaded.problem.empty()) {
-            m_problem = std::move(loaded.problem);
-            return true;
-        }
-    }
-    return m_state.PhotFiles.empty();
+    return section().read(m_state.start.LoadLimit);
 }
 
-// One look at the whole section: a host that writes meanwhile must not mix two records. It comes before any change,
-// because window events may run while it waits for a locked store.
-ExchangeStore::Values ExchangeStore::readSection()
+std::optional<std::string> ExchangeStore::replaceBy(std::vector<ReadRecord> records)
 {
-    Values values;
-    for (Setting &setting : m_services.store.readAll(m_state.start.SettingsApp, m_state.start.ExchangeSection))
-        values.emplace(std::move(setting.name), std::move(setting.data));
-    return values;
+    m_state.PhotFiles.clear();
+    for (ReadRecord &loaded : records) {
+        m_state.PhotFiles.append(std::move(loaded.record));
+        if (!loaded.problem.empty())
+            return std::move(loaded.problem);
+    }
+    return records.empty() ? std::optional<std::string>("") : std::nullopt;
 }
 
 void ExchangeStore::ClearStore()
 {
-    m_services.store.transact([&] {
-        for (int file = 1; file <= kMaxFiles; ++file)
-            for (const std::string_view word : kRecordWords)
-                write(word, file, "");
-    });
+    section().clear();
 }
 
 }  // namespace penwright

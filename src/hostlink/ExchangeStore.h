@@ -1,19 +1,24 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
-#include <string_view>
-#include <unordered_map>
 
-#include "core/Services.h"
 #include "core/ToolState.h"
+#include "hostlink/RecordSection.h"
 
 namespace penwright {
+
+class Dialogs;
+class SettingsStore;
 
 /// The photometric records in the settings store, under the application and section that the host named.
 class ExchangeStore {
 public:
-    ExchangeStore(ToolState &state, const Services &services) : m_state(state), m_services(services) {}
+    ExchangeStore(ToolState &state, SettingsStore &store, Dialogs &dialogs)
+        : m_state(state), m_store(store), m_dialogs(dialogs)
+    {
+    }
 
     /// Clears the store, then writes records of `PhotFiles` and returns how many it wrote, all in one transaction. For
     /// each index from `first` to `last` the slot that is written is the file number, which counts up from
@@ -22,31 +27,32 @@ public:
     /// locked. Error of the store when it cannot be written.
     std::int16_t SaveRecordsToStore(int first, int last, int startFile);
 
-    /// Replaces `PhotFiles` by the records of file numbers 1 to `LoadLimit` whose "Filename" is not empty. True when
-    /// nothing was loaded or a value could not be parsed: see problem(). A record that could not be parsed is left in
-    /// the last slot with what was read of it. Error of the store, with nothing replaced, when it cannot be read.
-    bool LoadRecordsFromStore();
+    /// Replaces `PhotFiles` by the records of file numbers 1 to `LoadLimit` whose "Filename" is not empty, up to one
+    /// that cannot be parsed, which is left in the last slot with what was read of it. Returns nothing when all is
+    /// loaded, else the problem: the text of the value that could not be parsed, or its marker in brackets where it has
+    /// no text of its own, or "" when there is no record. Error of the store, with nothing replaced, when it cannot be
+    /// read.
+    std::optional<std::string> loadRecords();
 
-    /// The same, but a load that fails puts the previous `PhotFiles` back.
-    bool loadOrKeepRecords();
-
-    /// The problem text of the last load, or the marker of the value in brackets where that has no text of its own;
-    /// "" when every value was parsed.
-    const std::string &problem() const { return m_problem; }
+    /// The same, but a load with a problem puts the previous `PhotFiles` back.
+    std::optional<std::string> loadOrKeepRecords();
 
     /// Blanks all eleven values of file numbers 1 to 25.
     void ClearStore();
 
-private:
-    using Values = std::unordered_map<std::string, std::string>;
+    // Called by nothing in the program; the name and its answer are fixed.
 
-    Values readSection();
-    bool load(const Values &values);
-    void write(std::string_view word, int fileNumber, std::string_view text);
+    /// loadRecords; true when there was a problem.
+    bool LoadRecordsFromStore() { return loadRecords().has_value(); }
+
+private:
+    RecordSection section() const;
+    std::vector<ReadRecord> read();
+    std::optional<std::string> replaceBy(std::vector<ReadRecord> records);
 
     ToolState &m_state;
-    Services m_services;
-    std::string m_problem;
+    SettingsStore &m_store;
+    Dialogs &m_dialogs;
 };
 
 }  // namespace penwright

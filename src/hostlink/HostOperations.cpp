@@ -4,8 +4,9 @@
 
 namespace penwright {
 
-HostOperations::HostOperations(ToolState &state, const Services &services, CommandLog &log)
-    : m_state(state), m_services(services), m_log(log), m_store(state, services), m_post(state.start, services)
+HostOperations::HostOperations(ToolState &state, SettingsStore &store, Dialogs &dialogs, EventWait &wait,
+                               CommandLog &log)
+    : m_state(state), m_dialogs(dialogs), m_log(log), m_store(state, store, dialogs), m_post(state.start, store, wait)
 {
 }
 
@@ -17,7 +18,7 @@ void HostOperations::send(std::string_view word)
         stored = m_store.SaveRecordsToStore(1, 1, 1);
     }
     if (stored == 0) {
-        m_services.dialogs.show({"No photometric data loaded.", kExclamation + kSystemModal, "Send Data"});
+        m_dialogs.show({"No photometric data loaded.", kExclamation + kSystemModal, "Send Data"});
         return;
     }
     m_post.postCommand(word);
@@ -36,11 +37,10 @@ void HostOperations::sendSaved()
 void HostOperations::refresh()
 {
     try {
-        m_post.PostToHost(m_state.start.HostInbox, "", "RefreshData");
-        if (m_post.lastEnd() == WaitEnd::Cancelled)
+        if (m_post.post(m_state.start.HostInbox, "RefreshData") == WaitEnd::Cancelled)
             return;
-        if (m_store.loadOrKeepRecords())
-            return m_log.append("No data error: " + (m_store.problem().empty() ? "no file" : m_store.problem()));
+        if (const auto problem = m_store.loadOrKeepRecords())
+            return m_log.append("No data error: " + (problem->empty() ? "no file" : *problem));
         m_state.CandelaWorkRecord = m_state.PhotFiles;
     } catch (const RunTimeError &error) {
         m_log.append("General error: " + error.description());

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "core/Services.h"
 #include "core/ToolState.h"
 #include "hostlink/CommandLog.h"
 #include "hostlink/ExchangeStore.h"
@@ -12,7 +11,7 @@ namespace penwright {
 /// use them, and they are kept working for the day when one of this tool does.
 class HostOperations {
 public:
-    HostOperations(ToolState &state, const Services &services, CommandLog &log);
+    HostOperations(ToolState &state, SettingsStore &store, Dialogs &dialogs, EventWait &wait, CommandLog &log);
 
     /// Stores the working record and posts "SendUpdatedDataClose,"; a message box when there is none to store. Error of
     /// the store when it cannot be written.
@@ -29,7 +28,7 @@ private:
     void send(std::string_view word);
 
     ToolState &m_state;
-    Services m_services;
+    Dialogs &m_dialogs;
     CommandLog &m_log;
     ExchangeStore m_store;
     HostPost m_post;

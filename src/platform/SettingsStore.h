@@ -16,7 +16,7 @@ struct Setting {
 };
 
 /// The per-user settings store that tool and host share. Values are addressed by application, section and name, which
-/// compare exactly, case included. Every routine but `peek` and `take` raises RunTimeError with a description that
+/// compare exactly, case included. Every routine but `peek` and `pop` raises RunTimeError with a description that
 /// names the store's file and the reason when the store cannot be used.
 class SettingsStore {
 public:
@@ -49,7 +49,7 @@ public:
 
     /// Reads a value and empties it in one transaction, without ever waiting. "" when the value is empty or missing,
     /// and when the store is locked at this moment: the next call tries again.
-    virtual std::string take(std::string_view application, std::string_view section, std::string_view name) = 0;
+    virtual std::string pop(std::string_view application, std::string_view section, std::string_view name) = 0;
 };
 
 }  // namespace penwright

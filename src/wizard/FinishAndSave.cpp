@@ -21,8 +21,14 @@ std::string directoryOf(std::string_view path)
     return std::string(last == std::string_view::npos ? std::string_view() : path.substr(0, last + 1));
 }
 
-FinishAndSave::FinishAndSave(ToolState &state, const Services &services)
-    : m_state(state), m_services(services), m_store(state, services), m_post(state.start, services)
+FinishAndSave::FinishAndSave(ToolState &state, SettingsStore &store, TextFiles &files, Dialogs &dialogs,
+                             EventWait &wait)
+    : m_state(state),
+      m_files(files),
+      m_dialogs(dialogs),
+      m_wait(wait),
+      m_store(state, store, dialogs),
+      m_post(state.start, store, wait)
 {
 }
 
@@ -36,7 +42,7 @@ FinishEnd FinishAndSave::SaveNewFile(bool saveAs, const std::string &title)
         record.Directory = kUnnamedDirectory;
         return handOver("SendNewDataClose*,");
     } catch (const RunTimeError &error) {
-        m_services.dialogs.show({error.description(), kOkOnly, title});
+        m_dialogs.show({error.description(), kOkOnly, title});
         return FinishEnd::NotFinished;
     }
 }
@@ -44,7 +50,7 @@ FinishEnd FinishAndSave::SaveNewFile(bool saveAs, const std::string &title)
 bool FinishAndSave::saveUnderChosenName()
 {
     for (;;) {
-        const std::optional<std::string> name = m_services.dialogs.chooseSaveName(kQuestion);
+        const std::optional<std::string> name = m_dialogs.chooseSaveName(kQuestion);
         if (!name)
             return false;
         if (name->empty())
@@ -57,7 +63,7 @@ bool FinishAndSave::saveUnderChosenName()
             if (!WriteIesFile(record))
                 continue;
         } catch (const RunTimeError &error) {
-            m_services.dialogs.show({writingQuestionText(error), kOkOnly, "Error saving " + record.Filename});
+            m_dialogs.show({writingQuestionText(error), kOkOnly, "Error saving " + record.Filename});
             return false;
         }
         m_state.PhotFiles(1) = record;  // what was written is what the host gets
@@ -68,7 +74,7 @@ bool FinishAndSave::saveUnderChosenName()
 bool FinishAndSave::WriteIesFile(const PhotometricRecord &record)
 {
     const TextMaker make = [&record](std::string &text) { appendIesText(text, record); };
-    return saveFile(record.Filename, make, m_services.files, m_services.dialogs);
+    return saveFile(record.Filename, make, m_files, m_dialogs);
 }
 
 FinishEnd FinishAndSave::handOver(std::string_view word)
@@ -76,10 +82,9 @@ FinishEnd FinishAndSave::handOver(std::string_view word)
     if (m_state.start.HostWindow == 0)
         return FinishEnd::NotFinished;
     const std::int16_t stored = m_store.SaveRecordsToStore(1, 1, 1);
-    if (m_services.wait.isUnloading())
+    if (m_wait.isUnloading())
         return FinishEnd::NotFinished;
-    m_post.postCommand(stored > 0 ? word : "ReturnClose,");
-    switch (m_post.lastEnd()) {
+    switch (m_post.postCommand(stored > 0 ? word : "ReturnClose,")) {
         case WaitEnd::Done:
             return FinishEnd::Taken;
         case WaitEnd::TimedOut:

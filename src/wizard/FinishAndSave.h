@@ -2,12 +2,13 @@
 
 #include <string>
 
-#include "core/Services.h"
 #include "core/ToolState.h"
 #include "hostlink/ExchangeStore.h"
 #include "hostlink/HostPost.h"
 
 namespace penwright {
+
+class TextFiles;
 
 /// How finishing ended, for the page to show.
 enum class FinishEnd {
@@ -19,7 +20,7 @@ enum class FinishEnd {
 /// The last page's work: names the new file, writes it when a name was chosen, stores it for the host, and tells it.
 class FinishAndSave {
 public:
-    FinishAndSave(ToolState &state, const Services &services);
+    FinishAndSave(ToolState &state, SettingsStore &store, TextFiles &files, Dialogs &dialogs, EventWait &wait);
 
     /// Finishes with a file that the user names (`saveAs`), or unnamed as "new_file_" + number. Errors are told in a
     /// message titled `title`; the routine can be called again afterwards.
@@ -34,7 +35,9 @@ private:
     FinishEnd handOver(std::string_view word);
 
     ToolState &m_state;
-    Services m_services;
+    TextFiles &m_files;
+    Dialogs &m_dialogs;
+    EventWait &m_wait;
     ExchangeStore m_store;
     HostPost m_post;
 };

@@ -36,8 +36,8 @@ WizardWindow::WizardWindow(ToolState &state, const Services &services, const Win
     : m_state(state),
       m_services(services),
       m_window(window),
-      m_link(state, services, *this),
-      m_operations(state, services, m_link.log())
+      m_link(state, services.store, services.dialogs, services.window, *this),
+      m_operations(state, services.store, services.dialogs, services.wait, m_link.log())
 {
     setScreenReaderRole(*this, QAccessible::Window);
     setObjectName("frmSample");
@@ -243,10 +243,10 @@ void WizardWindow::askCancelLater()
 void WizardWindow::tmrDataExchange_Timer()
 {
     // A timer does not fire while its own slot is on the stack, and a command may open what blocks for long.
-    const auto execute = [this] { guarded([this] { m_link.execute(); }); };
+    const auto obey = [this] { guarded([this] { m_link.obeyNext(); }); };
     guarded([&] {
         if (m_link.poll())
-            QMetaObject::invokeMethod(this, execute, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(this, obey, Qt::QueuedConnection);
     });
 }
 
@@ -254,7 +254,7 @@ void WizardWindow::unload()
 {
     try {
         if (!m_window.closing.isHostGone())
-            HostPost(m_state.start, m_services).postCommand("CloseRemove,");
+            HostPost(m_state.start, m_services.store, m_services.wait).postCommand("CloseRemove,");
     } catch (const RunTimeError &) {  // an unload is never refused, and nobody is left to tell
     }
     if (m_state.start.EmbedInHost)

@@ -37,7 +37,7 @@ public:
     void run(const std::string &behaviour)
     {
         while (true) {
-            const std::string command = m_store.take(kApplication, m_section, "PenwrightPE|" + m_tag);
+            const std::string command = m_store.pop(kApplication, m_section, "PenwrightPE|" + m_tag);
             if (!command.empty())
                 m_log << command << std::endl;
             if (command == "START")

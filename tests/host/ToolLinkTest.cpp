@@ -56,10 +56,10 @@ TEST_F(ToolLinkTest, commandsReachTheToolOneAtATimeInTheirOrder)
     EXPECT_FALSE(m_link.isAllTaken());
     EXPECT_EQ(m_link.deliver(), "START");
     EXPECT_EQ(m_link.deliver(), "");
-    EXPECT_EQ(m_toolStore.take(kApplication, "Sec7", "PenwrightPE|7"), "START");
+    EXPECT_EQ(m_toolStore.pop(kApplication, "Sec7", "PenwrightPE|7"), "START");
     EXPECT_EQ(m_link.deliver(), "DELETEFILE,C:\\a,b.ies");
     EXPECT_FALSE(m_link.isAllTaken());
-    EXPECT_EQ(m_toolStore.take(kApplication, "Sec7", "PenwrightPE|7"), "DELETEFILE,C:\\a,b.ies");
+    EXPECT_EQ(m_toolStore.pop(kApplication, "Sec7", "PenwrightPE|7"), "DELETEFILE,C:\\a,b.ies");
     EXPECT_TRUE(m_link.isAllTaken());
     EXPECT_EQ(m_link.deliver(), "");
 }
@@ -74,7 +74,7 @@ TEST_F(ToolLinkTest, onlyTheLastOfMovesInARowIsDelivered)
     std::vector<std::string> delivered;
     while (!m_link.isAllTaken()) {
         delivered.push_back(m_link.deliver());
-        m_toolStore.take(kApplication, "Sec7", "PenwrightPE|7");
+        m_toolStore.pop(kApplication, "Sec7", "PenwrightPE|7");
     }
     EXPECT_EQ(delivered,
               (std::vector<std::string>{"MOVEWIN,0,0,301,201", "DATACHANGED", "MOVEWIN,1,-2,302,202", "CLOSE"}));
@@ -82,12 +82,12 @@ TEST_F(ToolLinkTest, onlyTheLastOfMovesInARowIsDelivered)
 
 TEST_F(ToolLinkTest, takingEmptiesTheHostsInbox)
 {
-    EXPECT_EQ(m_link.take(), "");
+    EXPECT_EQ(m_link.pop(), "");
     m_toolStore.write(kApplication, "Sec7", "HostBox", "CloseRemove,PenwrightPE,7");
     EXPECT_EQ(m_link.waiting(), "CloseRemove,PenwrightPE,7");
-    EXPECT_EQ(m_link.take(), "CloseRemove,PenwrightPE,7");
+    EXPECT_EQ(m_link.pop(), "CloseRemove,PenwrightPE,7");
     EXPECT_EQ(atTool("Sec7", "HostBox"), "");
-    EXPECT_EQ(m_link.take(), "");
+    EXPECT_EQ(m_link.pop(), "");
 }
 
 TEST_F(ToolLinkTest, twoToolsDoNotHearEachOther)
@@ -101,8 +101,8 @@ TEST_F(ToolLinkTest, twoToolsDoNotHearEachOther)
     EXPECT_EQ(atTool("Sec8", "PenwrightPE|8"), "CLOSE");
 
     m_toolStore.write(kApplication, "Sec8", "HostBox", "CloseRemove,PenwrightPE,8");
-    EXPECT_EQ(m_link.take(), "");
-    EXPECT_EQ(other.take(), "CloseRemove,PenwrightPE,8");
+    EXPECT_EQ(m_link.pop(), "");
+    EXPECT_EQ(other.pop(), "CloseRemove,PenwrightPE,8");
 
     other.storeRecords({sampleLuminaire()});
     EXPECT_TRUE(m_link.loadRecords().empty());

@@ -172,7 +172,7 @@ TEST_F(EmbeddedRun, wholePathFromTheHostsRecordToTheFileHandedOver)
     sendRecord(hostsRecord());
     walkToTheEnd();
     typeKeys({"space"});
-    EXPECT_EQ(take(), "SendNewDataClose*,PenwrightPE,7");
+    EXPECT_EQ(pop(), "SendNewDataClose*,PenwrightPE,7");
     PhotometricRecord expected = typedRecord();
     expected.Filename = "new_file_4";
     EXPECT_EQ(storedRecord(), expected);
@@ -191,7 +191,7 @@ TEST_F(EmbeddedRun, halfARecordLeavesWhatWasThere)
     send("DATACHANGED");
     walkToTheEnd();
     typeKeys({"space"});
-    EXPECT_EQ(take(), "SendNewDataClose*,PenwrightPE,7");
+    EXPECT_EQ(pop(), "SendNewDataClose*,PenwrightPE,7");
     EXPECT_EQ(storedRecord().OptionalData, "free text");
     send("CLOSE");
     expectUnloaded();
@@ -208,7 +208,7 @@ TEST_F(EmbeddedRun, savedFileIsOnDiskUnderTheTypedName)
     const TempFolder folder;
     xdotool({"type", "--delay", "1", folder.file("lamp.ies")});
     typeKeys({"Return"});
-    EXPECT_EQ(take(), "SendNewDataClose,PenwrightPE,7");
+    EXPECT_EQ(pop(), "SendNewDataClose,PenwrightPE,7");
     EXPECT_EQ(contentOf(folder.file("lamp.ies")).substr(0, 16), "IESNA:LM-63-2002");
     EXPECT_EQ(storedRecord().Filename, folder.file("lamp.ies"));
     send("CLOSE");

@@ -186,7 +186,7 @@ TEST_F(LinkRun, twoToolsSideBySideTakeOnlyTheirOwnCommands)
     EXPECT_FALSE(other.hasEnded());
     store().write("Lumentor_PE", "Other", "PenwrightPE|8", "CLOSE");
     std::string text;
-    ASSERT_TRUE(waitUntil([&] { return !(text = store().take("Lumentor_PE", "Other", "OtherBox")).empty(); }));
+    ASSERT_TRUE(waitUntil([&] { return !(text = store().pop("Lumentor_PE", "Other", "OtherBox")).empty(); }));
     EXPECT_EQ(text, "CloseRemove,PenwrightPE,8");
     EXPECT_EQ(other.waitForEnd(), 0);
 }

@@ -59,7 +59,7 @@ TEST_F(TooMany, filesAreRefusedAndTheHostIsTold)
 {
     start({"123,1,HostBox,7,25,Sec"}, "xcb");
     ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
-    EXPECT_EQ(take(), "ReturnClose,PenwrightPE,7");
+    EXPECT_EQ(pop(), "ReturnClose,PenwrightPE,7");
     EXPECT_EQ(tool().waitForEnd(), 1);
     EXPECT_EQ(tool().readAll(), kFull + "\n");
 }
@@ -68,7 +68,7 @@ TEST_F(TooMany, fieldsOfTwoLinesAreThoseOfTheFirst)
 {
     start({"123,1,HostBox,7,25,Sec\r\n123,1,OtherBox,8,3,Other"}, "xcb");
     ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
-    EXPECT_EQ(take(), "ReturnClose,PenwrightPE,7");
+    EXPECT_EQ(pop(), "ReturnClose,PenwrightPE,7");
     EXPECT_EQ(tool().waitForEnd(), 1);
 }
 

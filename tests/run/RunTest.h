@@ -55,17 +55,17 @@ protected:
     }
 
     /// The next command from the tool, taken from the host's inbox; "" when none comes.
-    std::string take()
+    std::string pop()
     {
         std::string text;
-        waitUntil([&] { return !(text = store().take("Lumentor_PE", "Sec", "HostBox")).empty(); }, 20s);
+        waitUntil([&] { return !(text = store().pop("Lumentor_PE", "Sec", "HostBox")).empty(); }, 20s);
         return text;
     }
 
     /// The tool's last word, and its end.
     void expectUnloaded()
     {
-        EXPECT_EQ(take(), "CloseRemove,PenwrightPE,7");
+        EXPECT_EQ(pop(), "CloseRemove,PenwrightPE,7");
         EXPECT_EQ(tool().waitForEnd(), 0) << tool().readAll();
     }
 

@@ -55,9 +55,9 @@ TEST_P(WriteFault, takeSwallowsItAndLeavesTheCommand)
 {
     write("a", "command");
     std::string taken = "(nothing asked)";
-    EXPECT_EQ(errorWhileFailing([&] { taken = take("a"); }), "no error");
+    EXPECT_EQ(errorWhileFailing([&] { taken = pop("a"); }), "no error");
     EXPECT_EQ(taken, "");
-    EXPECT_EQ(take("a"), "command");
+    EXPECT_EQ(pop("a"), "command");
 }
 
 INSTANTIATE_TEST_SUITE_P(Faults, WriteFault,
@@ -97,7 +97,7 @@ TEST_F(FaultTest, brokenPagesAreAnErrorOnlyWhereTheyAreRead)
     EXPECT_EQ(errorOf([this] { store().readAll("Lumentor_PE", "Sec"); }), malformed);
     EXPECT_EQ(errorOf([this] { write("a", "after"); }), malformed);
     EXPECT_EQ(peek("a"), std::nullopt);
-    EXPECT_EQ(take("a"), "");
+    EXPECT_EQ(pop("a"), "");
 }
 
 }  // namespace

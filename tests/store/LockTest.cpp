@@ -53,7 +53,7 @@ TEST_F(LockTest, nothingIsOpenWhileTheHookRuns)
             return true;
         EXPECT_EQ(read("a"), "before");
         EXPECT_EQ(peek("a"), "before");
-        EXPECT_EQ(take("a"), "");
+        EXPECT_EQ(pop("a"), "");
         host.sql("COMMIT");
         write("a", "from an event");  // a transaction that were open would refuse this one
         EXPECT_EQ(host.sql("UPDATE setting SET data = data || '!'"), "");
@@ -83,11 +83,11 @@ TEST_F(LockTest, waitingTransactionRunsItsWritesOnce)
 
 TEST_F(LockTest, takeLeavesTheCommandForTheNextTick)
 {
-    EXPECT_EQ(take("a"), "");
+    EXPECT_EQ(pop("a"), "");
     EXPECT_EQ(peek("a"), "before") << "readers are not held up by a writer";
     EXPECT_EQ(read("a"), "before");
     host.sql("COMMIT");
-    EXPECT_EQ(take("a"), "before");
+    EXPECT_EQ(pop("a"), "before");
 }
 
 TEST_F(LockTest, writeGivesUpAfter5Seconds)
@@ -114,7 +114,7 @@ TEST_F(LockTest, hostThatDiesWhileItWritesLeavesTheStoreAsItWas)
     host.process().signal(SIGKILL);
     host.process().waitForEnd();
     EXPECT_EQ(read("a"), "before");
-    EXPECT_EQ(take("a"), "before");
+    EXPECT_EQ(pop("a"), "before");
 }
 
 int g_refused = 0;

@@ -27,7 +27,7 @@ protected:
         look(errorOf([this] { store().removeSection("Lumentor_PE", "Sec"); }));
         look(errorOf([this] {
             peek("a");
-            take("a");
+            pop("a");
         }));
         return odd;
     }

@@ -10,7 +10,7 @@ using PeekTest = StoreTest;
 TEST_F(PeekTest, missingValueIsEmpty)
 {
     EXPECT_EQ(peek("nothing"), "");
-    EXPECT_EQ(take("nothing"), "");
+    EXPECT_EQ(pop("nothing"), "");
     EXPECT_EQ(read("nothing"), "(none)");
 }
 
@@ -47,7 +47,7 @@ TEST_F(PeekTest, whatATransactionWroteAndUndidIsNotSeenAfterwards)
                   store().transact([this] {
                       write("a", "within");
                       EXPECT_EQ(peek("a"), "within");
-                      EXPECT_EQ(take("a"), "") << "an inbox is not emptied within another's transaction";
+                      EXPECT_EQ(pop("a"), "") << "an inbox is not emptied within another's transaction";
                       throw overflow();
                   });
               }),
@@ -58,8 +58,8 @@ TEST_F(PeekTest, whatATransactionWroteAndUndidIsNotSeenAfterwards)
 TEST_F(PeekTest, takingEmptiesOnce)
 {
     write("a", "command");
-    EXPECT_EQ(take("a"), "command");
-    EXPECT_EQ(take("a"), "");
+    EXPECT_EQ(pop("a"), "command");
+    EXPECT_EQ(pop("a"), "");
     EXPECT_EQ(read("a"), "");
 }
 
@@ -73,7 +73,7 @@ TEST_F(PeekTest, tickThatFindsNothingNewAsksForTheVersionAlone)
     others = 0;
     for (int tick = 0; tick < 1000; ++tick) {
         ASSERT_EQ(peek("a"), "");
-        ASSERT_EQ(take("a"), "");
+        ASSERT_EQ(pop("a"), "");
     }
     EXPECT_EQ(others, 0);
 }
@@ -95,7 +95,7 @@ TEST_F(PeekTest, takingLocksOthersOutBetweenReadingAndEmptying)
     write("a", "first");
     host = std::make_unique<Peer>(path);
     host->sql("PRAGMA busy_timeout = 0");
-    EXPECT_EQ(take("a"), "first");
+    EXPECT_EQ(pop("a"), "first");
     EXPECT_EQ(intrusion, "UPDATE setting SET data = 'second': error: database is locked");
 }
 
@@ -112,11 +112,11 @@ TEST_F(PeekTest, storeThatCannotBeReadIsNothingAndTheNextLookTells)
     {
         const InjectedCall first("pread", &failingRead), second("pread64", &failingRead);
         EXPECT_EQ(peek("a"), std::nullopt);
-        EXPECT_EQ(take("a"), "");
+        EXPECT_EQ(pop("a"), "");
         EXPECT_NE(errorOf([this] { read("a"); }), "no error");
     }
     EXPECT_EQ(peek("a"), "command");
-    EXPECT_EQ(take("a"), "command");
+    EXPECT_EQ(pop("a"), "command");
 }
 
 }  // namespace

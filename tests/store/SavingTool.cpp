@@ -9,8 +9,7 @@ int main(int argc, char **argv)
         return 2;
     penwright::test::ToolBench bench;
     penwright::SqliteSettingsStore store(argv[1]);
-    penwright::ExchangeStore exchange(bench.state,
-                                      {store, bench.files, bench.dialogs, bench.wait, bench.window, bench.help});
+    penwright::ExchangeStore exchange(bench.state, store, bench.dialogs);
     for (int i = 1;; i = i % 30000 + 1) {
         bench.state.PhotFiles(1) = penwright::test::stamped(i);
         exchange.SaveRecordsToStore(1, 1, 1);

@@ -32,7 +32,7 @@ protected:
     {
         const bool done = waitUntil(
             [&] {
-                std::string command = bench.store.take("Lumentor_PE", "Sec", "Inbox");
+                std::string command = bench.store.pop("Lumentor_PE", "Sec", "Inbox");
                 if (!command.empty())
                     taken.push_back(std::move(command));
                 return enough();
@@ -45,7 +45,7 @@ protected:
     ToolBench bench;
     const std::string path = bench.folder.file("Lumentor/settings.sqlite3");
     Peer host{path};
-    ExchangeStore exchange{bench.state, bench.services};
+    ExchangeStore exchange{bench.state, bench.store, bench.dialogs};
 };
 
 TEST_F(SharingTest, hostNeverSeesHalfARecordWhileTheToolSaves)
@@ -69,7 +69,7 @@ TEST_F(SharingTest, toolNeverLoadsHalfARecordWhileTheHostSaves)
     int whole = 0, half = 0;
     const bool ended = waitUntil(
         [&] {
-            if (exchange.LoadRecordsFromStore())
+            if (exchange.loadRecords())
                 return false;
             ++(isWhole(bench.state.PhotFiles(1)) ? whole : half);
             return bench.state.PhotFiles(1).Filename == "last";
@@ -105,7 +105,7 @@ TEST_F(SharingTest, everyCommandOfAPoliteHostIsTakenOnceAndInOrder)
     EXPECT_EQ(host.answer(), "ok");
     for (std::size_t i = 0; i < taken.size(); ++i)
         ASSERT_EQ(taken[i], "c" + std::to_string(i + 1));
-    EXPECT_EQ(bench.store.take("Lumentor_PE", "Sec", "Inbox"), "");
+    EXPECT_EQ(bench.store.pop("Lumentor_PE", "Sec", "Inbox"), "");
 }
 
 // A host that writes every millisecond overwrites what was not yet taken. Each command ends in exactly one of two
@@ -133,23 +133,19 @@ TEST_F(SharingTest, takingIsAtomicUnderAHostThatWritesEveryMillisecond)
 TEST_F(SharingTest, postEndsWhenTheHostHasTakenTheCommand)
 {
     SleepingWait wait;
-    Services services{bench.store, bench.files, bench.dialogs, wait, bench.window, bench.help};
-    HostPost post(bench.state.start, services);
+    HostPost post(bench.state.start, bench.store, wait);
     host.tell("take HostBox");
-    post.postCommand("SendNewDataClose,");
-    EXPECT_EQ(post.lastEnd(), WaitEnd::Done);
+    EXPECT_EQ(post.postCommand("SendNewDataClose,"), WaitEnd::Done);
     EXPECT_EQ(host.answer(), "SendNewDataClose,PenwrightPE,7");
 }
 
 TEST_F(SharingTest, silentHostIsWaitedForALittleOver3Seconds)
 {
     SleepingWait wait;
-    Services services{bench.store, bench.files, bench.dialogs, wait, bench.window, bench.help};
-    HostPost post(bench.state.start, services);
+    HostPost post(bench.state.start, bench.store, wait);
     const auto start = std::chrono::steady_clock::now();
-    post.postCommand("SendNewDataClose,");
+    EXPECT_EQ(post.postCommand("SendNewDataClose,"), WaitEnd::TimedOut);
     EXPECT_GE(std::chrono::steady_clock::now() - start, 3s);
-    EXPECT_EQ(post.lastEnd(), WaitEnd::TimedOut);
     EXPECT_EQ(host.sql("SELECT data FROM setting WHERE name = 'HostBox'"), "SendNewDataClose,PenwrightPE,7\n");
 }
 
@@ -162,7 +158,7 @@ TEST_F(SharingTest, shellAloneCanPlayTheHost)
                     "'PenwrightPE|7', 'START') ON CONFLICT (application, section, name) DO UPDATE SET data = "
                     "excluded.data;"),
               "");
-    EXPECT_EQ(bench.store.take("Lumentor_PE", "Sec", "PenwrightPE|7"), "START");
+    EXPECT_EQ(bench.store.pop("Lumentor_PE", "Sec", "PenwrightPE|7"), "START");
     bench.state.PhotFiles(1) = stamped(5);
     exchange.SaveRecordsToStore(1, 1, 1);
     EXPECT_EQ(shell("SELECT name, data FROM setting WHERE section = 'Sec' AND data <> '' ORDER BY position;"),
@@ -179,7 +175,7 @@ TEST_F(SharingTest, toolThatIsKilledLeavesAWholeRecord)
         EXPECT_TRUE(waitUntil([&] { return bench.value("OptionalData1") != before; }, 20s));
         tool.signal(SIGKILL);
         tool.waitForEnd();
-        ASSERT_FALSE(exchange.LoadRecordsFromStore());
+        ASSERT_EQ(exchange.loadRecords(), std::nullopt);
         ASSERT_TRUE(isWhole(bench.state.PhotFiles(1)));
     }
     bench.setValue("HostBox", "still writable");

@@ -50,7 +50,7 @@ protected:
     void write(const std::string &name, std::string_view data) { store().write("Lumentor_PE", "Sec", name, data); }
     std::string read(const std::string &name) { return store().read("Lumentor_PE", "Sec", name, "(none)"); }
     std::optional<std::string> peek(const std::string &name) { return store().peek("Lumentor_PE", "Sec", name); }
-    std::string take(const std::string &name) { return store().take("Lumentor_PE", "Sec", name); }
+    std::string pop(const std::string &name) { return store().pop("Lumentor_PE", "Sec", name); }
 
     SqliteSettingsStore &store()
     {

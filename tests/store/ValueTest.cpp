@@ -67,7 +67,7 @@ TEST_P(AnyBytes, passUnharmed)
     EXPECT_TRUE(read("value") == GetParam());
     EXPECT_TRUE(peek("value") == GetParam());
     closeStore();
-    EXPECT_TRUE(take("value") == GetParam());
+    EXPECT_TRUE(pop("value") == GetParam());
     EXPECT_EQ(read("value"), "");
 }
 
@@ -92,7 +92,7 @@ TEST_F(ValueTest, cellThatAHostWroteAsBlobOrNumberReadsAsItsBytes)
         "('Lumentor_PE', 'Sec', 'blob', x'00ff41'), ('Lumentor_PE', 'Sec', 'number', 12.5)");
     EXPECT_EQ(read("blob"), std::string("\0\xff\x41", 3));
     EXPECT_EQ(read("number"), "12.5");
-    EXPECT_EQ(take("blob"), std::string("\0\xff\x41", 3));
+    EXPECT_EQ(pop("blob"), std::string("\0\xff\x41", 3));
 }
 
 TEST_F(ValueTest, failedTransactionIsUndone)

@@ -4,9 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/Services.h"
 #include "core/ToolState.h"
-#include "platform/HelpViewer.h"
 #include "platform/HostEmbedding.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "support/FakeDialogs.h"
@@ -39,10 +37,6 @@ struct FakeEmbedding : HostEmbedding {
     double twips = 15;
 };
 
-struct FakeHelp : HelpViewer {
-    void showTopic(const std::string &, int) override {}
-};
-
 /// A store that cannot be used, as one whose disk has filled up.
 struct FullStore : SettingsStore {
     [[noreturn]] static void fail() { throw RunTimeError(61, "/the/store: database or disk is full"); }
@@ -53,7 +47,7 @@ struct FullStore : SettingsStore {
     void removeSection(std::string_view, std::string_view) override { fail(); }
     void transact(const std::function<void()> &) override { fail(); }
     std::optional<std::string> peek(std::string_view, std::string_view, std::string_view) override { return {}; }
-    std::string take(std::string_view, std::string_view, std::string_view) override { return {}; }
+    std::string pop(std::string_view, std::string_view, std::string_view) override { return {}; }
 };
 
 /// What start-up has made once a host has started the tool, over a store of its own: instance 7, section "Sec", inbox
@@ -80,9 +74,6 @@ struct ToolBench {
     FakeDialogs dialogs;
     FakeEventWait wait;
     FakeEmbedding window;
-    FakeHelp help;
-    Services services{store, files, dialogs, wait, window, help};
-    Services brokenServices{fullStore, files, dialogs, wait, window, help};
 };
 
 }  // namespace penwright::test

@@ -15,7 +15,7 @@ protected:
     void takePosts()
     {
         QObject::connect(&m_host, &QTimer::timeout, [this] {
-            if (const std::string text = store.take("Lumentor_PE", "Sec", "HostBox"); !text.empty())
+            if (const std::string text = store.pop("Lumentor_PE", "Sec", "HostBox"); !text.empty())
                 taken.push_back(text);
         });
         m_host.start(5);
@@ -144,7 +144,7 @@ TEST_F(Finish, keysAndClicksMeanwhileFinishNothingTwice)
         find<QPushButton>("cmdUnname")->click();
         click("cmdBack80");
         if (hostInbox() != "")
-            taken.push_back(store.take("Lumentor_PE", "Sec", "HostBox"));
+            taken.push_back(store.pop("Lumentor_PE", "Sec", "HostBox"));
     });
     impatience.start(5);
     click("cmdUnname");

@@ -242,7 +242,7 @@ TEST_P(LinkEnds, whateverIsOpen)
     QTimer host;
     QObject::connect(&host, &QTimer::timeout, [this] {
         if (hostInbox() == "CloseRemove,PenwrightPE,7")
-            taken.push_back(store.take("Lumentor_PE", "Sec", "HostBox"));
+            taken.push_back(store.pop("Lumentor_PE", "Sec", "HostBox"));
     });
     host.start(5);
     QTimer::singleShot(0, window.get(), [&, open = situation.open] {

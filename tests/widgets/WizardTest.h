@@ -209,7 +209,7 @@ protected:
         constexpr int kTooLong = -77;
         QTimer host;
         QObject::connect(&host, &QTimer::timeout, [this] {
-            if (const std::string text = store.take("Lumentor_PE", "Sec", "HostBox"); !text.empty())
+            if (const std::string text = store.pop("Lumentor_PE", "Sec", "HostBox"); !text.empty())
                 taken.push_back(text);
         });
         host.start(5);

@@ -10,7 +10,8 @@ namespace penwright {
 FinishPage::FinishPage(const PageContext &context)
     : PageFrame(kFinishPage, context),
       m_form(std::make_unique<Ui::FinishPage>()),
-      m_finish(context.state, context.services)
+      m_finish(context.state, context.services.store, context.services.files, context.services.dialogs,
+               context.services.wait)
 {
     m_form->setupUi(formArea());
     for (QLabel *label : {m_form->Label3, m_form->Label4}) {

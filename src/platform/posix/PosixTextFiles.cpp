@@ -94,7 +94,7 @@ std::optional<std::string> contentOf(const std::string &path)
 }
 
 /// Gives a new file the owner, group and modes of the old one, or as much of that as the system grants.
-int takeOver(int file, const struct stat &existing)
+int copyOwnerAndModes(int file, const struct stat &existing)
 {
     mode_t modes = existing.st_mode & kAllModes;
     if (::fchown(file, existing.st_uid, existing.st_gid) != 0) {
@@ -172,7 +172,7 @@ int PosixTextFiles::replaceByRename(const std::string &target, const struct stat
         return errno;
     int error = writeAll(file, text);
     if (error == 0 && existing)
-        error = takeOver(file, *existing);
+        error = copyOwnerAndModes(file, *existing);
     if (error == 0 && m_calls.fsync(file) != 0)
         error = errno;
     error = closed(file, error);

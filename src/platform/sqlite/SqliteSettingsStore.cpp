@@ -192,7 +192,7 @@ std::optional<std::string> SqliteSettingsStore::peek(std::string_view applicatio
     }
 }
 
-std::string SqliteSettingsStore::take(std::string_view application, std::string_view section, std::string_view name)
+std::string SqliteSettingsStore::pop(std::string_view application, std::string_view section, std::string_view name)
 {
     if (peek(application, section, name).value_or("").empty() || m_inTransaction)
         return {};

@@ -11,7 +11,7 @@ namespace penwright {
 /// The settings store as an SQLite database, shared with the host: one table `setting`, journal WAL, `user_version` 1.
 /// Whoever comes first creates it, folder 0700 and file 0600. A file that is no database, or of a newer version, is
 /// refused and left as it is. Errors: 70 no permission, 75 read-only, 61 full, 57 device, 55 locked for more than 5
-/// seconds, 76 no such folder, 13 not such a database; each description begins with the file's path. `peek` and `take`
+/// seconds, 76 no such folder, 13 not such a database; each description begins with the file's path. `peek` and `pop`
 /// swallow every failure, not only a lock: the next look tells, and what writes next raises it.
 class SqliteSettingsStore : public SettingsStore {
 public:
@@ -42,7 +42,7 @@ public:
 
     std::optional<std::string> peek(std::string_view application, std::string_view section,
                                     std::string_view name) override;
-    std::string take(std::string_view application, std::string_view section, std::string_view name) override;
+    std::string pop(std::string_view application, std::string_view section, std::string_view name) override;
 
 private:
     struct Statements;

@@ -8,7 +8,7 @@ namespace {
 StartupState taken(const std::string &commandLine)
 {
     StartupState start;
-    takeCommandLine(commandLine, start);
+    parseCommandLine(commandLine, start);
     return start;
 }
 
@@ -69,7 +69,7 @@ TEST(CommandLine, numberBeyondItsTypeOverflowsAndTakesNothing)
     for (const char *text : {"1,1,In,T,32768,S", "2147483648,1,In,T,0,S"}) {
         StartupState start;
         try {
-            takeCommandLine(text, start);
+            parseCommandLine(text, start);
             ADD_FAILURE() << text;
         } catch (const RunTimeError &error) {
             EXPECT_EQ(error.number(), 6);

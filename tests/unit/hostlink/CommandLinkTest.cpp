@@ -15,7 +15,7 @@ TEST_F(LinkTest, pollTakesAndEmptiesAndExecutesNothing)
     EXPECT_EQ(bench.value("PenwrightPE|7"), "");
     EXPECT_EQ(window.transcript, "");
     EXPECT_EQ(logged(), "");
-    link.execute();
+    link.obeyNext();
     EXPECT_EQ(window.transcript, "death timer stopped\nstarted\n");
     EXPECT_EQ(logged(), "START\r\n");
     EXPECT_EQ(window.shownLogs, 1);
@@ -26,7 +26,7 @@ TEST_F(LinkTest, pollOfAnEmptyInboxTakesNothing)
     EXPECT_FALSE(link.poll());
     bench.setValue("PenwrightPE|7", "");
     EXPECT_FALSE(link.poll());
-    link.execute();
+    link.obeyNext();
     EXPECT_EQ(window.shownLogs, 0);
 }
 
@@ -36,9 +36,9 @@ TEST_F(LinkTest, takenCommandsAreExecutedInTheirOrder)
         bench.setValue("PenwrightPE|7", command);
         EXPECT_TRUE(link.poll());
     }
-    link.execute();
+    link.obeyNext();
     EXPECT_EQ(window.transcript, "death timer stopped\nstarted\n");
-    link.execute();
+    link.obeyNext();
     EXPECT_EQ(window.transcript, "death timer stopped\nstarted\nunload\n");
 }
 
@@ -117,7 +117,7 @@ TEST_F(LinkTest, megabytesOfTextAreTakenAndLoggedInPart)
 {
     bench.setValue("PenwrightPE|7", std::string(10'000'000, ','));
     EXPECT_TRUE(link.poll());
-    link.execute();
+    link.obeyNext();
     EXPECT_EQ(logged().size(), 8192U + 2);
     EXPECT_EQ(window.transcript, "");
 }

@@ -65,7 +65,7 @@ protected:
     }
 
     ToolBench bench;
-    ExchangeStore exchange{bench.state, bench.services};
+    ExchangeStore exchange{bench.state, bench.store, bench.dialogs};
 };
 
 TEST_F(ExchangeStoreTest, savingOneRecordWritesTheWholeSection)
@@ -192,7 +192,7 @@ TEST_F(ExchangeStoreTest, saveThatFailsHalfwayLeavesTheFormerRecord)
 
 TEST_F(ExchangeStoreTest, storeThatCannotBeWrittenIsAnErrorNotNoRecord)
 {
-    ExchangeStore full(bench.state, bench.brokenServices);
+    ExchangeStore full(bench.state, bench.fullStore, bench.dialogs);
     EXPECT_THROW(full.SaveRecordsToStore(1, 1, 1), RunTimeError);
 }
 
@@ -201,25 +201,23 @@ TEST_F(ExchangeStoreTest, loadsWhatTheHostStored)
     RandomRecord random(11);
     const PhotometricRecord record = random.make();
     hostStores(OneBased<PhotometricRecord>{record});
-    EXPECT_FALSE(exchange.LoadRecordsFromStore());
+    EXPECT_EQ(exchange.loadRecords(), std::nullopt);
     ASSERT_EQ(bench.state.PhotFiles.size(), 1);
     EXPECT_EQ(TextModel::of(bench.state.PhotFiles(1)), TextModel::of(record));
-    EXPECT_EQ(exchange.problem(), "");
 }
 
 TEST_F(ExchangeStoreTest, loadLimit1ReadsOnlyTheFirstFileNumber)
 {
     hostStores(OneBased<PhotometricRecord>{named(""), named("second")});
-    EXPECT_TRUE(exchange.LoadRecordsFromStore());
+    EXPECT_EQ(exchange.loadRecords(), "");
     EXPECT_EQ(filenames(), "");
-    EXPECT_EQ(exchange.problem(), "");
 }
 
 TEST_F(ExchangeStoreTest, emptyFilenamesAreSkippedAndSlotsCloseUp)
 {
     hostStores(OneBased<PhotometricRecord>{named("a"), named(""), named("c"), named("d")});
     bench.state.start.LoadLimit = 3;
-    EXPECT_FALSE(exchange.LoadRecordsFromStore());
+    EXPECT_EQ(exchange.loadRecords(), std::nullopt);
     EXPECT_EQ(filenames(), "a;c;");
 }
 
@@ -230,7 +228,7 @@ TEST_F(ExchangeStoreTest, loadLimitIsCutTo25)
         records.append(named("f"));
     hostStores(records);
     bench.state.start.LoadLimit = 300;
-    EXPECT_FALSE(exchange.LoadRecordsFromStore());
+    EXPECT_EQ(exchange.loadRecords(), std::nullopt);
     EXPECT_EQ(bench.state.PhotFiles.size(), 25);
     EXPECT_EQ(bench.state.start.LoadLimit, 25);
 }
@@ -238,7 +236,7 @@ TEST_F(ExchangeStoreTest, loadLimitIsCutTo25)
 TEST_F(ExchangeStoreTest, emptyStoreLoadsNothingAndEmptiesTheArray)
 {
     bench.state.PhotFiles(1) = named("mine");
-    EXPECT_TRUE(exchange.LoadRecordsFromStore());
+    EXPECT_EQ(exchange.loadRecords(), "");
     EXPECT_EQ(filenames(), "");
 }
 
@@ -248,39 +246,45 @@ TEST_F(ExchangeStoreTest, problemEndsLoading)
     bench.state.start.LoadLimit = 3;
     bench.setValue("TiltIncl2", "-1");
     bench.setValue("TiltData2", "rubbish");
-    EXPECT_TRUE(exchange.LoadRecordsFromStore());
-    EXPECT_EQ(exchange.problem(), "Problem parsing tilt data");
+    EXPECT_EQ(exchange.loadRecords(), "Problem parsing tilt data");
     EXPECT_EQ(filenames(), "a;b;");
     bench.setValue("TiltIncl2", "0");
-    EXPECT_FALSE(exchange.LoadRecordsFromStore());
-    EXPECT_EQ(exchange.problem(), "");
+    EXPECT_EQ(exchange.loadRecords(), std::nullopt);
 }
 
 TEST_F(ExchangeStoreTest, loadThatFailsPutsThePreviousRecordsBackWhenAsked)
 {
     bench.state.PhotFiles(1) = named("mine");
-    EXPECT_TRUE(exchange.loadOrKeepRecords());
+    EXPECT_EQ(exchange.loadOrKeepRecords(), "");
     EXPECT_EQ(filenames(), "mine;");
     hostStores(OneBased<PhotometricRecord>{named("fresh")});
-    EXPECT_FALSE(exchange.loadOrKeepRecords());
+    EXPECT_EQ(exchange.loadOrKeepRecords(), std::nullopt);
     EXPECT_EQ(filenames(), "fresh;");
 }
 
 TEST_F(ExchangeStoreTest, storeThatCannotBeReadReplacesNothing)
 {
     bench.state.PhotFiles(1) = named("mine");
-    ExchangeStore full(bench.state, bench.brokenServices);
-    EXPECT_THROW(full.LoadRecordsFromStore(), RunTimeError);
+    ExchangeStore full(bench.state, bench.fullStore, bench.dialogs);
+    EXPECT_THROW(full.loadRecords(), RunTimeError);
     EXPECT_EQ(filenames(), "mine;");
+}
+
+TEST_F(ExchangeStoreTest, theFixedLoaderIsTrueWhenNothingWasLoaded)
+{
+    EXPECT_TRUE(exchange.LoadRecordsFromStore());
+    hostStores(OneBased<PhotometricRecord>{named("fresh")});
+    EXPECT_FALSE(exchange.LoadRecordsFromStore());
+    EXPECT_EQ(filenames(), "fresh;");
 }
 
 TEST_F(ExchangeStoreTest, everySectionIsItsOwn)
 {
     hostStores(OneBased<PhotometricRecord>{named("sec")});
     bench.state.start.ExchangeSection = "sec";
-    EXPECT_TRUE(exchange.LoadRecordsFromStore());
+    EXPECT_EQ(exchange.loadRecords(), "");
     bench.state.start.ExchangeSection = "Sec";
-    EXPECT_FALSE(exchange.LoadRecordsFromStore());
+    EXPECT_EQ(exchange.loadRecords(), std::nullopt);
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ protected:
 
     ToolBench bench;
     CommandLog log;
-    HostOperations operations{bench.state, bench.services, log};
+    HostOperations operations{bench.state, bench.store, bench.dialogs, bench.wait, log};
     std::string posted;
     std::function<void()> onTaken;
 };
@@ -77,7 +77,7 @@ TEST_P(Send, noRecordToStoreIsOneMessageAndNoPost)
 TEST_P(Send, storeThatCannotBeWrittenIsAnErrorAndNoPost)
 {
     bench.state.CandelaWorkRecord = {named("work.ies")};
-    HostOperations broken(bench.state, bench.brokenServices, log);
+    HostOperations broken(bench.state, bench.fullStore, bench.dialogs, bench.wait, log);
     EXPECT_THROW((broken.*GetParam().send)(), RunTimeError);
     EXPECT_EQ(posted, "");
 }
@@ -115,7 +115,7 @@ TEST_F(HostOperationsTest, refreshNamesTheProblemOfARecordThatDoesNotParse)
 
 TEST_F(HostOperationsTest, refreshOverAStoreThatFailsLogsTheReason)
 {
-    HostOperations broken(bench.state, bench.brokenServices, log);
+    HostOperations broken(bench.state, bench.fullStore, bench.dialogs, bench.wait, log);
     broken.refresh();
     EXPECT_EQ(log.txtCmds(), "General error: /the/store: database or disk is full\r\n");
 }

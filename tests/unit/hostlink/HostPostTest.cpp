@@ -10,7 +10,7 @@ namespace {
 class HostPostTest : public testing::Test {
 protected:
     ToolBench bench;
-    HostPost post{bench.state.start, bench.services};
+    HostPost post{bench.state.start, bench.store, bench.wait};
 };
 
 TEST_F(HostPostTest, commandGoesToTheHostsInboxWithToolAndTag)
@@ -20,14 +20,13 @@ TEST_F(HostPostTest, commandGoesToTheHostsInboxWithToolAndTag)
         seen = bench.value("HostBox");
         bench.setValue("HostBox", "");
     };
-    EXPECT_EQ(post.postCommand("SendNewDataClose*,"), 0);
+    EXPECT_EQ(post.postCommand("SendNewDataClose*,"), WaitEnd::Done);
     EXPECT_EQ(seen, "SendNewDataClose*,PenwrightPE,7");
-    EXPECT_EQ(post.lastEnd(), WaitEnd::Done);
 }
 
 TEST_F(HostPostTest, suffixIsPartOfTheNameWhenThereIsOne)
 {
-    post.PostToHost("Base", "9", "text");
+    EXPECT_EQ(post.PostToHost("Base", "9", "text"), 0);
     EXPECT_EQ(bench.value("Base|9"), "text");
     EXPECT_EQ(bench.value("Base"), "(none)");
     post.PostToHost("Base", "", "other");
@@ -36,8 +35,7 @@ TEST_F(HostPostTest, suffixIsPartOfTheNameWhenThereIsOne)
 
 TEST_F(HostPostTest, silentHostIsWaitedForALittleOver3SecondsAndTheValueStays)
 {
-    EXPECT_EQ(post.PostToHost("HostBox", "", "text"), 0);
-    EXPECT_EQ(post.lastEnd(), WaitEnd::TimedOut);
+    EXPECT_EQ(post.post("HostBox", "text"), WaitEnd::TimedOut);
     EXPECT_GT(bench.wait.elapsed, std::chrono::milliseconds(3000));
     EXPECT_LE(bench.wait.elapsed, std::chrono::milliseconds(3020));
     EXPECT_EQ(bench.value("HostBox"), "text");
@@ -46,15 +44,13 @@ TEST_F(HostPostTest, silentHostIsWaitedForALittleOver3SecondsAndTheValueStays)
 TEST_F(HostPostTest, hostThatRemovesTheValueHasTakenItToo)
 {
     bench.wait.onTurn = [&] { bench.store.remove("Lumentor_PE", "Sec", "HostBox"); };
-    post.PostToHost("HostBox", "", "text");
-    EXPECT_EQ(post.lastEnd(), WaitEnd::Done);
+    EXPECT_EQ(post.post("HostBox", "text"), WaitEnd::Done);
 }
 
 TEST_F(HostPostTest, unloadingCutsTheWaitShort)
 {
     bench.wait.onTurn = [&] { bench.wait.cancelled = true; };
-    post.PostToHost("HostBox", "", "text");
-    EXPECT_EQ(post.lastEnd(), WaitEnd::Cancelled);
+    EXPECT_EQ(post.post("HostBox", "text"), WaitEnd::Cancelled);
     EXPECT_EQ(bench.value("HostBox"), "text");
 }
 
@@ -69,17 +65,15 @@ TEST_F(HostPostTest, storeThatCannotBeReadForAMomentIsNotTaken)
         void removeSection(std::string_view, std::string_view) override {}
         void transact(const std::function<void()> &) override {}
         std::optional<std::string> peek(std::string_view, std::string_view, std::string_view) override { return {}; }
-        std::string take(std::string_view, std::string_view, std::string_view) override { return {}; }
+        std::string pop(std::string_view, std::string_view, std::string_view) override { return {}; }
     } blind;
-    Services services{blind, bench.files, bench.dialogs, bench.wait, bench.window, bench.help};
-    HostPost blindPost(bench.state.start, services);
-    blindPost.PostToHost("HostBox", "", "text");
-    EXPECT_EQ(blindPost.lastEnd(), WaitEnd::TimedOut);
+    HostPost blindPost(bench.state.start, blind, bench.wait);
+    EXPECT_EQ(blindPost.post("HostBox", "text"), WaitEnd::TimedOut);
 }
 
 TEST_F(HostPostTest, storeThatCannotBeWrittenIsAnError)
 {
-    HostPost broken(bench.state.start, bench.brokenServices);
+    HostPost broken(bench.state.start, bench.fullStore, bench.wait);
     EXPECT_THROW(broken.postCommand("ReturnClose,"), RunTimeError);
 }
 

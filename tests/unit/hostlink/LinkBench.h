@@ -45,7 +45,7 @@ protected:
 
     ToolBench bench;
     FakeLinkedWindow window;
-    CommandLink link{bench.state, bench.services, window};
+    CommandLink link{bench.state, bench.store, bench.dialogs, bench.window, window};
 };
 
 }  // namespace penwright::test

@@ -12,7 +12,7 @@ protected:
     void tick()
     {
         if (link.poll())
-            link.execute();
+            link.obeyNext();
     }
 
     SqliteSettingsStore host{bench.folder.file("Lumentor/settings.sqlite3")};

@@ -44,7 +44,7 @@ protected:
     }
 
     ToolBench bench;
-    FinishAndSave finishAndSave{bench.state, bench.services};
+    FinishAndSave finishAndSave{bench.state, bench.store, bench.files, bench.dialogs, bench.wait};
     std::string posted;
 };
 
@@ -239,7 +239,7 @@ TEST_F(FinishAndSaveTest, unloadingWhileTheRecordWasStoredPostsNothing)
 
 TEST_F(FinishAndSaveTest, storeThatFailsIsOneMessageWithFileAndReasonAndNoPost)
 {
-    FinishAndSave broken(bench.state, bench.brokenServices);
+    FinishAndSave broken(bench.state, bench.fullStore, bench.files, bench.dialogs, bench.wait);
     EXPECT_EQ(broken.SaveNewFile(false, kCaption), FinishEnd::NotFinished);
     EXPECT_EQ(bench.dialogs.transcript, "[(6 of 6) Complete!|0] /the/store: database or disk is full\n");
     EXPECT_EQ(posted, "");
@@ -274,8 +274,7 @@ struct ForgetfulStore : FullStore {
 TEST_F(FinishAndSaveTest, noRecordStoredTellsTheHostToCloseTheTool)
 {
     ForgetfulStore forgetful(bench.store);
-    Services services{forgetful, bench.files, bench.dialogs, bench.wait, bench.window, bench.help};
-    FinishAndSave finishing(bench.state, services);
+    FinishAndSave finishing(bench.state, forgetful, bench.files, bench.dialogs, bench.wait);
     EXPECT_EQ(finishing.SaveNewFile(false, kCaption), FinishEnd::Taken);
     EXPECT_EQ(posted, "ReturnClose,PenwrightPE,7;");
 }
