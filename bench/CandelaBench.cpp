@@ -14,13 +14,14 @@
 #include "pages/candela/CandelaGrid.h"
 #include "pages/candela/CandelaPage.h"
 #include "pages/candela/CandelaTable.h"
-#include "platform/HelpViewer.h"
 #include "platform/posix/PosixTextFiles.h"
 #include "platform/qt/Closing.h"
+#include "platform/qt/OwnerWindow.h"
 #include "platform/qt/QtEventWait.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
-#include "platform/x11/X11Embedding.h"
 #include "support/FakeDialogs.h"
+#include "support/FakeEmbedding.h"
+#include "support/FakeHelp.h"
 #include "support/TempFolder.h"
 #include "wizard/WarningDialog.h"
 
@@ -29,10 +30,6 @@ namespace {
 using namespace penwright;
 
 constexpr int kSide = 1000;
-
-struct NoHelp : HelpViewer {
-    void showTopic(const std::string &, int) override {}
-};
 
 struct Nowhere : Navigator {
     void ShowPage(int) override {}
@@ -91,26 +88,26 @@ public:
         QCoreApplication::processEvents();
     }
 
-    void startAgain() { m_flags = {}; }
+    void startAgain() { page.start(); }
     CandelaGrid *grid() { return page.findChild<CandelaGrid *>("cdaGridCd"); }
 
 private:
     test::TempFolder m_folder;
     ToolState m_state;
-    CandelaState m_flags;
     Closing m_closing;
+    OwnerWindow m_owner;
     SqliteSettingsStore m_store{m_folder.file("settings.sqlite3")};
     PosixTextFiles m_files;
     test::FakeDialogs m_dialogs;
-    QtEventWait m_wait{m_closing};
-    X11Embedding m_embedding{m_closing};
-    NoHelp m_help;
+    QtEventWait m_wait{m_closing, m_owner};
+    test::FakeEmbedding m_embedding;
+    test::FakeHelp m_help;
     Services m_services{m_store, m_files, m_dialogs, m_wait, m_embedding, m_help};
     Nowhere m_navigator;
     WarningDialog m_dlgWarn{m_closing, nullptr};
 
 public:
-    CandelaPage page{PageContext{m_state, m_services, m_navigator, m_dlgWarn}, m_flags};
+    CandelaPage page{PageContext{m_state, m_services, m_navigator, m_dlgWarn}};
 };
 
 void opensBlank(benchmark::State &state)

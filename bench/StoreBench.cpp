@@ -66,7 +66,7 @@ void idleTick(benchmark::State &state)
     bench.state.PhotFiles(1) = largeRecord();
     ExchangeStore(bench.state, bench.store, bench.dialogs).SaveRecordsToStore(1, 1, 1);
     NoWindow window;
-    CommandLink link(bench.state, bench.store, bench.dialogs, bench.window, window);
+    CommandLink link(bench.state, bench.store, bench.dialogs, bench.embedding, window);
     for (auto _ : state)
         benchmark::DoNotOptimize(link.poll());
 }
@@ -77,7 +77,7 @@ void tickAfterAnothersWrite(benchmark::State &state)
 {
     ToolBench bench;
     NoWindow window;
-    CommandLink link(bench.state, bench.store, bench.dialogs, bench.window, window);
+    CommandLink link(bench.state, bench.store, bench.dialogs, bench.embedding, window);
     penwright::SqliteSettingsStore other(bench.folder.file("Lumentor/settings.sqlite3"));
     for (auto _ : state) {
         state.PauseTiming();
@@ -92,7 +92,7 @@ void commandPopped(benchmark::State &state)
 {
     ToolBench bench;
     NoWindow window;
-    CommandLink link(bench.state, bench.store, bench.dialogs, bench.window, window);
+    CommandLink link(bench.state, bench.store, bench.dialogs, bench.embedding, window);
     for (auto _ : state) {
         state.PauseTiming();
         bench.setValue("PenwrightPE|7", "MOVEWIN,0,0,720,560");

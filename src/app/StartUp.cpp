@@ -5,6 +5,7 @@
 #include <QApplication>
 
 #include "app/Tool.h"
+#include "app/WizardAssembly.h"
 #include "core/CommandLine.h"
 #include "core/NumberText.h"
 #include "hostlink/HostPost.h"
@@ -30,21 +31,6 @@ void readSettings(StartupState &start, SettingsStore &store)
         toSingle(leadingNumber(store.read(start.SettingsApp, start.SettingsApp, "SleepIntervalDE", "0.3")));
 }
 
-void openWizard(Tool &tool)
-{
-    StartupState &start = tool.state().start;
-    const auto host = static_cast<std::uint32_t>(start.HostWindow);
-    WizardWindow &window = tool.loadWindow();
-    window.startDeathTimer();
-    // The window is a source of the host link under the topic InstanceTag; here all commands travel through the store.
-    window.setWindowTitle(QString::fromStdString(start.ToolName));
-    tool.embedding().watchHost(host);
-    // Unconditionally, and overwriting what the first call returned: an embedded window's former parent is its host.
-    start.PreviousParent = tool.embedding().SetParent(host);
-    start.DesignWidth = window.width() * kTwipsPerLogicalPixel;
-    start.DesignHeight = window.height() * kTwipsPerLogicalPixel;
-}
-
 int run(Tool &tool, const std::string &commandLine, const std::string &executableFolder)
 {
     ToolState &state = tool.state();
@@ -66,7 +52,7 @@ int run(Tool &tool, const std::string &commandLine, const std::string &executabl
                      {kRefusalText + commandLine, kExclamation + kSystemModal, start.ToolName});
         return 1;
     }
-    openWizard(tool);
+    openWizard(tool.loadWindow(), start, tool.services().embedding);
     return QApplication::exec();
 }
 
@@ -80,7 +66,8 @@ int runTool(const std::string &commandLine, const std::string &executableFolder)
     } catch (const RunTimeError &error) {
         Closing closing;
         const TerminationSignals terminationSignals(closing);  // a signal dismisses the box, and the status is the same
-        QtDialogs dialogs(closing);
+        const OwnerWindow none;
+        QtDialogs dialogs(closing, none);
         showAndPrint(dialogs,
                      {"died in sub Main. reason: #" + std::to_string(error.number()) + " Msg:" + error.description()});
         return 1;

@@ -2,22 +2,21 @@
 
 #include <memory>
 
+#include "app/PlatformChoice.h"
 #include "core/Services.h"
 #include "core/ToolState.h"
 #include "help/window/QtHelpViewer.h"
-#include "pages/candela/CandelaState.h"
 #include "platform/posix/PosixTextFiles.h"
 #include "platform/qt/Closing.h"
+#include "platform/qt/OwnerWindow.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
 #include "platform/qt/TerminationSignals.h"
-#include "platform/sqlite/SqliteSettingsStore.h"
-#include "platform/x11/X11Embedding.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright {
 
-/// Everything that one run of the tool is made of, wired together. The parts are destroyed in the reverse order: the
+/// Everything that one run of the tool is made of. The parts are destroyed in the reverse order: the
 /// window before what it stands on.
 class Tool {
 public:
@@ -26,24 +25,21 @@ public:
 
     ToolState &state() { return m_state; }
     const Services &services() { return m_services; }
-    X11Embedding &embedding() { return m_embedding; }
     Closing &closing() { return m_closing; }
 
-    /// Makes the window with its six pages, hidden, and runs its load handler.
+    /// Makes the wizard, hidden and loaded; the errors of the store are raised.
     WizardWindow &loadWindow();
 
 private:
-    void letEventsRunWhileLocked();
-
     ToolState m_state;
-    CandelaState m_candelaState;
     Closing m_closing;
+    OwnerWindow m_owner;
     TerminationSignals m_signals;
-    SqliteSettingsStore m_store;
+    ChosenStore m_store;
     PosixTextFiles m_files;
     QtDialogs m_dialogs;
     QtEventWait m_wait;
-    X11Embedding m_embedding;
+    ChosenEmbedding m_embedding;
     QtHelpViewer m_help;
     Services m_services;
     std::unique_ptr<WizardWindow> m_window;

@@ -4,8 +4,8 @@
 #include <string>
 #include <system_error>
 
+#include "app/PlatformChoice.h"
 #include "app/StartUp.h"
-#include "platform/x11/Display.h"
 
 namespace {
 
@@ -33,7 +33,7 @@ int main(int argc, char **argv)
     const std::string commandLine = commandLineOf(argc, argv);
     std::error_code ignored;
     const std::string folder = std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path().string();
-    const penwright::Display display;
+    const penwright::ChosenDisplay display;
     if (!display.isUsable())
         return 1;
     int nameAlone = 1;

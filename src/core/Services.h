@@ -15,7 +15,7 @@ struct Services {
     TextFiles &files;
     Dialogs &dialogs;
     EventWait &wait;
-    HostEmbedding &window;
+    HostEmbedding &embedding;
     HelpViewer &help;
 };
 

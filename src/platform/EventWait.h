@@ -18,6 +18,9 @@ public:
     /// starts, with the stack unwound, runs as any other, unless the host is gone.
     virtual WaitEnd until(const std::function<bool()> &done, std::chrono::milliseconds limit) = 0;
 
+    /// Whether a wait runs: what a screen reader presses meanwhile is refused too.
+    virtual bool isWaiting() const = 0;
+
     /// Whether the program has begun to unload: a routine that wakes from a wait or a dialog goes no further.
     virtual bool isUnloading() const = 0;
 };

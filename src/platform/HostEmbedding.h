@@ -16,6 +16,20 @@ class HostEmbedding {
 public:
     virtual ~HostEmbedding() = default;
 
+    /// Says which window is the wizard, by the toolkit's number for it: built, hidden and never shown so far. It must
+    /// be destroyed before this object.
+    virtual void adopt(std::uintptr_t window) = 0;
+
+    /// Watches `host`: its end is told, and that of the wizard inside it. False when the number names no window; then
+    /// the wizard is a top-level window of its own, and one line on stderr says so.
+    virtual bool watchHost(std::uint32_t host) = 0;
+
+    /// Takes the keyboard focus to the wizard, unless a dialog is open or it is not embedded and shown.
+    virtual void takeFocus() = 0;
+
+    /// Hides the wizard and makes it a child of `parent`, as at the end of its life.
+    virtual void giveBack(std::uint32_t parent) = 0;
+
     /// Makes the wizard a child of window `parent` and returns the number of its former parent, 0 when unknown.
     virtual std::uint32_t SetParent(std::uint32_t parent) = 0;
 

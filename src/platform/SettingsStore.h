@@ -50,6 +50,10 @@ public:
     /// Reads a value and empties it in one transaction, without ever waiting. "" when the value is empty or missing,
     /// and when the store is locked at this moment: the next call tries again.
     virtual std::string pop(std::string_view application, std::string_view section, std::string_view name) = 0;
+
+    /// What to do, instead of sleeping, between two tries while another process has locked the store: run window
+    /// events. No transaction is open meanwhile. False gives up at once. A store that never waits never asks.
+    virtual void setBusyWait(std::function<bool()>) {}
 };
 
 }  // namespace penwright

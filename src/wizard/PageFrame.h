@@ -21,8 +21,8 @@ class Navigator {
 public:
     virtual ~Navigator() = default;
 
-    /// Hides all frames and shows the frame of an index from 0 to 5 under its caption; any other index shows none and
-    /// leaves the caption.
+    /// Hides all frames and shows the frame of a row of the page table under its caption; any other index shows none
+    /// and leaves the caption.
     virtual void ShowPage(int index) = 0;
 
     /// Asks whether to cancel; Yes unloads the window. A tool that is not embedded ends whatever the answer.
@@ -61,6 +61,9 @@ public:
 
     /// Runs once, when the wizard window loads; raises the errors of the store.
     virtual void load() {}
+
+    /// Runs each time the wizard starts, before page 1 is shown.
+    virtual void start() {}
 
     /// Runs each time before the page is shown; an error raised here leaves the page that is shown as it is.
     virtual void enter() {}

@@ -14,12 +14,11 @@
 #include "controls/ScreenReader.h"
 #include "hostlink/HostPost.h"
 #include "platform/Dialogs.h"
+#include "platform/EventWait.h"
 #include "platform/HelpViewer.h"
 #include "platform/HostEmbedding.h"
 #include "platform/qt/Closing.h"
 #include "platform/qt/Placeholder.h"
-#include "platform/qt/QtEventWait.h"
-#include "platform/x11/X11Embedding.h"
 #include "wizard/HandlerGuard.h"
 #include "wizard/WarningDialog.h"
 
@@ -32,11 +31,11 @@ constexpr int kDeathInterval = 10000;
 
 }  // namespace
 
-WizardWindow::WizardWindow(ToolState &state, const Services &services, const WindowServices &window)
+WizardWindow::WizardWindow(ToolState &state, const Services &services, Closing &closing)
     : m_state(state),
       m_services(services),
-      m_window(window),
-      m_link(state, services.store, services.dialogs, services.window, *this),
+      m_closing(closing),
+      m_link(state, services.store, services.dialogs, services.embedding, *this),
       m_operations(state, services.store, services.dialogs, services.wait, m_link.log())
 {
     setScreenReaderRole(*this, QAccessible::Window);
@@ -46,11 +45,11 @@ WizardWindow::WizardWindow(ToolState &state, const Services &services, const Win
     makePlaceholdersLegible(*this);
     makeLayout();
     makeHiddenBoxes();
-    m_dlgWarn = new WarningDialog(m_window.closing, this);
+    m_dlgWarn = new WarningDialog(m_closing, this);
     m_tmrDataExchange = makeTimer("tmrDataExchange", kPollInterval);
     connect(m_tmrDataExchange, &QTimer::timeout, this, &WizardWindow::tmrDataExchange_Timer);
     m_tmrDeath = makeTimer("tmrDeath", kDeathInterval);  // its tick does nothing
-    connect(&m_window.closing, &Closing::unwound, this, &WizardWindow::unload);
+    connect(&m_closing, &Closing::unwound, this, &WizardWindow::unload);
 }
 
 void WizardWindow::makeLayout()
@@ -97,14 +96,11 @@ QTimer *WizardWindow::makeTimer(const char *name, int interval)
     return timer;
 }
 
-void WizardWindow::setPages(const std::array<PageFrame *, kPageCount> &pages, std::function<void()> clearCandelaState)
+void WizardWindow::addPage(PageFrame *page)
 {
-    m_pages = pages;
-    m_clearCandelaState = std::move(clearCandelaState);
-    for (PageFrame *page : m_pages) {
-        page->hide();
-        static_cast<QGridLayout *>(m_stack->layout())->addWidget(page, 0, 0);
-    }
+    m_pages.at(static_cast<std::size_t>(page->index())) = page;
+    page->hide();
+    static_cast<QGridLayout *>(m_stack->layout())->addWidget(page, 0, 0);
 }
 
 void WizardWindow::load()
@@ -112,7 +108,7 @@ void WizardWindow::load()
     // A child window has no frame of its own here, so that there is no style bit to set for it.
     if (m_state.start.EmbedInHost)
         m_state.start.PreviousParent =
-            m_services.window.SetParent(static_cast<std::uint32_t>(m_state.start.HostWindow));
+            m_services.embedding.SetParent(static_cast<std::uint32_t>(m_state.start.HostWindow));
     for (PageFrame *page : m_pages)
         page->load();
     m_tmrDataExchange->start();
@@ -165,15 +161,16 @@ void WizardWindow::ShowHelp(int contextId)
 
 bool WizardWindow::isBusy() const
 {
-    return m_window.wait.isWaiting() || QApplication::activeModalWidget() || isUnloading();
+    return m_services.wait.isWaiting() || QApplication::activeModalWidget() || isUnloading();
 }
 
 void WizardWindow::StartWizard()
 {
-    m_clearCandelaState();
+    for (PageFrame *page : m_pages)
+        page->start();
     ShowPage(kLampPage);
     show();
-    m_window.embedding.takeFocus();
+    m_services.embedding.takeFocus();
 }
 
 void WizardWindow::stopDeathTimer()
@@ -183,12 +180,12 @@ void WizardWindow::stopDeathTimer()
 
 void WizardWindow::beginUnload()
 {
-    m_window.closing.begin();
+    m_closing.begin();
 }
 
 bool WizardWindow::isUnloading() const
 {
-    return m_window.closing.isClosing();
+    return m_closing.isClosing();
 }
 
 void WizardWindow::showLog()
@@ -253,12 +250,12 @@ void WizardWindow::tmrDataExchange_Timer()
 void WizardWindow::unload()
 {
     try {
-        if (!m_window.closing.isHostGone())
+        if (!m_closing.isHostGone())
             HostPost(m_state.start, m_services.store, m_services.wait).postCommand("CloseRemove,");
     } catch (const RunTimeError &) {  // an unload is never refused, and nobody is left to tell
     }
     if (m_state.start.EmbedInHost)
-        m_window.embedding.giveBack(m_state.start.PreviousParent);
+        m_services.embedding.giveBack(m_state.start.PreviousParent);
     QCoreApplication::exit(0);
 }
 

@@ -20,29 +20,21 @@ class QTimer;
 namespace penwright {
 
 class Closing;
-class QtEventWait;
 class WarningDialog;
-class X11Embedding;
 
-/// The toolkit's side of the platform, as far as the window itself works with it.
-struct WindowServices {
-    Closing &closing;
-    X11Embedding &embedding;
-    const QtEventWait &wait;
-};
-
-/// The wizard's one window `frmSample`: six page frames on top of each other, at most one of them shown, and the hidden
+/// The wizard's one window `frmSample`: the page frames on top of each other, at most one of them shown, and the hidden
 /// boxes and timers of the host link.
 class WizardWindow : public QWidget, public Navigator, public LinkedWindow {
     Q_OBJECT
 
 public:
-    WizardWindow(ToolState &state, const Services &services, const WindowServices &window);
+    WizardWindow(ToolState &state, const Services &services, Closing &closing);
 
     PageContext pageContext() { return {m_state, m_services, *this, *m_dlgWarn}; }
 
-    /// Takes the six pages in the order of the page table, and what StartWizard runs to clear the candela page's state.
-    void setPages(const std::array<PageFrame *, kPageCount> &pages, std::function<void()> clearCandelaState);
+    /// Owns `page` from here on, and shows it under the index that it carries. Each row of the page table has one
+    /// before the window loads.
+    void addPage(PageFrame *page);
 
     /// The window load handler, run once by start-up: moves into the host when it is to be embedded, loads the pages
     /// and starts to poll for commands. Raises the errors of the store.
@@ -57,7 +49,7 @@ public:
     bool ReDo() override { return false; }
     bool isBusy() const override;
 
-    /// Shows page 1 and the window, not modal, and takes the keyboard focus.
+    /// Starts the pages, shows page 1 and the window, not modal, and takes the keyboard focus.
     void StartWizard() override;
     void stopDeathTimer() override;
     void beginUnload() override;
@@ -94,11 +86,10 @@ private:
 
     ToolState &m_state;
     Services m_services;
-    WindowServices m_window;
+    Closing &m_closing;
     CommandLink m_link;
     HostOperations m_operations;
     std::array<PageFrame *, kPageCount> m_pages{};
-    std::function<void()> m_clearCandelaState;
     int m_shownPage = kPageCount;  ///< index of the page shown, kPageCount for none
     std::int16_t m_formState = 0;
     std::size_t m_shownEntries = 0;  ///< entries of the log that `txtCmds` has been given

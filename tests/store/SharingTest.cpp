@@ -15,6 +15,7 @@ struct SleepingWait : EventWait {
     {
         return waitUntil(done, limit) ? WaitEnd::Done : WaitEnd::TimedOut;
     }
+    bool isWaiting() const override { return false; }
     bool isUnloading() const override { return false; }
 };
 

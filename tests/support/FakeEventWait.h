@@ -11,6 +11,23 @@ class FakeEventWait : public EventWait {
 public:
     WaitEnd until(const std::function<bool()> &done, std::chrono::milliseconds limit) override
     {
+        waiting = true;
+        const WaitEnd end = turnUntil(done, limit);
+        waiting = false;
+        return end;
+    }
+
+    bool isWaiting() const override { return waiting; }
+    bool isUnloading() const override { return cancelled; }
+
+    bool cancelled = false;
+    bool waiting = false;
+    std::chrono::milliseconds elapsed{0};  ///< how long the last wait that timed out took
+    std::function<void()> onTurn;
+
+private:
+    WaitEnd turnUntil(const std::function<bool()> &done, std::chrono::milliseconds limit)
+    {
         for (std::chrono::milliseconds waited{0}; !cancelled; waited += std::chrono::milliseconds(10)) {
             if (onTurn)
                 onTurn();
@@ -21,12 +38,6 @@ public:
         }
         return WaitEnd::Cancelled;
     }
-
-    bool isUnloading() const override { return cancelled; }
-
-    bool cancelled = false;
-    std::chrono::milliseconds elapsed{0};  ///< how long the last wait that timed out took
-    std::function<void()> onTurn;
 };
 
 }  // namespace penwright::test

@@ -5,37 +5,15 @@
 #include <vector>
 
 #include "core/ToolState.h"
-#include "platform/HostEmbedding.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "support/FakeDialogs.h"
+#include "support/FakeEmbedding.h"
 #include "support/FakeEventWait.h"
+#include "support/FakeHelp.h"
 #include "support/FakeTextFiles.h"
 #include "support/TempFolder.h"
 
 namespace penwright::test {
-
-/// A window among the display's windows that keeps a transcript of what was done to it.
-struct FakeEmbedding : HostEmbedding {
-    std::uint32_t SetParent(std::uint32_t parent) override
-    {
-        transcript += "parent " + std::to_string(parent) + "\n";
-        return 0;
-    }
-    void MoveWindow(int x, int y, PixelSize to) override
-    {
-        transcript += "move " + std::to_string(x) + " " + std::to_string(y) + " " + std::to_string(to.width) + " " +
-                      std::to_string(to.height) + "\n";
-    }
-    void raise() override { transcript += "raise\n"; }
-    bool isShown() const override { return shown; }
-    PixelSize size() const override { return current; }
-    double twipsPerPixel() const override { return twips; }
-
-    std::string transcript;
-    bool shown = false;
-    PixelSize current{700, 500};
-    double twips = 15;
-};
 
 /// A store that cannot be used, as one whose disk has filled up.
 struct FullStore : SettingsStore {
@@ -73,7 +51,9 @@ struct ToolBench {
     FakeTextFiles files;
     FakeDialogs dialogs;
     FakeEventWait wait;
-    FakeEmbedding window;
+    FakeEmbedding embedding;
+    FakeHelp help;
+    Services services{store, files, dialogs, wait, embedding, help};
 };
 
 }  // namespace penwright::test

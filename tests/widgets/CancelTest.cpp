@@ -22,6 +22,7 @@ TEST_F(Cancel, yesTellsTheHostGivesTheWindowBackAndEnds)
     startWizard();
     EXPECT_EQ(askAndRun(Answer::Yes), 0);
     EXPECT_EQ(taken, std::vector{kCloseRemove});
+    EXPECT_EQ(embedding.transcript, "parent 123\nfocus\ngive back 4711\n");
     EXPECT_FALSE(window->isVisible());
 }
 
@@ -31,6 +32,7 @@ TEST_F(Cancel, yesOfAToolThatIsNotEmbeddedTellsTheHostAndEnds)
     startWizard();
     EXPECT_EQ(askAndRun(Answer::Yes), 0);
     EXPECT_EQ(taken, std::vector{kCloseRemove});
+    EXPECT_EQ(embedding.transcript, "focus\n");
 }
 
 TEST_F(Cancel, noStaysWhereItIs)

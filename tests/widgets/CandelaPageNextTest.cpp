@@ -153,21 +153,21 @@ TEST_F(CandelaPageNext, startingTheWizardAgainBeginsWithBlanks)
     showTable({0}, {0});
     enterValue(1, 1, "100");
     window->StartWizard();
-    EXPECT_FALSE(candela.GridStarted);
+    EXPECT_FALSE(page().flags().GridStarted);
     EXPECT_EQ(cell(1, 1), "");
     showTable({0}, {0});
     EXPECT_EQ(cell(1, 1), " ");
-    EXPECT_TRUE(candela.GridStarted);
-    EXPECT_EQ(candela.plotValue, 0.01F);
+    EXPECT_TRUE(page().flags().GridStarted);
+    EXPECT_EQ(page().flags().plotValue, 0.01F);
 }
 
 TEST_F(CandelaPageNext, plotValueIsRaisedToTheLeastOnlyWhereItIsNotPositive)
 {
     showTable({0}, {0, 45, 90});
     for (const auto &[before, after] : {std::pair(-1.0F, 0.01F), std::pair(0.0F, 0.01F), std::pair(5.0F, 5.0F)}) {
-        candela.plotValue = before;
+        page().flags().plotValue = before;
         press(grid().currentRow() == 3 ? Qt::Key_Up : Qt::Key_Down);
-        EXPECT_EQ(candela.plotValue, after) << before;
+        EXPECT_EQ(page().flags().plotValue, after) << before;
     }
 }
 

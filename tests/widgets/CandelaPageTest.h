@@ -31,11 +31,12 @@ protected:
     void showTable(const std::vector<float> &horizontal, const std::vector<float> &vertical, std::int16_t type = kTypeC)
     {
         giveAngles(horizontal, vertical, type);
-        dynamic_cast<CandelaPage &>(*find("nfra4")).lsbStart();
+        page().lsbStart();
         window->ShowPage(kCandelaPage);
         QCoreApplication::processEvents();
     }
 
+    CandelaPage &page() { return *find<CandelaPage>("nfra4"); }
     GridView &grid() { return *find<GridView>("cdaGridCd"); }
 
     std::string cell(int row, int column) { return at(row, column).data().toString().toStdString(); }

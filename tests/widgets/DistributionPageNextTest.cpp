@@ -192,8 +192,8 @@ protected:
 TEST_F(DistributionBuild, everyAcceptedNextBuildsThePageThatFollows)
 {
     startWizard();
-    const Services services{store, files, dialogs, wait, place, help};
-    DistributionPage page({state, services, *this, window->dlgWarn()},
+    const Services given = services();
+    DistributionPage page({state, given, *this, window->dlgWarn()},
                           [this] { noted += "build " + std::to_string(state.PhotFiles(1).NumVertAngles) + "\n"; });
     page.show();
     QTest::mouseClick(page.findChild<QRadioButton *>("rdoC"), Qt::LeftButton);
@@ -207,8 +207,8 @@ TEST_F(DistributionBuild, everyAcceptedNextBuildsThePageThatFollows)
 TEST_F(DistributionBuild, failedBuildLeavesThePage)
 {
     startWizard();
-    const Services services{store, files, dialogs, wait, place, help};
-    DistributionPage page({state, services, *this, window->dlgWarn()}, [] { throw overflow(); });
+    const Services given = services();
+    DistributionPage page({state, given, *this, window->dlgWarn()}, [] { throw overflow(); });
     page.show();
     QTest::mouseClick(page.findChild<QRadioButton *>("rdoC"), Qt::LeftButton);
     for (const char *name : {"phoCmbVert", "phoCmbHorz"})

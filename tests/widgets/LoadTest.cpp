@@ -42,7 +42,8 @@ TEST_F(Load, windowIsNamedHiddenAndShowsNoPage)
 TEST_F(Load, embeddedWindowMovesIntoTheHostAndKeepsItsFormerParent)
 {
     loadWindow();
-    EXPECT_EQ(place.parents, std::vector<std::uint32_t>{123});
+    EXPECT_EQ(embedding.adopted, window->winId());
+    EXPECT_EQ(embedding.transcript, "parent 123\n");
     EXPECT_EQ(state.start.PreviousParent, 4711u);
 }
 
@@ -50,7 +51,7 @@ TEST_F(Load, windowThatIsNotEmbeddedStaysWhereItIs)
 {
     state.start.EmbedInHost = false;
     loadWindow();
-    EXPECT_TRUE(place.parents.empty());
+    EXPECT_EQ(embedding.transcript, "");
     EXPECT_EQ(state.start.PreviousParent, 0u);
 }
 
@@ -120,7 +121,7 @@ TEST_F(Load, labelsOfPageOneAreBuddies)
 TEST_F(Load, hiddenBoxesExistAndStayHidden)
 {
     startWizard();
-    for (int index = 0; index <= 6; ++index) {
+    for (int index = 0; index <= kPageCount; ++index) {
         window->ShowPage(index);
         for (const char *name : {"txtNewFilename", "txtIESFile"})
             EXPECT_TRUE(find<QLineEdit>(name)->isHidden()) << name;
@@ -143,10 +144,12 @@ TEST_F(Load, timersAreNamedAndOnlyThePollRuns)
 TEST_F(Load, startClearsTheCandelaPagesState)
 {
     loadWindow();
-    candela = {true, true};
+    CandelaState &flags = find<CandelaPage>("nfra4")->flags();
+    flags = {true, true, 1};
     window->StartWizard();
-    EXPECT_FALSE(candela.GridStarted);
-    EXPECT_FALSE(candela.GridReady);
+    EXPECT_FALSE(flags.GridStarted);
+    EXPECT_FALSE(flags.GridReady);
+    EXPECT_EQ(flags.plotValue, 0);
 }
 
 TEST_F(Load, secondStartDoesWhatTheFirstDid)

@@ -10,50 +10,30 @@
 #include <string>
 #include <vector>
 
+#include "app/WizardAssembly.h"
 #include "grid/GridView.h"
 #include "pages/candela/CandelaPage.h"
-#include "pages/candela/CandelaState.h"
 #include "pages/distribution/DistributionPage.h"
-#include "pages/finish/FinishPage.h"
-#include "pages/keywords/KeywordPage.h"
-#include "pages/luminaire/LampPage.h"
-#include "pages/luminaire/TiltPage.h"
-#include "platform/HelpViewer.h"
-#include "platform/HostEmbedding.h"
 #include "platform/qt/Closing.h"
+#include "platform/qt/OwnerWindow.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "platform/TextFiles.h"
-#include "platform/x11/X11Embedding.h"
 #include "support/Captions.h"
 #include "support/FakeDialogs.h"
+#include "support/FakeEmbedding.h"
+#include "support/FakeHelp.h"
 #include "support/TempFolder.h"
 #include "wizard/WarningDialog.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright::test {
 
-struct RecordingHelp : HelpViewer {
-    void showTopic(const std::string &path, int contextId) override { topics.emplace_back(path, contextId); }
-    std::vector<std::pair<std::string, int>> topics;
-};
-
 struct RecordingFiles : TextFiles {
     int replace(const std::string &path, std::string_view) override { return paths.push_back(path), failure; }
     std::vector<std::string> paths;
     int failure = 0;  ///< what each writing ends with
-};
-
-/// A place among the display's windows that only notes whose child the wizard becomes.
-struct RecordingEmbedding : HostEmbedding {
-    std::uint32_t SetParent(std::uint32_t parent) override { return parents.push_back(parent), 4711; }
-    void MoveWindow(int, int, PixelSize) override {}
-    void raise() override {}
-    bool isShown() const override { return true; }
-    PixelSize size() const override { return {}; }
-    double twipsPerPixel() const override { return 15; }
-    std::vector<std::uint32_t> parents;
 };
 
 /// The whole wizard window as start-up makes it, over a store of its own, with dialogs that only note what they were
@@ -69,27 +49,17 @@ protected:
         state.start.ExchangeSection = "Sec";
         state.start.HelpFilePath = "/tool/Lumentor_PE-HTML.chm";
         state.PhotFiles.reset(1);
+        embedding.former = 4711;
+        embedding.onGiveBack = [this] { window->hide(); };
     }
 
     void TearDown() override { window.reset(); }
 
+    Services services() { return {store, files, *m_dialogs, wait, embedding, help}; }
+
     void useRealDialogs() { m_dialogs = &realDialogs; }
 
-    void loadWindow()
-    {
-        window = std::make_unique<WizardWindow>(state, Services{store, files, *m_dialogs, wait, place, help},
-                                                WindowServices{closing, embedding, wait});
-        const PageContext context = window->pageContext();
-        auto *candelaPage = new CandelaPage(context, candela);
-        auto *distributionPage = new DistributionPage(context, [candelaPage] { candelaPage->lsbStart(); });
-        window->setPages({new LampPage(context), new TiltPage(context), new KeywordPage(context), distributionPage,
-                          candelaPage, new FinishPage(context)},
-                         [this] { candela = CandelaState(); });
-        realDialogs.setOwner(window.get());
-        wait.setHeldOff(window.get());
-        embedding.adopt(*window);
-        window->load();
-    }
+    void loadWindow() { window = assembleWizard(state, services(), closing, owner); }
 
     void startWizard()
     {
@@ -185,7 +155,7 @@ protected:
     int shownPage()
     {
         int shown = -1;
-        for (int index = 0; index < 6; ++index)
+        for (int index = 0; index < kPageCount; ++index)
             if (!find("nfra" + std::to_string(index))->isHidden())
                 shown = shown == -1 ? index : -2;
         return shown;
@@ -222,16 +192,15 @@ protected:
 
     TempFolder folder;
     ToolState state;
-    CandelaState candela;
     SqliteSettingsStore store{folder.file("settings.sqlite3")};
     RecordingFiles files;
-    RecordingHelp help;
-    RecordingEmbedding place;
+    FakeHelp help;
+    FakeEmbedding embedding;
     Closing closing;
-    QtEventWait wait{closing};
-    X11Embedding embedding{closing};
+    OwnerWindow owner;
+    QtEventWait wait{closing, owner};
     FakeDialogs dialogs;
-    QtDialogs realDialogs{closing};
+    QtDialogs realDialogs{closing, owner};
     std::vector<std::string> taken;  ///< what the host has taken from its inbox
     std::unique_ptr<WizardWindow> window;
 

@@ -20,6 +20,7 @@
 #include <string>
 
 #include "platform/qt/Closing.h"
+#include "platform/qt/OwnerWindow.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
 #include "platform/qt/TerminationSignals.h"
@@ -51,7 +52,11 @@ bool isPopupUp()
 
 class Probe {
 public:
-    Probe() : m_embedding(m_closing), m_signals(m_closing), m_dialogs(m_closing), m_wait(m_closing)
+    Probe()
+        : m_embedding([this] { m_closing.hostVanished(); }),
+          m_signals(m_closing),
+          m_dialogs(m_closing, m_owner),
+          m_wait(m_closing, m_owner)
     {
         auto *layout = new QVBoxLayout(&m_window);
         m_combo = new QComboBox;
@@ -61,9 +66,8 @@ public:
         layout->addWidget(m_table);
         QObject::connect(m_table, &QTableWidget::itemChanged,
                          [](QTableWidgetItem *item) { say("committed " + item->text().toStdString()); });
-        m_embedding.adopt(m_window);
-        m_dialogs.setOwner(&m_window);
-        m_wait.setHeldOff(&m_window);
+        m_embedding.adopt(m_window.winId());
+        m_owner.widget = &m_window;
         QObject::connect(&m_closing, &Closing::unwound, &m_window, [this] { finish(); });
     }
 
@@ -213,6 +217,7 @@ private:
     }
 
     Closing m_closing;
+    OwnerWindow m_owner;
     X11Embedding m_embedding;
     TerminationSignals m_signals;
     QtDialogs m_dialogs;

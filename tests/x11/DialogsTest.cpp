@@ -14,6 +14,7 @@
 #include <string>
 
 #include "platform/qt/Closing.h"
+#include "platform/qt/OwnerWindow.h"
 #include "platform/qt/QtDialogs.h"
 #include "support/DialogDriver.h"
 #include "support/TempFolder.h"
@@ -32,7 +33,8 @@ struct BoxCase {
 class Box : public testing::Test {
 protected:
     Closing closing;
-    QtDialogs dialogs{closing};
+    OwnerWindow owner;
+    QtDialogs dialogs{closing, owner};
 };
 class BoxRow : public Box, public testing::WithParamInterface<BoxCase> {};
 class SaveDialog : public Box {
@@ -135,11 +137,11 @@ TEST_F(Box, aClosedWindowAnswersAsEscapeDoes)
 
 TEST_F(Box, standsOverTheOpenModalDialog)
 {
-    QWidget owner;
-    owner.show();
-    dialogs.setOwner(&owner);
+    QWidget wizard;
+    wizard.show();
+    owner.widget = &wizard;
     whenDialogIsUp([&](QDialog &lower) {
-        EXPECT_EQ(lower.parentWidget(), &owner);
+        EXPECT_EQ(lower.parentWidget(), &wizard);
         whenDialogIsUp([&](QDialog &upper) {
             EXPECT_EQ(upper.parentWidget(), &lower);
             QTest::keyClick(&upper, Qt::Key_Return);
@@ -152,9 +154,9 @@ TEST_F(Box, standsOverTheOpenModalDialog)
 
 TEST_F(Box, systemModalBlocksEveryWindow)
 {
-    QWidget owner;
-    owner.show();
-    dialogs.setOwner(&owner);
+    QWidget wizard;
+    wizard.show();
+    owner.widget = &wizard;
     const auto modalityOf = [this](int flags) {
         Qt::WindowModality seen = Qt::NonModal;
         whenDialogIsUp([&](QDialog &dialog) {

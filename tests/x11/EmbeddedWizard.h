@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "platform/qt/Closing.h"
+#include "platform/qt/OwnerWindow.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/x11/X11Embedding.h"
 #include "support/DialogDriver.h"
@@ -81,7 +82,10 @@ private:
 class EmbeddedWizard : public testing::Test {
 protected:
     explicit EmbeddedWizard(HostProcess::Shape shape = HostProcess::Shape::Plain)
-        : host(shape), embedding(closing), dialogs(closing), window(std::make_unique<QWidget>())
+        : host(shape),
+          embedding([this] { closing.hostVanished(); }),
+          dialogs(closing, owner),
+          window(std::make_unique<QWidget>())
     {
         auto *layout = new QVBoxLayout(window.get());
         first = new QLineEdit;
@@ -91,8 +95,8 @@ protected:
         layout->addWidget(first);
         layout->addWidget(second);
         layout->addWidget(button);
-        embedding.adopt(*window);
-        dialogs.setOwner(window.get());
+        embedding.adopt(window->winId());
+        owner.widget = window.get();
     }
 
     void SetUp() override
@@ -145,6 +149,7 @@ protected:
     DisplayQuery display;
     HostProcess host;
     Closing closing;
+    OwnerWindow owner;
     X11Embedding embedding;
     QtDialogs dialogs;
     std::unique_ptr<QWidget> window;

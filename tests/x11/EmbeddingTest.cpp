@@ -122,9 +122,9 @@ TEST_F(Embedding, followsAChangeOfPalette)
 TEST_F(Embedding, raisedAboveItsSiblings)
 {
     embedAndShow();
-    X11Embedding other(closing);
+    X11Embedding other([] {});
     QWidget sibling;
-    other.adopt(sibling);
+    other.adopt(sibling.winId());
     ASSERT_NE(other.SetParent(host.window()), 0u);
     ASSERT_EQ(display.childrenOf(host.window()).back(), static_cast<std::uint32_t>(sibling.winId()));
     const Rectangle before = display.geometryOf(id());

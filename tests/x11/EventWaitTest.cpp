@@ -11,6 +11,7 @@
 #include <stdexcept>
 
 #include "platform/qt/Closing.h"
+#include "platform/qt/OwnerWindow.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
 #include "support/DialogDriver.h"
@@ -35,7 +36,7 @@ protected:
             layout->addWidget(widget);
         QObject::connect(button, &QPushButton::clicked, [this] { ++clicks; });
         QObject::connect(new QShortcut(Qt::CTRL | Qt::Key_D, &window), &QShortcut::activated, [this] { ++clicks; });
-        wait.setHeldOff(&window);
+        owner.widget = &window;
         window.show();
         window.activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -54,7 +55,8 @@ protected:
     }
 
     Closing closing;
-    QtEventWait wait{closing};
+    OwnerWindow owner;
+    QtEventWait wait{closing, owner};
     QWidget window;
     QLineEdit *box = nullptr;
     QPushButton *button = nullptr;
@@ -152,8 +154,7 @@ TEST_F(Wait, leavesNoButtonDownWhoseReleaseItSwallowed)
 
 TEST_F(Wait, leavesDialogsOverTheWindowUsable)
 {
-    QtDialogs dialogs(closing);
-    dialogs.setOwner(&window);
+    QtDialogs dialogs(closing, owner);
     during([&] {
         whenDialogIsUp([](QDialog &dialog) {
             QTest::mouseClick(dynamic_cast<QMessageBox &>(dialog).button(QMessageBox::No), Qt::LeftButton);

@@ -2,7 +2,6 @@
 
 #include <QWidget>
 
-#include "platform/qt/Closing.h"
 #include "platform/x11/X11Embedding.h"
 
 namespace penwright::test {
@@ -11,10 +10,9 @@ namespace {
 /// On a display without X11 windows the wizard is a plain window.
 class WithoutX11 : public testing::Test {
 protected:
-    WithoutX11() { embedding.adopt(window); }
+    WithoutX11() { embedding.adopt(window.winId()); }
 
-    Closing closing;
-    X11Embedding embedding{closing};
+    X11Embedding embedding{[] {}};
     QWidget window;
 };
 
@@ -50,8 +48,8 @@ TEST_F(WithoutX11, isHiddenWhenGivenBack)
 
 TEST(NothingAdopted, changesNothing)
 {
-    Closing closing;
-    X11Embedding embedding(closing);
+    X11Embedding embedding([] {});
+    embedding.adopt(42);
     EXPECT_EQ(embedding.SetParent(42), 0u);
     embedding.MoveWindow(1, 2, {3, 4});
     embedding.raise();

@@ -27,11 +27,10 @@ void pressPageUp(QWidget &widget)
 
 }  // namespace
 
-CandelaPage::CandelaPage(const PageContext &context, CandelaState &flags)
+CandelaPage::CandelaPage(const PageContext &context)
     : PageFrame(kCandelaPage, context),
-      m_flags(flags),
       m_form(std::make_unique<Ui::CandelaPage>()),
-      m_table(state(), flags, caption().toStdString())
+      m_table(state(), m_flags, caption().toStdString())
 {
     m_form->setupUi(formArea());
     m_form->planeKey->setColour(kPaperLook.plane);
@@ -49,6 +48,11 @@ void CandelaPage::load()
     m_tmrFlip->setObjectName("tmrFlip");
     m_tmrFlip->setInterval(kFlipInterval);
     connect(m_tmrFlip, &QTimer::timeout, this, &CandelaPage::tmrFlip_Timer);
+}
+
+void CandelaPage::start()
+{
+    m_flags = {};
 }
 
 void CandelaPage::connectGrid()

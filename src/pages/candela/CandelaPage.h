@@ -19,16 +19,19 @@ class CandelaPage : public PageFrame {
     Q_OBJECT
 
 public:
-    /// `flags` are cleared by whoever starts the wizard, and outlive the page.
-    CandelaPage(const PageContext &context, CandelaState &flags);
-
+    explicit CandelaPage(const PageContext &context);
     ~CandelaPage() override;
 
     void load() override;
 
+    /// Clears the flags: the next table is built anew.
+    void start() override;
+
     /// Builds the table from record slot 1 and shows its first cell; page 4 runs it each time it is left by Next.
     /// Error 9 when the record's angles are fewer than it counts.
     void lsbStart();
+
+    CandelaState &flags() { return m_flags; }
 
 protected:
     void focusFault(const FaultPlace &place) override;
@@ -44,7 +47,7 @@ private:
     void refreshPlot();
     void tellPlotError();
 
-    CandelaState &m_flags;
+    CandelaState m_flags;
     std::unique_ptr<Ui::CandelaPage> m_form;
     CandelaTable m_table;
     CandelaTable::CellAngles m_shown;  ///< of the cell whose plane and cone are drawn

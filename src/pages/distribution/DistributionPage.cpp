@@ -76,8 +76,7 @@ void DistributionPage::cmdNext30_Click()
     if (!dlgWarn().Clean())
         return showWarnings();
     storeDistribution(fields, state().PhotFiles(1));
-    if (m_lsbStart)
-        m_lsbStart();
+    m_lsbStart();
     navigator().ShowPage(kCandelaPage);
 }
 

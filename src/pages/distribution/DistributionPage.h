@@ -22,7 +22,7 @@ class DistributionPage : public PageFrame {
 
 public:
     /// `lsbStart` builds the candela table from the record; it runs each time the page is left by Next.
-    explicit DistributionPage(const PageContext &context, std::function<void()> lsbStart = {});
+    DistributionPage(const PageContext &context, std::function<void()> lsbStart);
     ~DistributionPage() override;
 
 protected:

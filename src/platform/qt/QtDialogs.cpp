@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 
 #include "platform/qt/Closing.h"
+#include "platform/qt/OwnerWindow.h"
 
 namespace penwright {
 namespace {
@@ -121,7 +122,7 @@ void blockParentAlone(QDialog &dialog)
 QWidget *QtDialogs::dialogParent() const
 {
     QWidget *modal = QApplication::activeModalWidget();
-    return modal ? modal : m_owner;
+    return modal ? modal : m_owner.widget.data();
 }
 
 Answer QtDialogs::show(const MessageBox &box)

@@ -9,15 +9,13 @@ class QWidget;
 namespace penwright {
 
 class Closing;
+struct OwnerWindow;
 
-/// Message boxes and the toolkit's own save dialog, modal over the wizard. They block the wizard alone, so that a help
+/// Message boxes and the toolkit's own save dialog, modal over their owner. They block the owner alone, so that a help
 /// window stays usable; a system-modal box, or one without an owner, blocks every window of the program.
 class QtDialogs : public Dialogs {
 public:
-    explicit QtDialogs(const Closing &closing) : m_closing(closing) {}
-
-    /// The window over which dialogs open; without one they stand for themselves.
-    void setOwner(QWidget *owner) { m_owner = owner; }
+    QtDialogs(const Closing &closing, const OwnerWindow &owner) : m_closing(closing), m_owner(owner) {}
 
     /// Escape and Enter both answer No where there is one, so that a key too many loses nothing. Elsewhere Enter
     /// answers OK, and Escape Cancel where there is one.
@@ -30,7 +28,7 @@ private:
     QWidget *dialogParent() const;
 
     const Closing &m_closing;
-    QWidget *m_owner = nullptr;
+    const OwnerWindow &m_owner;
     std::string m_lastName;  ///< chosen last, with its folder
 };
 

@@ -9,6 +9,7 @@
 #include <QWindow>
 
 #include "platform/qt/Closing.h"
+#include "platform/qt/OwnerWindow.h"
 
 namespace penwright {
 namespace {
@@ -118,7 +119,7 @@ WaitEnd QtEventWait::until(const std::function<bool()> &done, std::chrono::milli
     if (!m_closing.mayWait())
         return WaitEnd::Cancelled;
     const Depth depth(m_depth);
-    const HeldOff heldOff(m_window);
+    const HeldOff heldOff(m_owner.widget);
     QEventLoop loop;
     QTimer poll;
     const auto start = std::chrono::steady_clock::now();

@@ -2,30 +2,25 @@
 
 #include "platform/EventWait.h"
 
-class QWidget;
-
 namespace penwright {
 
 class Closing;
+struct OwnerWindow;
 
-/// Waits in a nested event loop with a monotonic clock.
+/// Waits in a nested event loop with a monotonic clock. The owner's keys and clicks are held off meanwhile, under a
+/// wait cursor.
 class QtEventWait : public EventWait {
 public:
-    explicit QtEventWait(const Closing &closing) : m_closing(closing) {}
-
-    /// The window whose keys and clicks are held off, under a wait cursor, while a wait runs.
-    void setHeldOff(QWidget *window) { m_window = window; }
+    QtEventWait(const Closing &closing, const OwnerWindow &owner) : m_closing(closing), m_owner(owner) {}
 
     WaitEnd until(const std::function<bool()> &done, std::chrono::milliseconds limit) override;
 
+    bool isWaiting() const override { return m_depth > 0; }
     bool isUnloading() const override;
-
-    /// Whether a wait runs: what a screen reader presses meanwhile is refused too.
-    bool isWaiting() const { return m_depth > 0; }
 
 private:
     const Closing &m_closing;
-    QWidget *m_window = nullptr;
+    const OwnerWindow &m_owner;
     int m_depth = 0;
 };
 

@@ -24,11 +24,6 @@ public:
     /// Where the user's store lives: "Lumentor/settings.sqlite3" under $XDG_CONFIG_HOME, or under ~/.config.
     static std::string userPath();
 
-    /// What to do between two tries of a store that another process has locked, instead of sleeping: run window events.
-    /// No statement or transaction is open meanwhile. False gives up at once; after 5 seconds the store gives up in any
-    /// case.
-    void setBusyWait(std::function<bool()> wait);
-
     std::string read(std::string_view application, std::string_view section, std::string_view name,
                      std::string_view fallback = {}) override;
     std::vector<Setting> readAll(std::string_view application, std::string_view section) override;
@@ -43,6 +38,9 @@ public:
     std::optional<std::string> peek(std::string_view application, std::string_view section,
                                     std::string_view name) override;
     std::string pop(std::string_view application, std::string_view section, std::string_view name) override;
+
+    /// No statement is open either while it runs; after 5 seconds the store gives up in any case.
+    void setBusyWait(std::function<bool()> wait) override;
 
 private:
     struct Statements;

@@ -6,7 +6,7 @@
 
 #include <xcb/xcb.h>
 
-#include "platform/qt/QtMessages.h"
+#include "platform/x11/QtMessages.h"
 
 namespace penwright {
 

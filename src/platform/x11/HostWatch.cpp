@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <QCoreApplication>
 #include <QMetaObject>
+#include <utility>
 
 #include <xcb/xcb.h>
 
-#include "platform/qt/Closing.h"
-
 namespace penwright {
 
-HostWatch::HostWatch(Closing &closing) : m_closing(closing)
+HostWatch::HostWatch(std::function<void()> gone) : m_gone(std::move(gone))
 {
     qApp->installNativeEventFilter(this);
 }
@@ -42,7 +41,7 @@ bool HostWatch::nativeEventFilter(const QByteArray &eventType, void *message, qi
         return false;
     const auto destroyed = static_cast<const xcb_destroy_notify_event_t *>(message)->window;
     if (std::find(m_watched.begin(), m_watched.end(), destroyed) != m_watched.end())
-        QMetaObject::invokeMethod(&m_closing, &Closing::hostVanished, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(&m_here, m_gone, Qt::QueuedConnection);
     return false;
 }
 

@@ -1,20 +1,20 @@
 #pragma once
 
 #include <QAbstractNativeEventFilter>
+#include <QObject>
 
+#include <functional>
 #include <vector>
 
 #include "platform/x11/X11Window.h"
 
 namespace penwright {
 
-class Closing;
-
-/// Tells Closing, from the event loop, that a watched window has been destroyed. The toolkit itself does not notice
-/// when a window of its own dies with a foreign parent.
+/// Tells, from the event loop, that a watched window has been destroyed. The toolkit itself does not notice when a
+/// window of its own dies with a foreign parent.
 class HostWatch : public QAbstractNativeEventFilter {
 public:
-    explicit HostWatch(Closing &closing);
+    explicit HostWatch(std::function<void()> gone);
 
     /// Watches a window of any process; false when the number names none.
     bool watch(x11::WindowId window);
@@ -27,7 +27,8 @@ public:
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
 private:
-    Closing &m_closing;
+    std::function<void()> m_gone;
+    QObject m_here;  ///< a call that is still on its way ends with it
     std::vector<x11::WindowId> m_watched;
 };
 

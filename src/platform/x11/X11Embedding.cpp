@@ -10,10 +10,10 @@
 #include <QThread>
 #include <QWidget>
 #include <QWindow>
+#include <utility>
 
-#include "platform/qt/Closing.h"
-#include "platform/qt/QtMessages.h"
 #include "platform/x11/HostWatch.h"
+#include "platform/x11/QtMessages.h"
 #include "platform/x11/X11Focus.h"
 
 namespace penwright {
@@ -22,7 +22,13 @@ using x11::WindowId;
 
 class X11Embedding::Private {
 public:
-    explicit Private(Closing &c) : closing(c), watch(c) {}
+    explicit Private(std::function<void()> hostGone)
+        : watch([this, tell = std::move(hostGone)] {
+              isHostGone = true;
+              tell();
+          })
+    {
+    }
 
     WindowId self() const { return static_cast<WindowId>(window->winId()); }
     bool isOnX11() const { return window && x11::available(); }
@@ -31,7 +37,7 @@ public:
     bool becomeChildOf(WindowId parent);
     void placeInToolkit(int x, int y, PixelSize size);
 
-    Closing &closing;
+    bool isHostGone = false;
     HostWatch watch;
     ForeignWindows foreign;
     QPointer<QWidget> window;
@@ -83,7 +89,7 @@ void X11Embedding::Private::placeInToolkit(int x, int y, PixelSize size)
     window->windowHandle()->setGeometry(place);
 }
 
-X11Embedding::X11Embedding(Closing &closing) : d(std::make_unique<Private>(closing))
+X11Embedding::X11Embedding(std::function<void()> hostGone) : d(std::make_unique<Private>(std::move(hostGone)))
 {
     installMessageFilter();
 }
@@ -94,13 +100,14 @@ X11Embedding::~X11Embedding()
         d->becomeTopLevel();  // else its native window would be destroyed with the stand-in of its parent
 }
 
-void X11Embedding::adopt(QWidget &window)
+void X11Embedding::adopt(std::uintptr_t window)
 {
-    d->window = &window;
-    window.winId();
-    if (window.layout())
-        window.layout()->setSizeConstraint(QLayout::SetNoConstraint);
-    d->focus = std::make_unique<X11Focus>(window, d->foreign);
+    d->window = QWidget::find(static_cast<WId>(window));
+    if (!d->window)
+        return;
+    if (d->window->layout())
+        d->window->layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    d->focus = std::make_unique<X11Focus>(*d->window, d->foreign);
 }
 
 bool X11Embedding::watchHost(std::uint32_t host)
@@ -122,7 +129,7 @@ void X11Embedding::giveBack(std::uint32_t parent)
     if (!d->window)
         return;
     d->window->hide();
-    if (d->host && !d->closing.isHostGone())
+    if (d->host && !d->isHostGone)
         SetParent(x11::exists(parent) ? parent : 0);
 }
 

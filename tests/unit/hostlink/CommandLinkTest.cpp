@@ -89,7 +89,7 @@ TEST_F(LinkTest, commandsAreLoggedAndIgnoredWhileTheWindowUnloads)
     for (const char *command : {"START", "MOVEWIN,1,2,3,4", "CLOSE", "DELETEFILE,", "DATACHANGED"})
         link.msbCmd(command);
     EXPECT_EQ(window.transcript, "unload\n");
-    EXPECT_EQ(bench.window.transcript, "");
+    EXPECT_EQ(bench.embedding.transcript, "");
     EXPECT_EQ(logged(), "CLOSE\r\nSTART\r\nMOVEWIN,1,2,3,4\r\nCLOSE\r\nDELETEFILE,\r\nDATACHANGED\r\n");
 }
 

@@ -87,7 +87,7 @@ TEST_F(DataChanged, recordThatDoesNotParseKeepsWhatTheUserEnteredAndNamesTheProb
 TEST_F(DataChanged, storeThatCannotBeReadIsOneMessageAndKeepsWhatTheUserEntered)
 {
     bench.state.PhotFiles(1) = named("mine");
-    CommandLink broken(bench.state, bench.fullStore, bench.dialogs, bench.window, window);
+    CommandLink broken(bench.state, bench.fullStore, bench.dialogs, bench.embedding, window);
     broken.msbCmd("DATACHANGED");
     EXPECT_EQ(bench.state.PhotFiles(1), named("mine"));
     EXPECT_EQ(bench.dialogs.transcript, "[PenwrightPE|0] err in linkExectue.\n");

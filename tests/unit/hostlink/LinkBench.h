@@ -45,7 +45,7 @@ protected:
 
     ToolBench bench;
     FakeLinkedWindow window;
-    CommandLink link{bench.state, bench.store, bench.dialogs, bench.window, window};
+    CommandLink link{bench.state, bench.store, bench.dialogs, bench.embedding, window};
 };
 
 }  // namespace penwright::test

@@ -21,7 +21,7 @@ protected:
 TEST_P(MoveWindow, movesAndSizes)
 {
     link.msbCmd(GetParam().command);
-    EXPECT_EQ(bench.window.transcript, GetParam().done);
+    EXPECT_EQ(bench.embedding.transcript, GetParam().done);
     EXPECT_EQ(bench.dialogs.transcript, "");
 }
 
@@ -58,22 +58,22 @@ TEST_F(MoveWindow, keepsThePlaceAskedFor)
 
 TEST_F(MoveWindow, raisesOnlyAWindowThatIsShown)
 {
-    bench.window.shown = true;
+    bench.embedding.shown = true;
     link.msbCmd("MOVEWIN,1,2,3,4");
-    EXPECT_EQ(bench.window.transcript, "move 1 2 3 4\nraise\n");
+    EXPECT_EQ(bench.embedding.transcript, "move 1 2 3 4\nraise\n");
 }
 
 TEST_F(MoveWindow, designSizeCountsInPixelsOfTheDisplay)
 {
-    bench.window.twips = 7.5;
+    bench.embedding.twips = 7.5;
     link.msbCmd("MOVEWIN,0,0,0,0");
-    EXPECT_EQ(bench.window.transcript, "move 0 0 1440 1120\n");
+    EXPECT_EQ(bench.embedding.transcript, "move 0 0 1440 1120\n");
 }
 
 TEST_F(MoveWindow, numberBeyond32BitsIsAnErrorAndMovesNothing)
 {
     link.msbCmd("MOVEWIN,99999999999,2,3,4");
-    EXPECT_EQ(bench.window.transcript, "");
+    EXPECT_EQ(bench.embedding.transcript, "");
     EXPECT_EQ(bench.state.start.MoveX, 0);
     EXPECT_EQ(bench.dialogs.transcript, "[PenwrightPE|0] err in linkExectue.\n");
 }

@@ -1,4 +1,4 @@
-#include "platform/qt/QtMessages.h"
+#include "platform/x11/QtMessages.h"
 
 #include <unistd.h>
 #include <cstdio>

@@ -1,0 +1,68 @@
+#include "app/WizardAssembly.h"
+
+#include <chrono>
+
+#include "pages/candela/CandelaPage.h"
+#include "pages/distribution/DistributionPage.h"
+#include "pages/finish/FinishPage.h"
+#include "pages/keywords/KeywordPage.h"
+#include "pages/luminaire/LampPage.h"
+#include "pages/luminaire/TiltPage.h"
+#include "platform/EventWait.h"
+#include "platform/HostEmbedding.h"
+#include "platform/qt/OwnerWindow.h"
+#include "platform/SettingsStore.h"
+
+namespace penwright {
+namespace {
+
+using namespace std::chrono_literals;
+
+void addPages(WizardWindow &window)
+{
+    const PageContext context = window.pageContext();
+    auto *candelaPage = new CandelaPage(context);
+    window.addPage(new LampPage(context));
+    window.addPage(new TiltPage(context));
+    window.addPage(new KeywordPage(context));
+    window.addPage(new DistributionPage(context, [candelaPage] { candelaPage->lsbStart(); }));
+    window.addPage(candelaPage);
+    window.addPage(new FinishPage(context));
+}
+
+// Once there is a window, a store that another process keeps locked must not stop it from painting, nor hold up the end
+// of the program.
+void letEventsRunWhileLocked(const Services &services)
+{
+    services.store.setBusyWait(
+        [&wait = services.wait] { return wait.until([] { return false; }, 20ms) != WaitEnd::Cancelled; });
+}
+
+}  // namespace
+
+std::unique_ptr<WizardWindow> assembleWizard(ToolState &state, const Services &services, Closing &closing,
+                                             OwnerWindow &owner)
+{
+    auto window = std::make_unique<WizardWindow>(state, services, closing);
+    addPages(*window);
+    owner.widget = window.get();
+    services.embedding.adopt(window->winId());
+    window->load();
+    letEventsRunWhileLocked(services);
+    return window;
+}
+
+void openWizard(WizardWindow &window, StartupState &start, HostEmbedding &embedding)
+{
+    const auto host = static_cast<std::uint32_t>(start.HostWindow);
+    window.startDeathTimer();
+    // The window is a source of the host link under the topic InstanceTag; here all commands travel through the store.
+    window.setWindowTitle(QString::fromStdString(start.ToolName));
+    embedding.watchHost(host);
+    // Unconditionally, and overwriting what the first call returned: an embedded window's former parent is its host.
+    start.PreviousParent = embedding.SetParent(host);
+    start.DesignWidth = window.width() * kTwipsPerLogicalPixel;
+    start.DesignHeight = window.height() * kTwipsPerLogicalPixel;
+}
+
+}  // namespace penwright

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <memory>
+
+#include "core/Services.h"
+#include "core/ToolState.h"
+#include "wizard/WizardWindow.h"
+
+namespace penwright {
+
+class Closing;
+class HostEmbedding;
+struct OwnerWindow;
+
+/// Makes the wizard of a run, hidden: the window with its pages, wired to each other and to the services, and loaded.
+/// What it is given outlives it. Raises the errors of the store.
+std::unique_ptr<WizardWindow> assembleWizard(ToolState &state, const Services &services, Closing &closing,
+                                             OwnerWindow &owner);
+
+/// Opens a wizard that has been made: a child of the host's window, which is watched from here on. It stays hidden
+/// until the host says "START".
+void openWizard(WizardWindow &window, StartupState &start, HostEmbedding &embedding);
+
+}  // namespace penwright
