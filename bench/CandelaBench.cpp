@@ -154,19 +154,18 @@ struct BareTable {
     {
         tool.PhotFiles.reset(1);
         giveAngles(tool.PhotFiles(1));
-        table.lsbStart();
+        table.newTable().content->swap();
     }
 
     ToolState tool;
-    CandelaState flags;
-    CandelaTable table{tool, flags, ""};
+    CandelaTable table{tool, ""};
 };
 
 void pastedIntoTheTable(benchmark::State &state)
 {
     BareTable bare;
     for (auto _ : state)
-        benchmark::DoNotOptimize(bare.table.PasteCandelaTable(pastedText()).has_value());
+        bare.table.PasteCandelaTable(pastedText()).content->swap();
 }
 BENCHMARK(pastedIntoTheTable)->Unit(benchmark::kMillisecond);
 
@@ -213,7 +212,7 @@ BENCHMARK(scrolledByAPage)->Unit(benchmark::kMicrosecond);
 void copied(benchmark::State &state)
 {
     BareTable bare;
-    bare.table.PasteCandelaTable(pastedText());
+    bare.table.PasteCandelaTable(pastedText()).content->swap();
     for (auto _ : state)
         benchmark::DoNotOptimize(bare.table.CopyCandelaTable().size());
 }

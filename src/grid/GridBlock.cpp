@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "grid/GridSource.h"
+
 namespace penwright {
 namespace {
 
@@ -62,6 +64,33 @@ GridLines splitGridBlock(std::string_view text)
     for (const std::string &line : splitAt(plain, '\n'))
         lines.push_back(splitAt(line, '\t'));
     return trimmed(std::move(lines));
+}
+
+std::size_t widestLine(const GridLines &lines)
+{
+    std::size_t widest = 0;
+    for (const auto &line : lines)
+        widest = std::max(widest, line.size());
+    return widest;
+}
+
+std::optional<std::string> blockText(const GridSource &source, const GridBlock &block)
+{
+    const int first = std::max(1, block.firstRow);
+    const int last = std::min(block.lastRow, source.rowCount());
+    if (first > last)
+        return std::nullopt;
+    std::string text;
+    for (int row = first; row <= last; ++row) {
+        if (row > first)
+            text += '\n';
+        for (int column = block.firstColumn; column <= block.lastColumn; ++column) {
+            if (column > block.firstColumn)
+                text += '\t';
+            text += source.read(row, column);
+        }
+    }
+    return text;
 }
 
 }  // namespace penwright

@@ -1,10 +1,21 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace penwright {
+
+class GridSource;
+
+/// A block of cells, rows from 1 and columns from 0, both ends included; row 0 where there is none.
+struct GridBlock {
+    int firstRow = 0;
+    int firstColumn = 0;
+    int lastRow = 0;
+    int lastColumn = 0;
+};
 
 /// The texts of a block of cells, line by line; lines may differ in length.
 using GridLines = std::vector<std::vector<std::string>>;
@@ -15,5 +26,11 @@ bool isGridBlock(std::string_view text);
 /// The cells of tab-delimited lines. Lines end with "\r\n" or "\n", and a last line end adds no line.
 /// Empty lines and columns behind the last text are left out; a block of empty cells alone is taken as it is.
 GridLines splitGridBlock(std::string_view text);
+
+/// The number of texts in the longest line.
+std::size_t widestLine(const GridLines &lines);
+
+/// The texts of a block, a line for each row that the source has, tabs between them; nothing without such a row.
+std::optional<std::string> blockText(const GridSource &source, const GridBlock &block);
 
 }  // namespace penwright

@@ -20,7 +20,7 @@ constexpr int kArrowWidth = 20;
 
 std::vector<GridChoice> choicesOf(const QModelIndex &index)
 {
-    return static_cast<const GridModel *>(index.model())->choices(index.row() + 1, index.column());
+    return static_cast<const GridModel *>(index.model())->choices(index);
 }
 
 void paintArrow(QPainter &painter, const QStyleOptionViewItem &cell)
@@ -81,7 +81,7 @@ QWidget *GridDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     editorLine(editor)->setMaxLength(std::numeric_limits<int>::max());
     editorLine(editor)->setValidator(new OneLine(editor));
     editorLine(editor)->setAlignment(m_alignment | Qt::AlignVCenter);
-    const QString name = static_cast<const GridModel *>(index.model())->cellName(index.row() + 1, index.column());
+    const QString name = static_cast<const GridModel *>(index.model())->cellName(index);
     editor->setAccessibleName(name);
     editorLine(editor)->setAccessibleName(name);
     if (editor != editorLine(editor))

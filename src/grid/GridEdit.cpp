@@ -1,125 +1,125 @@
-// How a cell's editor opens, commits and closes.
-#include <QApplication>
-#include <QComboBox>
-#include <QFocusEvent>
-#include <QLineEdit>
+#include "grid/GridEdit.h"
 
-#include "grid/GridDelegate.h"
-#include "grid/GridModel.h"
-#include "grid/GridRefusal.h"
-#include "grid/GridView.h"
+#include <algorithm>
+#include <utility>
+
+#include "grid/GridSource.h"
 
 namespace penwright {
 namespace {
 
-/// Whether a widget is part of an editor; its list and its menu are windows of their own.
-bool belongsTo(const QWidget *widget, const QWidget *editor)
+std::string counted(std::size_t number, const std::string &thing)
 {
-    while (widget && widget != editor)
-        widget = widget->parentWidget();
-    return widget != nullptr;
+    return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
+}
+
+/// Why a block of rows and columns finds no room from its first cell on; nothing when it does.
+std::optional<std::string> lackOfRoom(const GridSource &source, const GridBlock &block, std::size_t rows,
+                                      std::size_t columns)
+{
+    const auto rowsLeft = static_cast<std::size_t>(source.rowCount() - block.firstRow + 1);
+    const auto columnsLeft = static_cast<std::size_t>(source.columnCount() - block.firstColumn);
+    if (columns <= columnsLeft && (source.canAppend() || rows <= rowsLeft))
+        return std::nullopt;
+    std::string size = counted(columns, "column");
+    std::string room = counted(columnsLeft, "column");
+    if (!source.canAppend()) {
+        size = counted(rows, "row") + " and " + size;
+        room = counted(rowsLeft, "row") + " and " + room;
+    }
+    return "The copied block has " + size + ". From here on there is room for " + room + ".";
+}
+
+/// Why a text cannot go into a column that is never edited; any but the cell's own is refused.
+std::optional<MessageBox> refusalOfReadOnly(const GridSource &source, int row, int column, const std::string &title)
+{
+    if (!source.isReadOnly(column))
+        return std::nullopt;
+    return MessageBox{.text = "Row " + std::to_string(row) + ": the column \"" + source.columnCaption(column) +
+                              "\" cannot be changed.",
+                      .title = title};
+}
+
+std::string shownText(const GridSource &source, int row, int column)
+{
+    return row <= source.rowCount() ? source.read(row, column) : std::string();
+}
+
+GridEdit refusedPaste(const GridBlock &block, MessageBox box)
+{
+    return {.name = "Paste", .block = block, .refused = RefusedEdit{block.firstRow, block.firstColumn, std::move(box)}};
 }
 
 }  // namespace
 
-bool GridView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+GridEdit typedEdit(const GridSource &source, int row, int column, std::string_view text)
 {
-    const bool isDone = QTableView::edit(index, trigger, event);
-    QWidget *editor = state() == EditingState ? indexWidget(index) : nullptr;
-    if (editor && editor != m_editor)
-        begin(editor, trigger);
-    return isDone;
+    GridEdit edit{.name = "Typing", .block = {row, column, row, column}};
+    if (row <= source.rowCount() || !source.kept(text).empty()) {
+        edit.texts.push_back({row, column, std::string(text)});
+        edit.rows = row;
+    }
+    return edit;
 }
 
-void GridView::begin(QWidget *editor, EditTrigger trigger)
+GridEdit clearingEdit(const GridSource &source, const GridBlock &block)
 {
-    m_editor = editor;
-    m_leftBy = Qt::OtherFocusReason;
-    editor->installEventFilter(this);
-    if (trigger == EditKeyPressed || trigger == DoubleClicked)
-        editorLine(editor)->end(false);  // to edit the text, not to replace it
-    if (auto *box = qobject_cast<QComboBox *>(editor))
-        connect(box, &QComboBox::activated, this, &GridView::commitEdit);
+    GridEdit edit{.name = "Clear", .block = block, .isWhole = false};
+    for (int row = std::max(1, block.firstRow); row <= std::min(block.lastRow, source.rowCount()); ++row)
+        for (int column = block.firstColumn; column <= block.lastColumn; ++column) {
+            std::string text = source.emptied(row, column);
+            if (!source.isReadOnly(column) && text != source.read(row, column))
+                edit.texts.push_back({row, column, std::move(text)});
+        }
+    return edit;
 }
 
-bool GridView::eventFilter(QObject *watched, QEvent *event)
+GridEdit pastedEdit(const GridSource &source, const GridBlock &block, std::string_view text, const std::string &title)
 {
-    if (watched == m_editor) {
-        if (event->type() == QEvent::KeyPress && editorKey(*static_cast<QKeyEvent *>(event)))
+    GridLines lines = splitGridBlock(text);
+    GridEdit edit{.name = "Paste", .block = block};
+    if (lines.empty() || block.firstRow < 1)
+        return edit;
+    if (const auto lack = lackOfRoom(source, block, lines.size(), widestLine(lines)))
+        return refusedPaste(block, {.text = *lack, .title = title});
+    edit.rows = block.firstRow + static_cast<int>(lines.size()) - 1;
+    for (int row = block.firstRow; auto &line : lines) {
+        for (int column = block.firstColumn; std::string & cell : line) {
+            if (cell != shownText(source, row, column)) {
+                if (auto box = refusalOfReadOnly(source, row, column, title))
+                    return refusedPaste(block, *std::move(box));
+                edit.texts.push_back({row, column, std::move(cell)});
+            }
+            ++column;
+        }
+        ++row;
+    }
+    return edit;
+}
+
+std::optional<RefusedEdit> prepareEdit(GridEdit &edit, GridSource &source)
+{
+    if (edit.content || edit.refused)
+        return std::move(edit.refused);
+    std::optional<RefusedEdit> refused;
+    const auto isRefused = [&](const GridText &cell) {
+        if (refused && edit.isWhole)
             return true;
-        if (event->type() == QEvent::FocusOut)
-            m_leftBy = static_cast<QFocusEvent *>(event)->reason();
+        auto box = source.check(cell.row, cell.column, cell.text);
+        if (box && !refused)
+            refused = {cell.row, cell.column, *std::move(box)};
+        return box.has_value();
+    };
+    std::erase_if(edit.texts, isRefused);
+    if (refused && edit.isWhole) {
+        // Nothing was taken: the corrected texts are to go where these should have gone.
+        refused->row = edit.block.firstRow;
+        refused->column = edit.block.firstColumn;
+        return refused;
     }
-    return QTableView::eventFilter(watched, event);
-}
-
-void GridView::endAfterFocusChange(const QWidget *now)
-{
-    // Another window may be looked into while a cell is edited.
-    if (!m_editor || !now || now->window() != window() || belongsTo(now, m_editor))
-        return;
-    if (m_editor->isVisible())
-        commitEdit();
-    else
-        dropEdit();
-}
-
-bool GridView::commitEdit()
-{
-    if (const QPointer<QWidget> editor = m_editor) {
-        commitData(editor);
-        if (editor && editor == m_editor)
-            closeEditor(editor, QAbstractItemDelegate::NoHint);
-    }
-    return !m_refusal->isPending();
-}
-
-void GridView::commitEditIfValid()
-{
-    commitEdit();
-    m_refusal->forget();
-}
-
-void GridView::dropEdit()
-{
-    if (m_editor)
-        closeEditor(m_editor, QAbstractItemDelegate::RevertModelCache);
-}
-
-void GridView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
-{
-    // In a window that is not active, or while its list is open, the editor holds the focus without having it.
-    const bool held = editor && window()->focusWidget() == editor;
-    m_editor.clear();  // before the focus moves, which would commit
-    QTableView::closeEditor(editor, hint);
-    if (held)
-        setFocus(Qt::OtherFocusReason);
-}
-
-void GridView::tellRefusal(int row, int column, const MessageBox &box)
-{
-    // A press on a header commits too, though it moves no focus.
-    const bool isPressed = m_leftBy == Qt::MouseFocusReason || QApplication::mouseButtons() != Qt::NoButton;
-    m_refusal->tell(row, column, box, isPressed);
-    m_leftBy = Qt::OtherFocusReason;
-}
-
-bool GridView::openList()
-{
-    const QModelIndex cell = currentIndex();
-    if (!cell.isValid() || m_model->choices(cell.row() + 1, cell.column()).empty())
-        return false;
-    QTableView::edit(cell);
-    if (auto *box = qobject_cast<QComboBox *>(m_editor))
-        box->showPopup();
-    return true;
-}
-
-bool GridView::isOnArrow(const QPoint &place) const
-{
-    const QModelIndex cell = currentIndex();
-    return cell.isValid() && GridDelegate::arrowRect(visualRect(cell)).contains(place) &&
-           !m_model->choices(cell.row() + 1, cell.column()).empty();
+    if (!edit.texts.empty() || edit.rows > source.rowCount())
+        edit.content = source.contentAfter(edit);
+    return refused;
 }
 
 }  // namespace penwright

@@ -1,150 +1,99 @@
 #include "grid/GridModel.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace penwright {
 namespace {
 
-/// Runs `act` for each cell of a block until it answers false.
-template <typename Act>
-bool forEachCell(const GridLines &lines, int firstRow, int firstColumn, const Act &act)
-{
-    for (int row = firstRow; const auto &line : lines) {
-        for (int column = firstColumn; const std::string &text : line)
-            if (!act(row, column++, text))
-                return false;
-        ++row;
-    }
-    return true;
-}
+/// What a grid shows that serves nothing yet.
+class NoCells : public GridSource {
+public:
+    int rowCount() const override { return 0; }
+    int columnCount() const override { return 0; }
+    std::string columnCaption(int) const override { return {}; }
+    std::string read(int, int) const override { return {}; }
+    std::unique_ptr<GridContent> contentAfter(const GridEdit &) override { return nullptr; }
+};
 
 }  // namespace
 
-void GridModel::setSource(GridSource &source)
-{
-    m_source = &source;
-    m_life = source.life();
-    refresh();
-}
+GridModel::GridModel(QObject *parent) : QAbstractTableModel(parent), m_source(std::make_shared<NoCells>()) {}
 
-void GridModel::refresh()
+void GridModel::setSource(std::shared_ptr<GridSource> source)
 {
     beginResetModel();
+    m_source = std::move(source);
     m_rows = shownRows();
-    m_columns = source() ? source()->columnCount() : 0;
+    m_columns = m_source->columnCount();
     endResetModel();
+}
+
+bool GridModel::apply(GridEdit edit)
+{
+    const auto refusal = prepareEdit(edit, *m_source);
+    if (edit.content)
+        write(edit);
+    if (refusal)
+        emit refused(*refusal);
+    return !refusal;
+}
+
+void GridModel::write(const GridEdit &edit)
+{
+    if (edit.reach == GridReach::Table)
+        return writeTable(*edit.content);
+    edit.content->swap();
+    if (edit.reach == GridReach::Cells)
+        return tellCells(edit.texts);
+    emit dataChanged(index(0, 0), index(m_rows - 1, m_columns - 1));
+    emit valuesReplaced();
+}
+
+void GridModel::writeTable(GridContent &content)
+{
+    beginResetModel();
+    content.swap();
+    m_rows = shownRows();
+    m_columns = m_source->columnCount();
+    endResetModel();
+}
+
+// One signal for all of them to the toolkit: a block may have a million cells.
+void GridModel::tellCells(const std::vector<GridText> &cells)
+{
+    showNewRows();
+    if (cells.empty())
+        return;
+    emit dataChanged(index(cells.front().row - 1, 0), index(cells.back().row - 1, m_columns - 1));
+    for (const GridText &cell : cells)
+        emit cellWritten(cell.row, cell.column);
+}
+
+void GridModel::showNewRows()
+{
+    const int rows = shownRows();
+    if (rows == m_rows)
+        return;
+    beginInsertRows({}, m_rows, rows - 1);
+    m_rows = rows;
+    endInsertRows();
+    emit headerDataChanged(Qt::Vertical, 0, m_rows - 1);
 }
 
 std::string GridModel::read(int row, int column) const
 {
-    const bool isThere = row >= 1 && row <= sourceRows() && column >= 0 && column < m_source->columnCount();
+    const bool isThere = row >= 1 && row <= m_source->rowCount() && column >= 0 && column < m_source->columnCount();
     return isThere ? m_source->read(row, column) : std::string();
 }
 
-std::optional<MessageBox> GridModel::take(int row, int column, std::string_view text)
+std::vector<GridChoice> GridModel::choices(const QModelIndex &cell) const
 {
-    if (!source() || (row > sourceRows() && m_source->kept(text).empty()))
-        return std::nullopt;
-    if (auto refusal = m_source->check(row, column, text))
-        return refusal;
-    appendUpTo(row);
-    if (auto refusal = m_source->write(row, column, text))
-        return refusal;
-    noteChanges({{row, column}});
-    return std::nullopt;
+    return cell.isValid() ? m_source->choices(cell.row() + 1, cell.column()) : std::vector<GridChoice>();
 }
 
-std::optional<GridModel::Refusal> GridModel::takeBlock(int row, int column, const GridLines &lines,
-                                                       const std::string &title)
+QString GridModel::cellName(const QModelIndex &cell) const
 {
-    if (!source())
-        return std::nullopt;
-    std::optional<Refusal> refusal;
-    const auto note = [&](int r, int c, std::optional<MessageBox> box) {
-        if (box)
-            refusal = {r, c, *std::move(box)};
-        return !refusal;
-    };
-    if (!forEachCell(lines, row, column,
-                     [&](int r, int c, const std::string &text) { return note(r, c, checkPasted(r, c, text, title)); }))
-        return refusal;
-    appendUpTo(row + static_cast<int>(lines.size()) - 1);
-    std::vector<std::pair<int, int>> changed;
-    forEachCell(lines, row, column, [&](int r, int c, const std::string &text) {
-        if (text == read(r, c))
-            return true;
-        const bool isTaken = note(r, c, m_source->write(r, c, text));
-        if (isTaken)
-            changed.emplace_back(r, c);
-        return isTaken;
-    });
-    noteChanges(changed);
-    return refusal;
-}
-
-std::optional<MessageBox> GridModel::checkPasted(int row, int column, std::string_view text,
-                                                 const std::string &title) const
-{
-    if (text == read(row, column))
-        return std::nullopt;
-    if (!isReadOnly(column))
-        return m_source->check(row, column, text);
-    return MessageBox{.text = "Row " + std::to_string(row) + ": the column \"" + m_source->columnCaption(column) +
-                              "\" cannot be changed.",
-                      .title = title};
-}
-
-std::optional<GridModel::Refusal> GridModel::clearBlock(int firstRow, int firstColumn, int lastRow, int lastColumn)
-{
-    std::optional<Refusal> refusal;
-    std::vector<std::pair<int, int>> changed;
-    for (int row = std::max(1, firstRow); row <= std::min(lastRow, sourceRows()); ++row)
-        for (int column = firstColumn; column <= lastColumn; ++column) {
-            if (isReadOnly(column))
-                continue;
-            const std::string before = read(row, column);
-            const auto box = m_source->clear(row, column);
-            if (!box && read(row, column) != before)
-                changed.emplace_back(row, column);
-            else if (box && !refusal)
-                refusal = {row, column, *box};
-        }
-    noteChanges(changed);
-    return refusal;
-}
-
-void GridModel::appendUpTo(int row)
-{
-    while (sourceRows() < row && m_source->canAppend())
-        m_source->append();
-    const int rows = shownRows();
-    if (rows > m_rows) {
-        beginInsertRows({}, m_rows, rows - 1);
-        m_rows = rows;
-        endInsertRows();
-    }
-    emit headerDataChanged(Qt::Vertical, 0, m_rows - 1);
-}
-
-// One signal for all of them to the toolkit: a block may have a million cells.
-void GridModel::noteChanges(const std::vector<std::pair<int, int>> &cells)
-{
-    if (cells.empty())
-        return;
-    emit dataChanged(index(cells.front().first - 1, 0), index(cells.back().first - 1, m_columns - 1));
-    for (const auto &[row, column] : cells)
-        emit taken(row, column);
-}
-
-std::vector<GridChoice> GridModel::choices(int row, int column) const
-{
-    return source() ? source()->choices(row, column) : std::vector<GridChoice>();
-}
-
-QString GridModel::cellName(int row, int column) const
-{
-    return source() ? QString::fromStdString(source()->rowName(row) + ", " + source()->columnName(column)) : QString();
+    return QString::fromStdString(m_source->rowName(cell.row() + 1) + ", " + m_source->columnName(cell.column()));
 }
 
 int GridModel::rowCount(const QModelIndex &parent) const
@@ -168,23 +117,19 @@ QVariant GridModel::data(const QModelIndex &index, int role) const
 
 bool GridModel::setData(const QModelIndex &index, const QVariant &value, int)
 {
-    const int row = index.row() + 1;
-    const auto refusal = take(row, index.column(), value.toString().toStdString());
-    if (refusal)
-        emit refused(row, index.column(), *refusal);
-    return !refusal;
+    return apply(typedEdit(*m_source, index.row() + 1, index.column(), value.toString().toStdString()));
 }
 
 QVariant GridModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
-    if (!source() || (role != Qt::DisplayRole && role != Qt::AccessibleTextRole))
-        return {};
     if (role == Qt::AccessibleTextRole)
         return QString::fromStdString(orientation == Qt::Horizontal ? m_source->columnName(section)
                                                                     : m_source->rowName(section + 1));
+    if (role != Qt::DisplayRole)
+        return {};
     if (orientation == Qt::Horizontal)
         return QString::fromStdString(m_source->columnCaption(section));
-    return section < sourceRows() ? QString::number(section + 1) : QStringLiteral("*");
+    return section < m_source->rowCount() ? QString::number(section + 1) : QStringLiteral("*");
 }
 
 Qt::ItemFlags GridModel::flags(const QModelIndex &index) const

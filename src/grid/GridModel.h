@@ -3,58 +3,35 @@
 #include <QAbstractTableModel>
 
 #include <memory>
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
-#include "grid/GridBlock.h"
 #include "grid/GridSource.h"
 
 namespace penwright {
 
-/// Serves a GridSource to the toolkit. Rows are counted from 1 in what is said here, from 0 in the toolkit's indexes.
-/// A source that has ended counts as one without rows. Where rows can be appended, one empty row with the header "*"
-/// stands behind the last one.
+/// Serves a GridSource to the toolkit, and changes it: every change of a grid goes through `apply`. Rows are counted
+/// from 1 in what is said here, from 0 in the toolkit's indexes. Where rows can be appended, one empty row with the
+/// header "*" stands behind the last one.
 class GridModel : public QAbstractTableModel {
     Q_OBJECT
 
 public:
-    using QAbstractTableModel::QAbstractTableModel;
+    explicit GridModel(QObject *parent = nullptr);
 
-    void setSource(GridSource &source);
+    /// Serves `source`, which lives as long as it is served.
+    void setSource(std::shared_ptr<GridSource> source);
 
-    /// Reads row count, captions and cells anew.
-    void refresh();
+    GridSource &source() const { return *m_source; }
 
-    /// The text of a cell; "" in the row to append.
-    std::string read(int row, int column) const;
+    /// The one way to change the source: checks, writes, tells. False when the edit, or a part of it, was refused.
+    bool apply(GridEdit edit);
 
-    /// Takes a text for a cell and appends the rows up to it; nothing, in the row to append, where none would be kept.
-    std::optional<MessageBox> take(int row, int column, std::string_view text);
-
-    /// A refused text and the cell that it was meant for.
-    struct Refusal {
-        int row;
-        int column;
-        MessageBox box;
-    };
-
-    /// Empties the cells of a block that can be edited, both ends included; the first refusal.
-    std::optional<Refusal> clearBlock(int firstRow, int firstColumn, int lastRow, int lastColumn);
-
-    /// Takes a block of texts from a cell on, lines of any length: all of it or, where a text is refused, nothing.
-    /// A read-only cell refuses any text but its own, under `title`.
-    std::optional<Refusal> takeBlock(int row, int column, const GridLines &lines, const std::string &title);
-
-    /// The rows that the source has, without the one to append.
-    int sourceRows() const { return source() ? source()->rowCount() : 0; }
-    bool canAppend() const { return source() && source()->canAppend(); }
-    bool isReadOnly(int column) const { return source() && source()->isReadOnly(column); }
-    std::vector<GridChoice> choices(int row, int column) const;
+    bool isReadOnly(int column) const { return m_source->isReadOnly(column); }
+    std::vector<GridChoice> choices(const QModelIndex &cell) const;
 
     /// The name of a cell, of its row and its column: "Row 2, Factor".
-    QString cellName(int row, int column) const;
+    QString cellName(const QModelIndex &cell) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
     int columnCount(const QModelIndex &parent = {}) const override;
@@ -64,22 +41,24 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 signals:
-    void taken(int row, int column);
+    /// A new text has been written into a cell.
+    void cellWritten(int row, int column);
 
-    /// A text that an editor handed over was refused.
-    void refused(int row, int column, const penwright::MessageBox &box);
+    /// Every value may have changed, in the rows and columns that there were.
+    void valuesReplaced();
+
+    void refused(const penwright::RefusedEdit &refused);
 
 private:
-    int shownRows() const { return sourceRows() + (canAppend() ? 1 : 0); }
-    void appendUpTo(int row);
-    std::optional<MessageBox> checkPasted(int row, int column, std::string_view text, const std::string &title) const;
-    void noteChanges(const std::vector<std::pair<int, int>> &cells);
+    int shownRows() const { return m_source->rowCount() + (m_source->canAppend() ? 1 : 0); }
+    std::string read(int row, int column) const;
+    void write(const GridEdit &edit);
+    void writeTable(GridContent &content);
+    void tellCells(const std::vector<GridText> &cells);
+    void showNewRows();
 
-    GridSource *source() const { return m_life.expired() ? nullptr : m_source; }
-
-    GridSource *m_source = nullptr;
-    std::weak_ptr<const void> m_life;
-    int m_rows = 0;  ///< as the toolkit knows them: the source may grow before it is told
+    std::shared_ptr<GridSource> m_source;
+    int m_rows = 0;  ///< as the toolkit knows them: the source grows before it is told
     int m_columns = 0;
 };
 

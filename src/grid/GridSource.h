@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "grid/GridBlock.h"
+#include "grid/GridEdit.h"
 #include "platform/Dialogs.h"
 
 namespace penwright {
@@ -25,16 +27,11 @@ struct RelativeRow {
 };
 
 /// What stands behind a grid: the grid holds no data and asks here for every cell. Rows are counted from 1, columns
-/// from 0, as the grids' columns are numbered. Nothing here raises an error: what cannot be taken is refused.
+/// from 0, as the grids' columns are numbered. A source changes nothing itself: it makes edits, which are applied by
+/// the one routine of the grid's model.
 class GridSource {
 public:
-    GridSource() = default;
-    GridSource(const GridSource &) {}
-    GridSource &operator=(const GridSource &) { return *this; }
     virtual ~GridSource() = default;
-
-    /// Expires with the source: a page's grid lives on for a moment when the page's own members have ended.
-    std::weak_ptr<const void> life() const { return m_life; }
 
     virtual int rowCount() const = 0;
     virtual int columnCount() const = 0;
@@ -47,39 +44,35 @@ public:
     /// The text that a cell shows.
     virtual std::string read(int row, int column) const = 0;
 
-    /// Why a text cannot be taken for a cell, nothing when it can. The row may lie behind the last one where rows can
-    /// be appended. A source that refuses any text says so here already: a block is pasted whole or not at all.
-    virtual std::optional<MessageBox> check(int row, int column, std::string_view text) const
-    {
-        return static_cast<void>(row), static_cast<void>(column), static_cast<void>(text), std::nullopt;
-    }
+    /// Why a text cannot be taken for the cell of a row and a column, nothing when it can. The row may lie behind the
+    /// last one where rows can be appended.
+    virtual std::optional<MessageBox> check(int, int, std::string_view) const { return std::nullopt; }
 
     /// What of a text would be kept, for a source that keeps less than all; nothing of it appends no row.
     virtual std::string_view kept(std::string_view text) const { return text; }
 
-    /// Takes a text typed or pasted for a cell. A refused one leaves everything as it is; the message tells why.
-    virtual std::optional<MessageBox> write(int row, int column, std::string_view text) = 0;
+    /// The text that Delete puts into the cell of a row and a column.
+    virtual std::string emptied(int, int) const { return {}; }
 
-    /// Empties a cell, as Delete does.
-    virtual std::optional<MessageBox> clear(int row, int column) { return write(row, column, {}); }
+    /// What stands once the checked texts of an edit are written and its rows are there. Changes nothing yet.
+    virtual std::unique_ptr<GridContent> contentAfter(const GridEdit &edit) = 0;
+
+    /// The change that a pasted text is, `block` being what is selected; what goes where is for the source to say.
+    /// Messages that name no title of their own have `title`. Changes nothing yet.
+    virtual GridEdit paste(const GridBlock &block, std::string_view text, const std::string &title);
+
+    /// What copying a block puts on the clipboard; nothing when the clipboard stays as it is.
+    virtual std::optional<std::string> copy(const GridBlock &block) const;
 
     /// Whether the grid shows one empty row more, which becomes a row when a text is committed in it.
     virtual bool canAppend() const { return false; }
 
-    /// Adds an empty row behind the last one and keeps those before it.
-    virtual void append() {}
-
     /// Whether the cells of a column are shown but never edited.
-    virtual bool isReadOnly(int column) const { return static_cast<void>(column), false; }
+    virtual bool isReadOnly(int) const { return false; }
 
-    /// The entries of the drop-down list of a cell, whose free text stays possible; none for a plain text cell.
-    virtual std::vector<GridChoice> choices(int row, int column) const
-    {
-        return static_cast<void>(row), static_cast<void>(column), std::vector<GridChoice>();
-    }
-
-private:
-    std::shared_ptr<const void> m_life = std::make_shared<char>();  ///< of this one alone, never copied
+    /// The entries of the drop-down list of a row's and a column's cell, whose free text stays possible; none for a
+    /// plain text cell.
+    virtual std::vector<GridChoice> choices(int, int) const { return {}; }
 };
 
 }  // namespace penwright

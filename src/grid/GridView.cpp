@@ -1,42 +1,30 @@
 #include "grid/GridView.h"
 
 #include <algorithm>
-#include <cmath>
 #include <QApplication>
 #include <QFocusEvent>
 #include <QHeaderView>
-#include <QProxyStyle>
+#include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <utility>
 
 #include "controls/InView.h"
-#include "controls/MixedColour.h"
 #include "controls/ScreenReader.h"
+#include "grid/GridCellEditor.h"
 #include "grid/GridDelegate.h"
+#include "grid/GridKeys.h"
+#include "grid/GridLinesStyle.h"
 #include "grid/GridModel.h"
 #include "grid/GridRefusal.h"
 
 namespace penwright {
-namespace {
-
-/// Draws the lines between cells as visibly on dark as on light; the desktop's own colour may be that of the cells.
-class GridLinesStyle : public QProxyStyle {
-public:
-    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
-                  QStyleHintReturn *returned) const override
-    {
-        if (hint != SH_Table_GridLineColor || !widget)
-            return QProxyStyle::styleHint(hint, option, widget, returned);
-        return static_cast<int>(lineColour(widget->palette()).rgba());
-    }
-};
-
-}  // namespace
 
 GridView::GridView(QWidget *parent)
     : QTableView(parent),
       m_model(new GridModel(this)),
       m_delegate(new GridDelegate(this)),
-      m_refusal(new GridRefusal(this))
+      m_refusal(new GridRefusal(this)),
+      m_editor(std::make_unique<GridCellEditor>(*this, *m_delegate, *m_refusal))
 {
     auto *lines = new GridLinesStyle;
     lines->setParent(this);
@@ -53,21 +41,28 @@ GridView::GridView(QWidget *parent)
     verticalHeader()->setHighlightSections(false);
     verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     setHeaderSizes();
-    connect(m_model, &GridModel::taken, this, &GridView::cellTaken);
+    connect(m_model, &GridModel::cellWritten, this, &GridView::cellWritten);
+    connect(m_model, &GridModel::valuesReplaced, this, &GridView::valuesReplaced);
     connect(m_model, &GridModel::refused, this, &GridView::tellRefusal);
+    connect(m_model, &GridModel::modelAboutToBeReset, this, [this] {
+        dropEdit();
+        m_before = currentCell();
+    });
+    connect(m_model, &GridModel::modelReset, this, &GridView::showRebuilt);
     connect(m_refusal, &GridRefusal::told, this, &GridView::goTo);
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { endAfterFocusChange(now); });
 }
 
-GridView::~GridView()
-{
-    disconnect(qApp, nullptr, this, nullptr);  // the focus leaves it once more while it ends
-}
+GridView::~GridView() = default;
 
-void GridView::setSource(GridSource &source, Dialogs &dialogs)
+void GridView::setSource(std::shared_ptr<GridSource> source, Dialogs &dialogs)
 {
     m_refusal->setDialogs(dialogs);
-    m_model->setSource(source);
+    m_model->setSource(std::move(source));
+}
+
+GridSource &GridView::source() const
+{
+    return m_model->source();
 }
 
 void GridView::setTextAlignment(Qt::Alignment alignment)
@@ -75,14 +70,24 @@ void GridView::setTextAlignment(Qt::Alignment alignment)
     m_delegate->setTextAlignment(alignment);
 }
 
-void GridView::refresh()
+bool GridView::apply(GridEdit edit)
 {
-    dropEdit();
-    const int row = currentRow();
-    const int column = currentColumn();
-    m_model->refresh();
-    moveTo(m_model->index(row - 1, column));
+    return m_model->apply(std::move(edit));
+}
+
+void GridView::showRebuilt()
+{
+    moveTo(m_before);
     announceCurrent();
+    emit rebuilt();
+}
+
+void GridView::tellRefusal(const RefusedEdit &refused)
+{
+    // A press on a header commits too, though it moves no focus.
+    const bool isPressed = m_editor->wasLeftByMouse() || QApplication::mouseButtons() != Qt::NoButton;
+    const GridCell cell = refused.row > 0 ? GridCell{refused.row, refused.column} : currentCell();
+    m_refusal->tell(cell.row, cell.column, refused.box, isPressed);
 }
 
 void GridView::goTo(int row, int column)
@@ -90,7 +95,7 @@ void GridView::goTo(int row, int column)
     const QModelIndex cell = m_model->index(row - 1, column);
     if (!cell.isValid())
         return;
-    moveTo(cell);
+    moveTo({row, column});
     scrollTo(cell);
     setFocus(Qt::OtherFocusReason);
     bringIntoView(*this);
@@ -106,12 +111,13 @@ int GridView::currentColumn() const
     return std::max(0, currentIndex().column());
 }
 
-void GridView::moveTo(const QModelIndex &cell)
+void GridView::moveTo(const GridCell &cell)
 {
-    if (!cell.isValid())
+    const QModelIndex index = m_model->index(cell.row - 1, cell.column);
+    if (!index.isValid())
         return;
     const QScopedValueRollback<bool> own(m_movesItself, true);
-    setCurrentIndex(cell);
+    setCurrentIndex(index);
 }
 
 QItemSelectionModel::SelectionFlags GridView::selectionCommand(const QModelIndex &index, const QEvent *event) const
@@ -129,17 +135,133 @@ void GridView::currentChanged(const QModelIndex &current, const QModelIndex &pre
 
 void GridView::announceCurrent()
 {
-    const QPoint now(currentColumn(), currentRow());
+    const GridCell now = currentCell();
     if (now == m_announced)
         return;
     m_announced = now;
-    emit currentCellChanged(now.y(), now.x());
+    emit currentCellChanged(now.row, now.column);
+}
+
+bool GridView::isEditing() const
+{
+    return m_editor->isOpen();
+}
+
+bool GridView::commitEdit()
+{
+    return m_editor->commit();
+}
+
+void GridView::commitEditIfValid()
+{
+    m_editor->commitIfValid();
+}
+
+void GridView::dropEdit()
+{
+    m_editor->drop();
+}
+
+bool GridView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
+{
+    const bool isDone = QTableView::edit(index, trigger, event);
+    QWidget *editor = state() == EditingState ? indexWidget(index) : nullptr;
+    if (editor && !m_editor->is(editor)) {
+        m_editor->begin(editor, trigger);
+        editor->installEventFilter(this);
+    }
+    return isDone;
+}
+
+void GridView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)
+{
+    // In a window that is not active, or while its list is open, the editor holds the focus without having it.
+    const bool held = editor && window()->focusWidget() == editor;
+    m_editor->forget();  // before the focus moves, which would commit
+    QTableView::closeEditor(editor, hint);
+    if (held)
+        setFocus(Qt::OtherFocusReason);
+}
+
+bool GridView::eventFilter(QObject *watched, QEvent *event)
+{
+    if (m_editor->is(watched) && event->type() == QEvent::KeyPress && editorKey(*static_cast<QKeyEvent *>(event)))
+        return true;
+    return QTableView::eventFilter(watched, event);
+}
+
+void GridView::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        event->ignore();  // the window asks the cancel question
+    else if (gridKey(*event))
+        event->accept();
+    else
+        QTableView::keyPressEvent(event);
+}
+
+bool GridView::gridKey(const QKeyEvent &event)
+{
+    if (event.matches(QKeySequence::Copy))
+        m_block.copy();
+    else if (event.matches(QKeySequence::Paste))
+        m_block.paste();
+    else if (event.key() == Qt::Key_Delete && !(event.modifiers() & ~Qt::KeypadModifier))
+        m_block.clear();
+    else if (isEnter(event))
+        walk(GridKey::Enter, isForward(event));
+    else if (isTab(event))  // with Ctrl held: without it the key comes as a change of focus
+        walkOrLeave(GridKey::CtrlTab, isForward(event));
+    else
+        return opensList(event) && openList();
+    return true;
+}
+
+bool GridView::editorKey(QKeyEvent &event)
+{
+    if (event.key() == Qt::Key_Escape) {
+        dropEdit();
+    } else if (isEnter(event)) {
+        if (commitEdit())
+            walk(GridKey::Enter, isForward(event));
+    } else if (isTab(event)) {
+        if (commitEdit())
+            walkOrLeave(event.modifiers() & Qt::ControlModifier ? GridKey::CtrlTab : GridKey::Tab, isForward(event));
+    } else if (movesRows(event)) {
+        if (commitEdit())
+            QTableView::keyPressEvent(&event);
+    } else if (event.matches(QKeySequence::Paste)) {
+        m_block.paste();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+bool GridView::walk(GridKey key, bool forward)
+{
+    const auto cell = nextCell(source(), currentCell(), key, forward, m_tabWay);
+    if (cell)
+        moveTo(*cell);
+    return cell.has_value();
+}
+
+void GridView::walkOrLeave(GridKey key, bool forward)
+{
+    if (!walk(key, forward))
+        QTableView::focusNextPrevChild(forward);
+}
+
+bool GridView::focusNextPrevChild(bool next)
+{
+    const bool isHere = hasFocus() && isEnabled() && isVisible();
+    return (isHere && walk(GridKey::Tab, next)) || QTableView::focusNextPrevChild(next);
 }
 
 void GridView::focusInEvent(QFocusEvent *event)
 {
     if (!currentIndex().isValid() && event->reason() != Qt::MouseFocusReason)
-        moveTo(alongRow(true));
+        moveTo(nextCell(source(), {}, GridKey::Tab, true, TabWay::AlongRow).value_or(GridCell()));
     QTableView::focusInEvent(event);
     tellCurrentItem(*this);
 }
@@ -161,22 +283,43 @@ void GridView::changeEvent(QEvent *event)
         setHeaderSizes();
 }
 
-void GridView::useGrowingColumns()
+bool GridView::openList()
 {
-    horizontalHeader()->setMinimumSectionSize(kColumnWidth);
-    narrowColumns();
+    const QModelIndex cell = currentIndex();
+    if (m_model->choices(cell).empty())
+        return false;
+    QTableView::edit(cell);
+    m_editor->openList();
+    return true;
 }
 
-void GridView::narrowColumns()
+bool GridView::isOnArrow(const QMouseEvent &event) const
 {
-    horizontalHeader()->setDefaultSectionSize(kColumnWidth);
+    const QModelIndex cell = currentIndex();
+    return cell.isValid() && GridDelegate::arrowRect(visualRect(cell)).contains(event.position().toPoint()) &&
+           !m_model->choices(cell).empty();
 }
 
-void GridView::growColumn(int column, double width)
+void GridView::mousePressEvent(QMouseEvent *event)
 {
-    const int needed = static_cast<int>(std::ceil(width));
-    if (needed > columnWidth(column))
-        setColumnWidth(column, needed);
+    m_pressedArrow = event->button() == Qt::LeftButton && isOnArrow(*event);
+    if (!m_pressedArrow)
+        QTableView::mousePressEvent(event);
+}
+
+void GridView::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    m_pressedArrow = event->button() == Qt::LeftButton && isOnArrow(*event);
+    if (!m_pressedArrow)
+        QTableView::mouseDoubleClickEvent(event);
+}
+
+void GridView::mouseReleaseEvent(QMouseEvent *event)
+{
+    if (!std::exchange(m_pressedArrow, false))
+        QTableView::mouseReleaseEvent(event);
+    else if (isOnArrow(*event))
+        openList();
 }
 
 void GridView::setHeaderSizes()

@@ -1,13 +1,17 @@
 #pragma once
 
-#include <QPointer>
 #include <QTableView>
 
+#include <memory>
+
+#include "grid/GridBlockActions.h"
 #include "grid/GridSource.h"
+#include "grid/GridWalk.h"
 #include "platform/Dialogs.h"
 
 namespace penwright {
 
+class GridCellEditor;
 class GridDelegate;
 class GridModel;
 class GridRefusal;
@@ -23,24 +27,22 @@ class GridView : public QTableView {
     Q_OBJECT
 
 public:
-    /// What Tab does: walks along the row and on to the next one, or down the column. At the end it leaves the grid.
-    enum class TabWay { AlongRow, DownColumn };
-
     explicit GridView(QWidget *parent = nullptr);
     ~GridView() override;
 
-    /// Serves `source`, and tells refusals through `dialogs`, which outlives the grid. The source may be a member of
-    /// the page: a grid whose source has ended is empty.
-    void setSource(GridSource &source, Dialogs &dialogs);
+    /// Serves `source`, and tells refusals through `dialogs`, which outlives the grid.
+    void setSource(std::shared_ptr<GridSource> source, Dialogs &dialogs);
+
+    GridSource &source() const;
 
     void setTabWay(TabWay way) { m_tabWay = way; }
 
     /// How the cells' texts stand, in editors too; left unless told.
     void setTextAlignment(Qt::Alignment alignment);
 
-    /// Reads everything anew: row count, captions, cells. Drops an open editor; keeps the current cell where it is
-    /// still there.
-    void refresh();
+    /// Makes a change of the source, as GridModel::apply does. One of rows and columns drops an open editor and keeps
+    /// the current cell where it is still there.
+    bool apply(GridEdit edit);
 
     /// The one routine that takes what stands in an open editor. An editor left unchanged is not a new value. False
     /// when the text was refused, now or at the focus change just before; the message follows.
@@ -60,35 +62,24 @@ public:
     int currentColumn() const;
 
     /// Whether a cell is being edited.
-    bool isEditing() const { return !m_editor.isNull(); }
+    bool isEditing() const;
+
+    const GridCellEditor &editor() const { return *m_editor; }
 
 signals:
-    /// A new text has been taken for one cell, by typing, clearing or pasting.
-    void cellTaken(int row, int column);
+    /// A new text has been written into one cell, by typing, clearing or pasting.
+    void cellWritten(int row, int column);
+
+    /// Every value may have changed at once, in the rows and columns that there were.
+    void valuesReplaced();
+
+    /// Rows, columns and captions have been read anew.
+    void rebuilt();
 
     /// Another cell has become the current one; row 0 when none is.
     void currentCellChanged(int row, int column);
 
 protected:
-    /// Puts the selected block on the clipboard, a line for each row.
-    virtual void copy();
-
-    /// Pastes a block from the top left cell of the selection on, which is the current cell when only one is selected:
-    /// the whole block or, with one message, nothing of it. Rows are appended where they can be.
-    virtual void paste(std::string_view text);
-
-    /// Has columns begin 600 twips wide and never become narrower.
-    void useGrowingColumns();
-
-    /// Gives such columns, those that stay too, the width that they begin with.
-    void narrowColumns();
-
-    /// Widens a column to `width` logical pixels where it is narrower.
-    void growColumn(int column, double width);
-
-    /// Has the refusal of a cell's text told once the event is over.
-    void tellRefusal(int row, int column, const MessageBox &box);
-
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
     bool focusNextPrevChild(bool next) override;
@@ -106,43 +97,29 @@ protected slots:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 private:
-    /// A block of cells, rows from 1 and columns from 0, both ends included.
-    struct Block {
-        int firstRow, firstColumn, lastRow, lastColumn;
-    };
-
-    Block selectedBlock() const;
-    void clearSelected();
-    void pasteClipboard();
-    bool fits(const Block &block, std::size_t rows, std::size_t columns);
-
+    GridCell currentCell() const { return {currentRow(), currentColumn()}; }
     bool gridKey(const QKeyEvent &event);
     bool editorKey(QKeyEvent &event);
-    void step(int rows);
-    void walk(bool forward);
-    void leave(bool forward);
-    QModelIndex tabTarget(bool forward) const;
-    QModelIndex alongRow(bool forward) const;
-    void moveTo(const QModelIndex &cell);
+    bool walk(GridKey key, bool forward);
+    void walkOrLeave(GridKey key, bool forward);
+    void moveTo(const GridCell &cell);
     void announceCurrent();
-
-    void begin(QWidget *editor, EditTrigger trigger);
-    void endAfterFocusChange(const QWidget *now);
+    void showRebuilt();
+    void tellRefusal(const RefusedEdit &refused);
     bool openList();
-    bool isOnArrow(const QPoint &place) const;
+    bool isOnArrow(const QMouseEvent &event) const;
     void setHeaderSizes();
-
-    static constexpr int kColumnWidth = 40;  ///< logical pixels, 600 twips
 
     GridModel *m_model;
     GridDelegate *m_delegate;
     GridRefusal *m_refusal;
+    std::unique_ptr<GridCellEditor> m_editor;
+    GridBlockActions m_block{*this};
     TabWay m_tabWay = TabWay::AlongRow;
-    QPointer<QWidget> m_editor;
-    Qt::FocusReason m_leftBy = Qt::OtherFocusReason;  ///< how the open editor lost the focus last
-    bool m_movesItself = false;                       ///< a move of the grid's own selects one cell, whatever is held
+    GridCell m_before;            ///< the current cell while rows and columns are read anew
+    GridCell m_announced{0, -1};  ///< what currentCellChanged told last
+    bool m_movesItself = false;   ///< a move of the grid's own selects one cell, whatever is held
     bool m_pressedArrow = false;
-    QPoint m_announced{-1, 0};  ///< column and row that currentCellChanged told last
 };
 
 }  // namespace penwright

@@ -10,6 +10,7 @@
 #include "pages/keywords/KeywordLines.h"
 #include "pages/luminaire/LampFields.h"
 #include "pages/luminaire/TiltFields.h"
+#include "support/GridEdits.h"
 #include "TopicFolder.h"
 
 namespace penwright::test {
@@ -61,8 +62,8 @@ protected:
     {
         AngleList vertical(AngleAxis::Vertical);
         AngleList horizontal(AngleAxis::Horizontal);
-        vertical.resize("10, Downlight 0 to 90, 10 degree increments", kTypeC);
-        horizontal.resize("05, Quad Symmetric 0 to 90, 22.5 degree increment", kTypeC);
+        apply(vertical, vertical.resize("10, Downlight 0 to 90, 10 degree increments", kTypeC)->edit);
+        apply(horizontal, horizontal.resize("05, Quad Symmetric 0 to 90, 22.5 degree increment", kTypeC)->edit);
         const DistributionFields fields{kTypeC, vertical.cells(), horizontal.cells()};
         checkDistribution(fields, dlgWarn);
         storeDistribution(fields, record);

@@ -56,7 +56,7 @@ TEST_F(CandelaPageEntry, deletedBlanksAreNoValues)
 {
     showTable({0, 90}, {0, 45, 90});
     int values = 0;
-    QObject::connect(&grid(), &GridView::cellTaken, &grid(), [&] { ++values; });
+    QObject::connect(&grid(), &GridView::cellWritten, &grid(), [&] { ++values; });
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_Delete);
     QCoreApplication::processEvents();

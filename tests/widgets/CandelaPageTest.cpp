@@ -286,6 +286,7 @@ TEST_F(CandelaPageTest, flipLeavesAnOpenEditorAlone)
 TEST_F(CandelaPageTest, pointerDecidesWhichPlaneIsShownUntilItLeavesTheGrid)
 {
     showTable({0, 22.5F, 90}, {0, 45, 90});
+    ASSERT_TRUE(waitForFlip());  // it would go back to the first row
     grid().goTo(1, 1);
     QTest::mouseMove(grid().viewport(), rect(3, 2).center());
     EXPECT_EQ(planes(), "22.5 / 90");

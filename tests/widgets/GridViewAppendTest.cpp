@@ -10,9 +10,9 @@ protected:
     {
         table.growing = true;
         table.cells = {{"A1", "B1"}};
-        show(table);
+        show();
     }
-    TextTable table{1, 2};
+    TextTable &table = ownTable(1, 2);
 };
 
 TEST_F(GrowingGrid, showsOneRowMoreMarkedWithAStar)
@@ -69,7 +69,7 @@ TEST_F(GrowingGrid, tabWalksThroughTheNewRowToTheNext)
 TEST_F(GrowingGrid, beginsWithTheFirstRowOfAnEmptySource)
 {
     table.cells.clear();
-    grid->refresh();
+    rebuild();
     EXPECT_EQ(grid->model()->rowCount(), 1);
     press(Qt::Key_Backtab, Qt::ShiftModifier);
     press(Qt::Key_Tab);

@@ -10,7 +10,7 @@ protected:
     {
         table.cells = {{"[LAMP]", "B1"}, {"", "B2"}};
         table.choiceColumn = 0;
-        show(table);
+        show();
     }
 
     void TearDown() override
@@ -27,7 +27,7 @@ protected:
         return {cell.right() - 5, cell.center().y()};
     }
 
-    TextTable table{2, 2};
+    TextTable &table = ownTable(2, 2);
 };
 
 TEST_F(GridChoices, typingReplacesTheTextAndNothingIsCompleted)

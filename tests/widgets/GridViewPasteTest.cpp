@@ -8,7 +8,7 @@ protected:
     void SetUp() override
     {
         table.cells = {{"A1", "B1"}, {"A2", "B2"}, {"A3", "B3"}};
-        show(table);
+        show();
     }
 
     static void setClipboard(const char *text) { QApplication::clipboard()->setText(text); }
@@ -21,7 +21,7 @@ protected:
         settle();
     }
 
-    TextTable table{3, 2};
+    TextTable &table = ownTable(3, 2);
 };
 
 TEST_F(GridPaste, copiesTheSelectedBlockAsPlainText)
@@ -39,7 +39,7 @@ TEST_F(GridPaste, copiesTheSelectedBlockAsPlainText)
 TEST_F(GridPaste, selectAllCopiesTheTableWithoutTheRowToAppend)
 {
     table.growing = true;
-    grid->refresh();
+    rebuild();
     press(Qt::Key_A, Qt::ControlModifier);
     copy();
     EXPECT_EQ(clipboard(), "A1\tB1\nA2\tB2\nA3\tB3");
@@ -119,7 +119,7 @@ TEST_F(GridPaste, blockThatDoesNotFitIsRefusedWhole)
 TEST_F(GridPaste, rowsAreAppendedWhereTheyCanBe)
 {
     table.growing = true;
-    grid->refresh();
+    rebuild();
     grid->goTo(3, 0);
     paste("1\t2\n3\t4\n5\t6");
     EXPECT_EQ(table.all(), "A1|B1 / A2|B2 / 1|2 / 3|4 / 5|6");
@@ -135,7 +135,7 @@ TEST_F(GridPaste, rowsAreAppendedWhereTheyCanBe)
 TEST_F(GridPaste, refusedBlockAppendsNoRow)
 {
     table.growing = true;
-    grid->refresh();
+    rebuild();
     grid->goTo(3, 0);
     paste("1\n2\nx");
     EXPECT_EQ(dialogs.transcript, "[PenwrightPE|0] no x in A5\n");

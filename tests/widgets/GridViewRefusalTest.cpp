@@ -11,7 +11,7 @@ protected:
     void SetUp() override
     {
         table.cells = {{"A1", "B1"}, {"A2", "B2"}, {"A3", "B3"}};
-        show(table);
+        show();
         grid->goTo(2, 0);
         type("x1");
     }
@@ -24,7 +24,7 @@ protected:
         EXPECT_EQ(taken, "");
     }
 
-    TextTable table{3, 2};
+    TextTable &table = ownTable(3, 2);
 };
 
 TEST_F(Refusal, isToldOnceAfterTheKeyThatCommitted)

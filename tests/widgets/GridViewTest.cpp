@@ -3,8 +3,6 @@
 namespace penwright::test {
 namespace {
 
-class EndedGrid : public GridTest {};
-
 using Grid = FilledGrid;
 
 TEST_F(Grid, showsTheSourceWithCaptionsAndRowNumbers)
@@ -44,7 +42,7 @@ TEST_F(Grid, enterStaysOnTheLastRow)
 TEST_F(Grid, enterGoesAlongTheOnlyRow)
 {
     table.cells = {{"A1", "B1"}};
-    grid->refresh();
+    rebuild();
     type("5");
     press(Qt::Key_Return);
     EXPECT_EQ(current(), "B1");
@@ -164,7 +162,7 @@ TEST_F(Grid, tabWalksAlongTheRowsAndLeavesAtBothEnds)
 
 TEST_F(Grid, tabDownTheColumnLeavesOnTheLastAndTheFirstRow)
 {
-    grid->setTabWay(GridView::TabWay::DownColumn);
+    grid->setTabWay(TabWay::DownColumn);
     grid->goTo(1, 1);
     press(Qt::Key_Tab);
     press(Qt::Key_Tab);
@@ -209,7 +207,7 @@ TEST_F(Grid, ctrlTabLeavesFromCellAndEditor)
 TEST_F(Grid, tabPassesOverReadOnlyColumnsAndTheyOpenNoEditor)
 {
     table.readOnlyColumn = 0;
-    grid->refresh();
+    rebuild();
     grid->goTo(1, 1);
     press(Qt::Key_Tab);
     EXPECT_EQ(current(), "B2");
@@ -240,13 +238,13 @@ TEST_F(Grid, refreshReadsAnewAndKeepsTheCellThatIsStillThere)
     grid->goTo(2, 1);
     type("5");
     table.cells = {{"p", "q"}, {"r", "s"}};
-    grid->refresh();
+    rebuild();
     EXPECT_FALSE(grid->isEditing());
     EXPECT_EQ(current(), "B2");
     EXPECT_EQ(shown(2, 1), "s");
     table.cells = {{"p", "q"}};
     visited.clear();
-    grid->refresh();
+    rebuild();
     EXPECT_EQ(grid->currentRow(), 0);
     EXPECT_EQ(visited, "A0 ");
 }
@@ -254,7 +252,7 @@ TEST_F(Grid, refreshReadsAnewAndKeepsTheCellThatIsStillThere)
 TEST_F(Grid, becomesEmptyAndStaysUsable)
 {
     table.cells.clear();
-    grid->refresh();
+    rebuild();
     for (const auto key : {Qt::Key_Return, Qt::Key_Delete, Qt::Key_F2, Qt::Key_Down, Qt::Key_A})
         press(key);
     press(Qt::Key_C, Qt::ControlModifier);
@@ -262,26 +260,33 @@ TEST_F(Grid, becomesEmptyAndStaysUsable)
     press(Qt::Key_Tab);
     EXPECT_EQ(focus(), "after");
     table.cells = {{"p", "q"}};
-    grid->refresh();
+    rebuild();
     press(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(current(), "A1");
 }
 
-TEST_F(EndedGrid, isEmpty)
+TEST_F(GridTest, isEmptyBeforeItServesASource)
 {
-    {
-        TextTable table(3, 2);
-        table.growing = true;
-        show(table);
-        EXPECT_EQ(grid->model()->rowCount(), 4);
-    }
-    EXPECT_EQ(shown(1, 0), "");
-    for (const auto key : {Qt::Key_F2, Qt::Key_Escape, Qt::Key_Delete, Qt::Key_Down})
-        press(key);
-    window.resize(300, 300);
-    grid->viewport()->grab();
-    grid->refresh();
+    show();
     EXPECT_EQ(grid->model()->rowCount(), 0);
+    for (const auto key : {Qt::Key_F2, Qt::Key_Return, Qt::Key_Delete, Qt::Key_Down})
+        press(key);
+    press(Qt::Key_C, Qt::ControlModifier);
+    press(Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(grid->currentRow(), 0);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focus(), "after");
+}
+
+TEST_F(Grid, keepsItsSourceWhoeverElseLetsItGo)
+{
+    const std::weak_ptr<TextTable> served = source;
+    source.reset();
+    type("5");
+    press(Qt::Key_Return);
+    EXPECT_EQ(shown(1, 0), "5");
+    delete grid;
+    EXPECT_TRUE(served.expired());
 }
 
 TEST_F(Grid, editorTellsItsCellAndHeadersTheirNamesToScreenReaders)

@@ -42,10 +42,10 @@ protected:
     void SetUp() override
     {
         table.cells = {{"A1", "B1"}, {"A2", "B2"}};
-        show(table);
+        show();
         ASSERT_TRUE(QTest::qWaitFor([this] { return grid->hasFocus(); }, 10000));
     }
-    TextTable table{2, 2};
+    TextTable &table = ownTable(2, 2);
 };
 
 TEST_F(Clipboard, ownerThatNeverAnswersIsGivenUpAndCostsNothingTyped)

@@ -8,7 +8,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "controls/ClipboardText.h"
+#include "grid/GrowingColumns.h"
 #include "pages/candela/CandelaTable.h"
 #include "pages/candela/CandelaWidths.h"
 #include "pages/candela/LabelColumn.h"
@@ -23,7 +23,7 @@ CandelaGrid::CandelaGrid(QWidget *parent) : GridView(parent)
     verticalHeader()->hide();
     setCornerButtonEnabled(false);
     horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);  // nothing is cut off by a drag either
-    useGrowingColumns();
+    useGrowingColumns(*this);
     horizontalHeader()->setHighlightSections(true);
     m_labels = new LabelColumn(this);
     connect(m_labels, &LabelColumn::rowPressed, this, [this](int row) { goTo(row + 1, std::max(1, currentColumn())); });
@@ -31,26 +31,26 @@ CandelaGrid::CandelaGrid(QWidget *parent) : GridView(parent)
         if (cell.column() > CandelaTable::kLabelColumn)
             emit pointerEntered(cell.row() + 1, cell.column());
     });
-    connect(this, &GridView::cellTaken, this, [this](int row, int column) {
+    connect(this, &GridView::rebuilt, this, &CandelaGrid::showNewTable);
+    connect(this, &GridView::valuesReplaced, this, &CandelaGrid::growColumns);
+    connect(this, &GridView::cellWritten, this, [this](int row, int column) {
         const double room = columnWidth(column) - padding();
         const CandelaCell &cell = m_table->CandelaCells()(column, row);
-        growColumn(column, CandelaWidths(QFontMetricsF(font())).widened(room, cell) + padding());
+        growColumn(*this, column, CandelaWidths(QFontMetricsF(font())).widened(room, cell) + padding());
     });
 }
 
-void CandelaGrid::setTable(CandelaTable &table, Dialogs &dialogs)
+void CandelaGrid::setTable(std::shared_ptr<CandelaTable> table, Dialogs &dialogs)
 {
-    m_table = &table;
-    setSource(table, dialogs);
+    m_table = table;
+    setSource(std::move(table), dialogs);
 }
 
-void CandelaGrid::rebuild()
+void CandelaGrid::showNewTable()
 {
-    refresh();
-    narrowColumns();
+    narrowColumns(*this);
     growColumns();
     horizontalScrollBar()->setValue(0);
-    goTo(1, 1);
     m_labels->cover();
 }
 
@@ -64,12 +64,12 @@ void CandelaGrid::growColumns()
     const CandelaWidths widths{QFontMetricsF(font())};
     const OneBasedTable<CandelaCell> &cells = m_table->CandelaCells();
     const double around = padding();
-    growColumn(CandelaTable::kLabelColumn, m_labels->neededWidth());
+    growColumn(*this, CandelaTable::kLabelColumn, m_labels->neededWidth());
     for (int h = 1; h <= cells.rows(); ++h) {
         double room = std::max(columnWidth(h), horizontalHeader()->sectionSizeHint(h)) - around;
         for (int v = 1; v <= cells.columns(); ++v)
             room = widths.widened(room, cells(h, v));
-        growColumn(h, room + around);
+        growColumn(*this, h, room + around);
     }
 }
 
@@ -78,27 +78,6 @@ double CandelaGrid::padding() const
 {
     constexpr int kLines = 2;
     return 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1) + kLines;
-}
-
-void CandelaGrid::copy()
-{
-    if (m_table)
-        writeClipboardText(m_table->CopyCandelaTable());
-}
-
-void CandelaGrid::paste(std::string_view text)
-{
-    if (!m_table)
-        return;
-    const auto refusal = m_table->PasteCandelaTable(text);
-    if (!refusal || refusal->row > 0) {
-        growColumns();
-        viewport()->update();
-        emit pasted();
-    }
-    if (refusal)
-        tellRefusal(refusal->row > 0 ? refusal->row : currentRow(),
-                    refusal->row > 0 ? refusal->column : currentColumn(), refusal->box);
 }
 
 QModelIndex CandelaGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)

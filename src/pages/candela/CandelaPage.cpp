@@ -30,7 +30,7 @@ void pressPageUp(QWidget &widget)
 CandelaPage::CandelaPage(const PageContext &context)
     : PageFrame(kCandelaPage, context),
       m_form(std::make_unique<Ui::CandelaPage>()),
-      m_table(state(), m_flags, caption().toStdString())
+      m_table(std::make_shared<CandelaTable>(state(), caption().toStdString()))
 {
     m_form->setupUi(formArea());
     m_form->planeKey->setColour(kPaperLook.plane);
@@ -52,30 +52,31 @@ void CandelaPage::load()
 
 void CandelaPage::start()
 {
-    m_flags = {};
+    flags() = {};
 }
 
 void CandelaPage::connectGrid()
 {
     CandelaGrid *grid = m_form->cdaGridCd;
-    connect(grid, &GridView::cellTaken, this, [this] { m_isTypedInto = true; });
-    connect(grid, &GridView::cellTaken, this, &CandelaPage::refreshPlot);
+    connect(grid, &GridView::cellWritten, this, [this] { m_isTypedInto = true; });
+    connect(grid, &GridView::cellWritten, this, &CandelaPage::refreshPlot);
     connect(grid, &GridView::currentCellChanged, this, &CandelaPage::showCell);
-    connect(grid, &CandelaGrid::pasted, this, &CandelaPage::refreshPlot);
+    connect(grid, &GridView::valuesReplaced, this, &CandelaPage::refreshPlot);
     connect(grid, &CandelaGrid::pointerEntered, this, &CandelaPage::showCell);
     connect(grid, &CandelaGrid::pointerLeft, this, &CandelaPage::showCurrentCell);
 }
 
 void CandelaPage::lsbStart()
 {
-    m_table.lsbStart();
+    GridEdit table = m_table->newTable();
     m_shownColumn = 1;
     m_isTypedInto = false;
     const bool hasCone = state().PhotFiles(1).PhotometricType != kTypeB;
     for (QWidget *part : {static_cast<QWidget *>(m_form->rtbHorz), static_cast<QWidget *>(m_form->Label50a),
                           static_cast<QWidget *>(m_form->coneKey)})
         part->setVisible(hasCone);
-    m_form->cdaGridCd->rebuild();
+    m_form->cdaGridCd->apply(std::move(table));
+    m_form->cdaGridCd->goTo(1, 1);
     showCurrentCell();
     if (m_tmrFlip)
         m_tmrFlip->start();
@@ -102,7 +103,7 @@ void CandelaPage::showCell(int row, int column)
 {
     if (column != CandelaTable::kLabelColumn)
         m_shownColumn = column;
-    const auto angles = m_table.anglesOf(row, m_shownColumn);
+    const auto angles = m_table->anglesOf(row, m_shownColumn);
     if (!angles)
         return;
     m_shown = *angles;
@@ -113,10 +114,10 @@ void CandelaPage::showCell(int row, int column)
 
 void CandelaPage::refreshPlot()
 {
-    if (!(m_flags.plotValue > 0))
-        m_flags.plotValue = kLeastPlotValue;
+    if (!(flags().plotValue > 0))
+        flags().plotValue = kLeastPlotValue;
     try {
-        m_form->picCda->draw(state().PhotFiles(1), m_table.CandelaCells(), m_shown.horizontal, m_shown.vertical);
+        m_form->picCda->draw(state().PhotFiles(1), m_table->CandelaCells(), m_shown.horizontal, m_shown.vertical);
         m_plotFailed = false;
     } catch (const std::exception &) {
         if (!std::exchange(m_plotFailed, true))
@@ -138,10 +139,10 @@ void CandelaPage::cmdNext50_Click()
         return;
     dlgWarn().Clear();
     PhotometricRecord &record = state().PhotFiles(1);
-    checkCandela(record, m_table.CandelaCells(), dlgWarn().list());
+    checkCandela(record, m_table->CandelaCells(), dlgWarn().list());
     if (!dlgWarn().Clean())
         return showWarnings();
-    storeCandela(m_table.CandelaCells(), record);
+    storeCandela(m_table->CandelaCells(), record);
     navigator().ShowPage(kFinishPage);
 }
 

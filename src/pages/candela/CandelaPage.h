@@ -31,7 +31,7 @@ public:
     /// Error 9 when the record's angles are fewer than it counts.
     void lsbStart();
 
-    CandelaState &flags() { return m_flags; }
+    CandelaState &flags() { return m_table->flags(); }
 
 protected:
     void focusFault(const FaultPlace &place) override;
@@ -47,9 +47,8 @@ private:
     void refreshPlot();
     void tellPlotError();
 
-    CandelaState m_flags;
     std::unique_ptr<Ui::CandelaPage> m_form;
-    CandelaTable m_table;
+    const std::shared_ptr<CandelaTable> m_table;
     CandelaTable::CellAngles m_shown;  ///< of the cell whose plane and cone are drawn
     int m_shownColumn = 1;
     bool m_isTypedInto = false;  ///< a value has been taken since the table was built

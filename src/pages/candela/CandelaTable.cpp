@@ -1,5 +1,7 @@
 #include "pages/candela/CandelaTable.h"
 
+#include <utility>
+
 #include "core/CodePoints.h"
 #include "core/NumberText.h"
 #include "pages/candela/PastedValues.h"
@@ -21,46 +23,26 @@ std::string shortened(std::string_view text)
 
 }  // namespace
 
-CandelaTable::CandelaTable(ToolState &state, CandelaState &flags, std::string title)
-    : m_state(state), m_flags(flags), m_title(std::move(title))
+CandelaTable::CandelaTable(ToolState &state, std::string title)
+    : m_state(state), m_numbers(state), m_title(std::move(title))
 {
 }
 
-void CandelaTable::lsbStart()
+GridEdit CandelaTable::newTable()
 {
     const PhotometricRecord &from = m_state.PhotFiles(1);
-    const int horizontal = from.NumHorzAngles;
-    const int vertical = from.NumVertAngles;
-    if (horizontal > from.HorAngles.size() || vertical > from.VertAngles.size())
+    if (from.NumHorzAngles > from.HorAngles.size() || from.NumVertAngles > from.VertAngles.size())
         throw subscriptOutOfRange();
-    if (!m_flags.GridStarted || m_state.CandelaWorkRecord.empty())
-        m_state.CandelaWorkRecord.reset(1);
-    PhotometricRecord &work = m_state.CandelaWorkRecord(1);
-    work.NumHorzAngles = from.NumHorzAngles;
-    work.NumVertAngles = from.NumVertAngles;
-    work.Candela.resizeKeeping(horizontal, vertical);
-    work.PhotometricType = from.PhotometricType;
-    work.HorAngles = from.HorAngles;
-    work.HorAngles.resize(horizontal);
-    work.VertAngles = from.VertAngles;
-    work.VertAngles.resize(vertical);
-
-    m_cells.reset(horizontal, vertical);
-    if (m_flags.GridStarted)
-        for (int h = 1; h <= horizontal; ++h)
-            for (int v = 1; v <= vertical; ++v)
-                m_cells(h, v) = work.Candela(h, v);
-    m_flags.GridReady = true;
-    m_flags.GridStarted = true;
+    return {.name = "New Table", .reach = GridReach::Table, .content = m_numbers.ofAngles(from)};
 }
 
 std::string CandelaTable::CopyCandelaTable() const
 {
-    const int horizontal = m_cells.rows();
+    const int horizontal = CandelaCells().rows();
     std::string text;
-    for (int v = 1; v <= m_cells.columns(); ++v) {
+    for (int v = 1; v <= CandelaCells().columns(); ++v) {
         for (int h = 1; h <= horizontal; ++h) {
-            appendTextOf(text, m_cells(h, v));
+            appendTextOf(text, CandelaCells()(h, v));
             if (h < horizontal)
                 text += '\t';
         }
@@ -69,23 +51,47 @@ std::string CandelaTable::CopyCandelaTable() const
     return text;
 }
 
-std::optional<CandelaTable::PasteRefusal> CandelaTable::PasteCandelaTable(std::string_view text)
+GridEdit CandelaTable::PasteCandelaTable(std::string_view text)
 {
+    GridEdit edit{.name = "Paste", .reach = GridReach::Values};
     PastedValues values(text);
     const int highest = values.count() - 1;
-    const int needed = m_cells.rows() * m_cells.columns() - 1;
-    if (highest != needed)
-        return PasteRefusal{{.text = generalText(highest) + " values read; need " + generalText(needed)}};
-    for (int v = 1; v <= m_cells.columns(); ++v)
-        for (int h = 1; h <= m_cells.rows(); ++h) {
+    const int needed = CandelaCells().rows() * CandelaCells().columns() - 1;
+    if (highest != needed) {
+        edit.refused = {.box = {.text = generalText(highest) + " values read; need " + generalText(needed)}};
+        return edit;
+    }
+    OneBasedTable<CandelaCell> pasted = CandelaCells();
+    if (const int count = fill(pasted, values, edit.refused); count > 0)
+        edit.content = m_numbers.withFirst(std::move(pasted), count);
+    return edit;
+}
+
+/// Puts the values into the cells, up to one that is no number; how many that were.
+int CandelaTable::fill(OneBasedTable<CandelaCell> &cells, PastedValues &values,
+                       std::optional<RefusedEdit> &refused) const
+{
+    for (int v = 1; v <= cells.columns(); ++v)
+        for (int h = 1; h <= cells.rows(); ++h) {
             const std::string_view value = values.next();
             try {
-                take(h, v, toSingle(value));
+                cells(h, v) = toSingle(value);
             } catch (const RunTimeError &) {
-                return PasteRefusal{pasteRefusal(h, v, value), v, h};
+                refused = {v, h, pasteRefusal(h, v, value)};
+                return (v - 1) * cells.rows() + h - 1;
             }
         }
-    return std::nullopt;
+    return cells.rows() * cells.columns();
+}
+
+GridEdit CandelaTable::paste(const GridBlock &, std::string_view text, const std::string &)
+{
+    return PasteCandelaTable(text);
+}
+
+std::optional<std::string> CandelaTable::copy(const GridBlock &) const
+{
+    return CopyCandelaTable();
 }
 
 MessageBox CandelaTable::pasteRefusal(int h, int v, std::string_view text) const
@@ -98,17 +104,6 @@ MessageBox CandelaTable::pasteRefusal(int h, int v, std::string_view text) const
             .title = m_title};
 }
 
-void CandelaTable::take(int h, int v, float value)
-{
-    m_cells(h, v) = value;
-    // The host may have put a record of another size in the place of the working one.
-    if (m_state.CandelaWorkRecord.empty())
-        return;
-    OneBasedTable<double> &kept = m_state.CandelaWorkRecord(1).Candela;
-    if (h <= kept.rows() && v <= kept.columns())
-        kept(h, v) = double{value};
-}
-
 const PhotometricRecord *CandelaTable::record() const
 {
     return m_state.PhotFiles.empty() ? nullptr : &m_state.PhotFiles(1);
@@ -116,7 +111,7 @@ const PhotometricRecord *CandelaTable::record() const
 
 bool CandelaTable::isCell(int row, int column) const
 {
-    return row >= 1 && row <= m_cells.columns() && column >= 1 && column <= m_cells.rows();
+    return row >= 1 && row <= CandelaCells().columns() && column >= 1 && column <= CandelaCells().rows();
 }
 
 std::optional<CandelaTable::CellAngles> CandelaTable::anglesOf(int row, int column) const
@@ -129,12 +124,12 @@ std::optional<CandelaTable::CellAngles> CandelaTable::anglesOf(int row, int colu
 
 int CandelaTable::rowCount() const
 {
-    return m_flags.GridReady ? m_cells.columns() : 0;
+    return m_numbers.flags().GridReady ? CandelaCells().columns() : 0;
 }
 
 int CandelaTable::columnCount() const
 {
-    return m_flags.GridReady ? 1 + m_cells.rows() : 0;
+    return m_numbers.flags().GridReady ? 1 + CandelaCells().rows() : 0;
 }
 
 std::string CandelaTable::columnCaption(int column) const
@@ -157,7 +152,7 @@ std::string CandelaTable::columnName(int column) const
 
 std::string CandelaTable::read(int row, int column) const
 {
-    if (!m_flags.GridReady)
+    if (!m_numbers.flags().GridReady)
         return {};
     // Never seen unless the host changes the record meanwhile; the two texts are fixed all the same.
     const PhotometricRecord *from = record();
@@ -166,7 +161,7 @@ std::string CandelaTable::read(int row, int column) const
     if (column == kLabelColumn)
         return generalText(from->VertAngles(row));
     if (column <= from->NumHorzAngles && isCell(row, column))
-        return textOf(m_cells(column, row));
+        return textOf(CandelaCells()(column, row));
     return "fug";
 }
 
@@ -182,21 +177,19 @@ std::optional<MessageBox> CandelaTable::check(int, int, std::string_view text) c
     return std::nullopt;
 }
 
-std::optional<MessageBox> CandelaTable::write(int row, int column, std::string_view text)
+std::unique_ptr<GridContent> CandelaTable::contentAfter(const GridEdit &edit)
 {
-    if (!isCell(row, column))
-        return std::nullopt;
-    auto refusal = check(row, column, text);
-    if (!refusal)
-        take(column, row, toSingle(text));
-    return refusal;
+    std::vector<CandelaNumbers::Cell> cells;
+    for (const GridText &cell : edit.texts)
+        if (isCell(cell.row, cell.column))
+            cells.push_back({cell.column, cell.row, toSingle(cell.text)});
+    return m_numbers.withCells(std::move(cells));
 }
 
-std::optional<MessageBox> CandelaTable::clear(int row, int column)
+std::string CandelaTable::emptied(int row, int column) const
 {
-    if (isCell(row, column) && !numberOf(m_cells(column, row)))
-        return std::nullopt;
-    return write(row, column, {});
+    const bool isBlank = isCell(row, column) && !numberOf(CandelaCells()(column, row));
+    return isBlank ? read(row, column) : std::string();
 }
 
 }  // namespace penwright

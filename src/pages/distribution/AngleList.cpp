@@ -1,9 +1,11 @@
 #include "pages/distribution/AngleList.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/NumberText.h"
 #include "core/PhotometricRecord.h"
+#include "grid/GridBlock.h"
 
 namespace penwright {
 namespace {
@@ -80,25 +82,25 @@ float singleIn(const AngleCell &cell)
     return toSingle(*number);
 }
 
-AngleList::Resizing AngleList::resize(std::string_view text, std::int16_t photometricType)
+std::optional<AngleList::Resizing> AngleList::resize(std::string_view text, std::int16_t photometricType)
 {
+    constexpr std::string_view kName = "New Count";
     if (text.starts_with("Type"))
-        return Resizing::Nothing;
+        return std::nullopt;
     try {
-        if (leadingNumber(text) <= kMostAngles) {
-            m_cells = isNumeric(text) ? blankCells(toInt16(text)) : entryCells(text, photometricType, m_axis);
-            return Resizing::Sized;
-        }
+        if (leadingNumber(text) <= kMostAngles)
+            return Resizing{replacement(kName, isNumeric(text) ? blankCells(toInt16(text))
+                                                               : entryCells(text, photometricType, m_axis)),
+                            false};
     } catch (const RunTimeError &) {  // a text that makes no list is replaced without a message
     }
-    m_cells = blankCells(1);
-    return Resizing::BecameOne;
+    return Resizing{replacement(kName, blankCells(1)), true};
 }
 
 void AngleList::readCell(int column, std::string &value) const
 {
-    if (column >= 0 && column < m_cells.size()) {
-        const AngleCell &cell = m_cells(column + 1);
+    if (column >= 0 && column < cells().size()) {
+        const AngleCell &cell = cells()(column + 1);
         const auto *number = std::get_if<float>(&cell);
         value = number ? generalText(*number) : std::get<std::string>(cell);
     } else if (m_axis == AngleAxis::Vertical) {
@@ -125,10 +127,29 @@ std::string AngleList::read(int, int column) const
     return value;
 }
 
-std::optional<MessageBox> AngleList::write(int, int column, std::string_view text)
+GridEdit AngleList::paste(const GridBlock &block, std::string_view text, const std::string &title)
 {
-    m_cells(column + 1) = std::string(text);
-    return std::nullopt;
+    GridEdit edit{.name = "Paste", .block = block};
+    if (block.firstRow < 1)
+        return edit;
+    for (int column = block.firstColumn; auto &line : splitGridBlock(text))
+        for (std::string &cell : line)
+            edit.texts.push_back({1, column++, std::move(cell)});
+    const auto room = static_cast<std::size_t>(columnCount() - block.firstColumn);
+    if (edit.texts.size() > room) {
+        edit.refused = {.row = 1,
+                        .column = block.firstColumn,
+                        .box = {.text = "The copied block has " + std::to_string(edit.texts.size()) +
+                                        " angles. From here on there is room for " + std::to_string(room) + ".",
+                                .title = title}};
+        edit.texts.clear();
+    }
+    return edit;
+}
+
+void AngleList::write(AngleCells &cells, int, int column, std::string_view text) const
+{
+    cells(column + 1) = std::string(text);
 }
 
 }  // namespace penwright

@@ -7,7 +7,7 @@
 #include <variant>
 
 #include "core/OneBased.h"
-#include "grid/GridSource.h"
+#include "grid/GridValues.h"
 #include "pages/distribution/PredefinedAngles.h"
 
 namespace penwright {
@@ -34,25 +34,24 @@ inline bool isAllocated(const AngleCells &cells)
 }
 
 /// The angles of one axis as page 4 keeps them and their one-row grid shows them, a column for each.
-class AngleList : public GridSource {
+class AngleList : public GridValues<AngleCells> {
 public:
     static constexpr int kMostAngles = 1000;
 
-    /// What a re-size has done.
-    enum class Resizing {
-        Nothing,    ///< the text was the prompt
-        Sized,      ///< the cells are those of the text
-        BecameOne,  ///< one blank cell, because the text was refused; "1" stands for it in the drop-down list
+    /// What a text of the drop-down list makes of the cells.
+    struct Resizing {
+        GridEdit edit;
+        bool becomesOne;  ///< one blank cell, because the text was refused; "1" stands for it in the drop-down list
     };
 
     explicit AngleList(AngleAxis axis) : m_axis(axis) {}
 
-    /// Replaces all cells by those of a text from the axis's drop-down list: as many blank ones as a number says, or
+    /// All cells replaced by those of a text from the axis's drop-down list: as many blank ones as a number says, or
     /// the angles that an entry of the list spells out for the type. A number above kMostAngles and a text from which
-    /// no list can be made give one blank cell.
-    Resizing resize(std::string_view text, std::int16_t photometricType);
+    /// no list can be made give one blank cell. Nothing for the prompt.
+    std::optional<Resizing> resize(std::string_view text, std::int16_t photometricType);
 
-    const AngleCells &cells() const { return m_cells; }
+    const AngleCells &cells() const { return m_values; }
 
     /// Reads a column's cell, counted from 0. Beyond the last one the vertical list gives a blank, the horizontal list
     /// leaves the value as it came; the difference is meant.
@@ -64,7 +63,7 @@ public:
     static RelativeRow relativeRow(std::string_view start, int offset);
 
     int rowCount() const override { return 1; }
-    int columnCount() const override { return m_cells.size(); }
+    int columnCount() const override { return cells().size(); }
     std::string columnCaption(int column) const override { return std::to_string(column + 1); }
 
     /// "Vertical angle" and the column's number: the one row is all angles of the axis.
@@ -72,12 +71,16 @@ public:
 
     std::string read(int row, int column) const override;
 
-    /// Takes any text as typed: the angles are checked when the page is left.
-    std::optional<MessageBox> write(int row, int column, std::string_view text) override;
+    /// Pastes along the one row: a column of a spreadsheet too, line ends mean no more than tabs. All of the angles or,
+    /// without room for them, none.
+    GridEdit paste(const GridBlock &block, std::string_view text, const std::string &title) override;
+
+protected:
+    /// Keeps any text as typed: the angles are checked when the page is left.
+    void write(AngleCells &cells, int row, int column, std::string_view text) const override;
 
 private:
     AngleAxis m_axis;
-    AngleCells m_cells;
 };
 
 }  // namespace penwright

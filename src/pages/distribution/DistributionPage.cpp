@@ -47,22 +47,22 @@ void DistributionPage::offerAngles()
 
 void DistributionPage::phoCmbVert_Change()
 {
-    resizeAngles(*m_form->phoCmbVert, m_vertical, *m_form->phoGridVert);
+    resizeAngles(*m_form->phoCmbVert, *m_vertical, *m_form->phoGridVert);
 }
 
 void DistributionPage::phoCmbHorz_Change()
 {
-    resizeAngles(*m_form->phoCmbHorz, m_horizontal, *m_form->phoGridHorz);
+    resizeAngles(*m_form->phoCmbHorz, *m_horizontal, *m_form->phoGridHorz);
 }
 
 void DistributionPage::resizeAngles(AngleListBox &list, AngleList &angles, AngleGrid &grid)
 {
-    const AngleList::Resizing done = angles.resize(list.chosenText(), photometricType());
-    if (done == AngleList::Resizing::Nothing)
+    auto resizing = angles.resize(list.chosenText(), photometricType());
+    if (!resizing)
         return;
-    if (done == AngleList::Resizing::BecameOne)
+    if (resizing->becomesOne)
         list.replaceText("1");
-    grid.rebuildColumns();
+    grid.apply(std::move(resizing->edit));
     navigator().ReDo();
 }
 
@@ -94,7 +94,7 @@ std::int16_t DistributionPage::photometricType() const
 
 DistributionFields DistributionPage::readFields() const
 {
-    return {photometricType(), m_vertical.cells(), m_horizontal.cells()};
+    return {photometricType(), m_vertical->cells(), m_horizontal->cells()};
 }
 
 void DistributionPage::focusFault(const FaultPlace &place)

@@ -43,8 +43,8 @@ private:
 
     std::unique_ptr<Ui::DistributionPage> m_form;
     std::function<void()> m_lsbStart;
-    AngleList m_vertical{AngleAxis::Vertical};
-    AngleList m_horizontal{AngleAxis::Horizontal};
+    const std::shared_ptr<AngleList> m_vertical = std::make_shared<AngleList>(AngleAxis::Vertical);
+    const std::shared_ptr<AngleList> m_horizontal = std::make_shared<AngleList>(AngleAxis::Horizontal);
 };
 
 }  // namespace penwright

@@ -44,12 +44,12 @@ std::string defaultsPrefix(int row)
     return codePoint > kLastCodePoint ? std::string() : codePointText(codePoint);
 }
 
-void gsbKeyDefaultLoad(SettingsStore &store, KeywordRows &rows)
+OneBased<KeywordRow> gsbKeyDefaultLoad(SettingsStore &store)
 {
     OneBased<KeywordRow> loaded;
     for (const Setting &setting : store.readAll(kApplication, kSection))
         loaded.append({std::string(withoutFirstCodePoint(setting.name)), setting.data});
-    rows.setRows(loaded.empty() ? builtInBlock() : std::move(loaded));
+    return loaded.empty() ? builtInBlock() : loaded;
 }
 
 void gsbKeyDefaultSave(SettingsStore &store, const OneBased<KeywordRow> &rows)

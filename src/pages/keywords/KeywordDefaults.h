@@ -13,9 +13,9 @@ class SettingsStore;
 /// 1,112,000 on, behind the last code point there is.
 std::string defaultsPrefix(int row);
 
-/// Fills the rows with the user's default block, in the order in which it was written, or with the built-in block of
-/// nine when none is stored. Raises the errors of the store and leaves the rows as they are.
-void gsbKeyDefaultLoad(SettingsStore &store, KeywordRows &rows);
+/// The user's default block, in the order in which it was written, or the built-in block of nine when none is stored.
+/// Raises the errors of the store.
+OneBased<KeywordRow> gsbKeyDefaultLoad(SettingsStore &store);
 
 /// Replaces the user's default block with the rows, the empty ones included. Every error of the store is ignored: a row
 /// that cannot be written is left out, and a store that cannot be written at all keeps the block that it had.

@@ -42,6 +42,7 @@ KeywordGrid::KeywordGrid(QWidget *parent) : GridView(parent), m_menu(new QMenu(t
     horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
     connect(verticalHeader(), &QHeaderView::customContextMenuRequested, this, &KeywordGrid::headerMenu);
+    connect(this, &GridView::rebuilt, this, &KeywordGrid::lineChanged);
     connect(this, &GridView::currentCellChanged, this, &KeywordGrid::lineChanged);
     connect(model(), &QAbstractItemModel::dataChanged, this, &KeywordGrid::lineChanged);
     connect(this, &KeywordGrid::lineChanged, this, &KeywordGrid::enableActions);
@@ -63,18 +64,11 @@ QAction *KeywordGrid::addRowAction(const char *name, const QString &text, const 
     return action;
 }
 
-void KeywordGrid::setRows(KeywordRows &rows, Dialogs &dialogs)
+void KeywordGrid::setRows(std::shared_ptr<KeywordRows> rows, Dialogs &dialogs)
 {
-    m_rows = &rows;
-    setSource(rows, dialogs);
+    m_rows = rows;
+    setSource(std::move(rows), dialogs);
     setKeyWidth();
-    enableActions();
-}
-
-void KeywordGrid::rowsReplaced()
-{
-    refresh();
-    emit lineChanged();
 }
 
 KeywordRow KeywordGrid::shownLine() const
@@ -110,8 +104,7 @@ void KeywordGrid::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHin
 void KeywordGrid::insertRow()
 {
     const int row = std::max(1, currentRow());
-    m_rows->insert(row);
-    rowsReplaced();
+    apply(m_rows->insertRow(row));
     goTo(row, KeywordRows::kKey);
 }
 
@@ -119,32 +112,32 @@ void KeywordGrid::deleteRows()
 {
     const Span rows = selectedRows();
     const int column = currentColumn();
-    m_rows->remove(rows.first, rows.last);
-    rowsReplaced();
+    if (auto edit = m_rows->deleteRows(rows.first, rows.last))
+        apply(*std::move(edit));
     goTo(rows.first, column);
 }
 
 void KeywordGrid::moveRowsUp()
 {
     const Span rows = selectedRows();
-    if (m_rows->moveUp(rows.first, rows.last))
-        showMoved({rows.first - 1, rows.last - 1});
+    if (auto edit = m_rows->moveUp(rows.first, rows.last))
+        showMoved(*std::move(edit), {rows.first - 1, rows.last - 1});
 }
 
 void KeywordGrid::moveRowsDown()
 {
     const Span rows = selectedRows();
-    if (m_rows->moveDown(rows.first, rows.last))
-        showMoved({rows.first + 1, rows.last + 1});
+    if (auto edit = m_rows->moveDown(rows.first, rows.last))
+        showMoved(*std::move(edit), {rows.first + 1, rows.last + 1});
 }
 
-void KeywordGrid::showMoved(Span rows)
+void KeywordGrid::showMoved(GridEdit edit, Span rows)
 {
     const QItemSelection selection = selectionModel()->selection();
     const int column = currentColumn();
     const int left = selection.isEmpty() ? column : selection.first().left();
     const int right = selection.isEmpty() ? column : selection.first().right();
-    rowsReplaced();
+    apply(std::move(edit));
     goTo(rows.first, column);
     selectionModel()->select({model()->index(rows.first - 1, left), model()->index(rows.last - 1, right)},
                              QItemSelectionModel::ClearAndSelect);

@@ -21,10 +21,7 @@ public:
     explicit KeywordGrid(QWidget *parent = nullptr);
 
     /// Serves `rows`, as setSource does.
-    void setRows(KeywordRows &rows, Dialogs &dialogs);
-
-    /// Shows the rows anew after they have been replaced; drops an open editor.
-    void rowsReplaced();
+    void setRows(std::shared_ptr<KeywordRows> rows, Dialogs &dialogs);
 
     /// The current line as it would be stored, with what is typed in an open editor.
     KeywordRow shownLine() const;
@@ -53,14 +50,14 @@ private:
     void deleteRows();
     void moveRowsUp();
     void moveRowsDown();
-    void showMoved(Span rows);
+    void showMoved(GridEdit edit, Span rows);
     void headerMenu(const QPoint &place);
 
     Span selectedRows() const;
     void enableActions();
     void setKeyWidth();
 
-    KeywordRows *m_rows = nullptr;
+    std::shared_ptr<KeywordRows> m_rows;
     QMenu *m_menu;
     QAction *m_delete;
     QAction *m_up;

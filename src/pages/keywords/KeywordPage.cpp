@@ -32,8 +32,7 @@ void KeywordPage::enter()
 
 void KeywordPage::cmdDefaultLoad_Click()
 {
-    gsbKeyDefaultLoad(services().store, m_rows);
-    m_form->keyGrid->rowsReplaced();
+    m_form->keyGrid->apply(m_rows->loadRows(gsbKeyDefaultLoad(services().store)));
 }
 
 void KeywordPage::cmdSaveDefaults_Click()
@@ -43,7 +42,7 @@ void KeywordPage::cmdSaveDefaults_Click()
                  "want to fill in later."});
     if (answer == Answer::Dismissed || !m_form->keyGrid->commitEdit())
         return;
-    gsbKeyDefaultSave(services().store, m_rows.rows());
+    gsbKeyDefaultSave(services().store, m_rows->rows());
 }
 
 void KeywordPage::cmdNext20_Click()
@@ -51,10 +50,10 @@ void KeywordPage::cmdNext20_Click()
     dlgWarn().Clear();
     if (!m_form->keyGrid->commitEdit())
         return;
-    gfnKeyVerify(m_rows.rows(), dlgWarn().list());
+    gfnKeyVerify(m_rows->rows(), dlgWarn().list());
     if (!dlgWarn().Clean())
         return showWarnings();
-    storeKeywordLines(m_rows.rows(), state().PhotFiles(1));
+    storeKeywordLines(m_rows->rows(), state().PhotFiles(1));
     navigator().ShowPage(kDistributionPage);
 }
 
@@ -69,8 +68,8 @@ void KeywordPage::showLine()
     const int row = m_form->keyGrid->currentRow();
     const KeywordRow line = m_form->keyGrid->shownLine();
     const bool isThere = row >= 1;
-    const std::string hint = isThere ? keywordHint(row, line, row > m_rows.rowCount()) : "";
-    const std::string emptyRows = emptyRowsHint(m_rows.emptyRows());
+    const std::string hint = isThere ? keywordHint(row, line, row > m_rows->rowCount()) : "";
+    const std::string emptyRows = emptyRowsHint(m_rows->emptyRows());
     m_form->labDescription->setText(QString::fromStdString(hint));
     m_form->labCharacters->setText(isThere ? QString::fromStdString(lengthHint(line.length())) : QString());
     m_form->labCharacters->setWarning(line.length() > kMostLineCharacters);

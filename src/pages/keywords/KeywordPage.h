@@ -35,7 +35,7 @@ private:
     void showLine();
 
     std::unique_ptr<Ui::KeywordPage> m_form;
-    KeywordRows m_rows;
+    const std::shared_ptr<KeywordRows> m_rows = std::make_shared<KeywordRows>();
     bool m_hasRows = false;
 };
 

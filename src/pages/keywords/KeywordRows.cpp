@@ -1,6 +1,7 @@
 #include "pages/keywords/KeywordRows.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/CodePoints.h"
 #include "pages/keywords/KeywordTable.h"
@@ -18,6 +19,11 @@ void offer(const Entries &entries, std::vector<GridChoice> &choices)
         choices.push_back({std::string(entry.keyword), std::string(entry.description)});
 }
 
+auto at(OneBased<KeywordRow> &rows, int row)
+{
+    return rows.begin() + (row - 1);
+}
+
 }  // namespace
 
 int KeywordRow::length() const
@@ -25,44 +31,55 @@ int KeywordRow::length() const
     return codePointCount(key) + codePointCount(value);
 }
 
-void KeywordRows::insert(int row)
+GridEdit KeywordRows::loadRows(OneBased<KeywordRow> rows)
 {
-    append();
-    if (row >= 1 && row < rowCount())
-        std::rotate(at(row), at(rowCount()), m_rows.end());
+    return replacement("Load Defaults", std::move(rows));
 }
 
-void KeywordRows::remove(int first, int last)
+GridEdit KeywordRows::insertRow(int row)
+{
+    OneBased<KeywordRow> after = rows();
+    after.append({});
+    if (row >= 1 && row < after.size())
+        std::rotate(at(after, row), at(after, after.size()), after.end());
+    return replacement("Insert Row", std::move(after));
+}
+
+std::optional<GridEdit> KeywordRows::deleteRows(int first, int last)
 {
     first = std::max(first, 1);
     last = std::min(last, rowCount());
     if (first > last)
-        return;
-    std::rotate(at(first), at(last + 1), m_rows.end());
-    m_rows.resize(rowCount() - (last - first + 1));
+        return std::nullopt;
+    OneBased<KeywordRow> after = rows();
+    std::rotate(at(after, first), at(after, last + 1), after.end());
+    after.resize(rowCount() - (last - first + 1));
+    return replacement("Delete Row", std::move(after));
 }
 
-bool KeywordRows::moveUp(int first, int last)
+std::optional<GridEdit> KeywordRows::moveUp(int first, int last)
 {
     if (!exist(first - 1, last) || first > last)
-        return false;
-    std::rotate(at(first - 1), at(first), at(last + 1));
-    return true;
+        return std::nullopt;
+    OneBased<KeywordRow> after = rows();
+    std::rotate(at(after, first - 1), at(after, first), at(after, last + 1));
+    return replacement("Move Row Up", std::move(after));
 }
 
-bool KeywordRows::moveDown(int first, int last)
+std::optional<GridEdit> KeywordRows::moveDown(int first, int last)
 {
     if (!exist(first, last + 1) || first > last)
-        return false;
-    std::rotate(at(first), at(last + 1), at(last + 2));
-    return true;
+        return std::nullopt;
+    OneBased<KeywordRow> after = rows();
+    std::rotate(at(after, first), at(after, last + 1), at(after, last + 2));
+    return replacement("Move Row Down", std::move(after));
 }
 
 std::vector<int> KeywordRows::emptyRows() const
 {
     std::vector<int> empty;
     for (int row = 1; row <= rowCount(); ++row)
-        if (m_rows(row).isEmpty())
+        if (rows()(row).isEmpty())
             empty.push_back(row);
     return empty;
 }
@@ -74,13 +91,12 @@ std::string KeywordRows::columnCaption(int column) const
 
 std::string KeywordRows::read(int row, int column) const
 {
-    return column == kKey ? m_rows(row).key : m_rows(row).value;
+    return column == kKey ? rows()(row).key : rows()(row).value;
 }
 
-std::optional<MessageBox> KeywordRows::write(int row, int column, std::string_view text)
+void KeywordRows::write(OneBased<KeywordRow> &rows, int row, int column, std::string_view text) const
 {
-    (column == kKey ? m_rows(row).key : m_rows(row).value) = kept(text);
-    return std::nullopt;
+    (column == kKey ? rows(row).key : rows(row).value) = kept(text);
 }
 
 std::vector<GridChoice> KeywordRows::choices(int row, int column) const

@@ -1,12 +1,13 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/Blanks.h"
 #include "core/OneBased.h"
-#include "grid/GridSource.h"
+#include "grid/GridValues.h"
 
 namespace penwright {
 
@@ -24,29 +25,31 @@ struct KeywordRow {
 };
 
 /// The keyword lines of the new file as the grid of the keyword page shows them. Any text is taken.
-class KeywordRows : public GridSource {
+class KeywordRows : public GridValues<OneBased<KeywordRow>> {
 public:
     static constexpr int kKey = 0;
     static constexpr int kValue = 1;
 
-    const OneBased<KeywordRow> &rows() const { return m_rows; }
-    void setRows(OneBased<KeywordRow> rows) { m_rows = std::move(rows); }
+    const OneBased<KeywordRow> &rows() const { return m_values; }
 
-    /// Inserts an empty row before a row; behind the last one when there is no such row.
-    void insert(int row);
+    /// Other rows in the place of all.
+    GridEdit loadRows(OneBased<KeywordRow> rows);
 
-    /// Removes the rows from `first` to `last`, as far as they exist.
-    void remove(int first, int last);
+    /// An empty row more before a row; behind the last one when there is no such row.
+    GridEdit insertRow(int row);
 
-    /// Moves the rows from `first` to `last` over the one before or behind them. False when a row of them does not
+    /// The rows from `first` to `last` removed, as far as they exist; nothing when none does.
+    std::optional<GridEdit> deleteRows(int first, int last);
+
+    /// The rows from `first` to `last` moved over the one before or behind them. Nothing when a row of them does not
     /// exist, or there is none to move over.
-    bool moveUp(int first, int last);
-    bool moveDown(int first, int last);
+    std::optional<GridEdit> moveUp(int first, int last);
+    std::optional<GridEdit> moveDown(int first, int last);
 
     /// The rows with neither key nor value: lines of the file with nothing in them.
     std::vector<int> emptyRows() const;
 
-    int rowCount() const override { return m_rows.size(); }
+    int rowCount() const override { return rows().size(); }
     int columnCount() const override { return 2; }
     std::string columnCaption(int column) const override;
 
@@ -57,19 +60,17 @@ public:
 
     /// The text without its leading and trailing blanks.
     std::string_view kept(std::string_view text) const override { return withoutOuterBlanks(text); }
-    std::optional<MessageBox> write(int row, int column, std::string_view text) override;
-
     bool canAppend() const override { return true; }
-    void append() override { m_rows.append({}); }
 
     /// In the keyword column the standard keywords; in row 1 the version lines come first.
     std::vector<GridChoice> choices(int row, int column) const override;
 
+protected:
+    void write(OneBased<KeywordRow> &rows, int row, int column, std::string_view text) const override;
+    void append(OneBased<KeywordRow> &rows) const override { rows.append({}); }
+
 private:
     bool exist(int first, int last) const { return first >= 1 && first <= last && last <= rowCount(); }
-    auto at(int row) { return m_rows.begin() + (row - 1); }
-
-    OneBased<KeywordRow> m_rows;
 };
 
 }  // namespace penwright

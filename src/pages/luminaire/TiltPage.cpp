@@ -8,12 +8,14 @@
 namespace penwright {
 
 TiltPage::TiltPage(const PageContext &context)
-    : PageFrame(kTiltPage, context), m_form(std::make_unique<Ui::TiltPage>()), m_table(caption().toStdString())
+    : PageFrame(kTiltPage, context),
+      m_form(std::make_unique<Ui::TiltPage>()),
+      m_table(std::make_shared<TiltTable>(caption().toStdString()))
 {
     m_form->setupUi(formArea());
     GridView &grid = *m_form->lmpGridTiltMultiplier;
     grid.setSource(m_table, services().dialogs);
-    grid.setTabWay(GridView::TabWay::DownColumn);
+    grid.setTabWay(TabWay::DownColumn);
     grid.setTextAlignment(Qt::AlignRight);
     grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     connect(m_form->lmpTxtNumAngles, &TextBox::textChanged, this, &TiltPage::lmpTxtNumAngles_Change);
@@ -24,8 +26,8 @@ TiltPage::~TiltPage() = default;
 
 void TiltPage::lmpTxtNumAngles_Change()
 {
-    if (m_table.takeCount(m_form->lmpTxtNumAngles->text().toStdString()))
-        m_form->lmpGridTiltMultiplier->refresh();
+    if (auto edit = m_table->newCount(m_form->lmpTxtNumAngles->text().toStdString()))
+        m_form->lmpGridTiltMultiplier->apply(*std::move(edit));
 }
 
 void TiltPage::cmdNext15_Click()
@@ -49,7 +51,7 @@ void TiltPage::cmdBack15_Click()
 
 TiltFields TiltPage::readFields() const
 {
-    TiltFields fields{m_form->lmpTxtNumAngles->text().toStdString(), {}, m_table.angles(), m_table.factors()};
+    TiltFields fields{m_form->lmpTxtNumAngles->text().toStdString(), {}, m_table->angles(), m_table->factors()};
     const QRadioButton *const l2lg[]{m_form->l2lg0, m_form->l2lg1, m_form->l2lg2};
     for (std::int16_t index = 0; const QRadioButton *button : l2lg) {
         if (button->isChecked() && !fields.selection)

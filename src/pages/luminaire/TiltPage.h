@@ -31,7 +31,7 @@ private:
     TiltFields readFields() const;
 
     std::unique_ptr<Ui::TiltPage> m_form;
-    TiltTable m_table;
+    const std::shared_ptr<TiltTable> m_table;
 };
 
 }  // namespace penwright

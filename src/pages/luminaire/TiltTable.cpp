@@ -4,21 +4,19 @@
 
 namespace penwright {
 
-bool TiltTable::takeCount(std::string_view text)
+std::optional<GridEdit> TiltTable::newCount(std::string_view text)
 {
     if (!isNumeric(text) || toDouble(text) <= 0 || toDouble(text) > kMostAngles + 1)
-        return false;
+        return std::nullopt;
     const int count = toInt32(text);
     if (count < 1 || count > kMostAngles)
-        return false;
-    m_angles.reset(count);
-    m_factors.reset(count);
-    return true;
+        return std::nullopt;
+    return replacement("New Count", {OneBased<float>(count), OneBased<float>(count)});
 }
 
 std::string TiltTable::read(int row, int column) const
 {
-    return generalText(column == kAngle ? m_angles(row) : m_factors(row));
+    return generalText(column == kAngle ? angles()(row) : factors()(row));
 }
 
 RelativeRow TiltTable::relativeRow(std::string_view start, int offset) const
@@ -42,18 +40,9 @@ std::optional<MessageBox> TiltTable::check(int row, int column, std::string_view
     }
 }
 
-std::optional<MessageBox> TiltTable::write(int row, int column, std::string_view text)
+void TiltTable::write(TiltValues &values, int row, int column, std::string_view text) const
 {
-    if (auto refusal = check(row, column, text))
-        return refusal;
-    value(row, column) = toSingle(text);
-    return std::nullopt;
-}
-
-std::optional<MessageBox> TiltTable::clear(int row, int column)
-{
-    value(row, column) = 0;
-    return std::nullopt;
+    (column == kAngle ? values.angles : values.factors)(row) = toSingle(text);
 }
 
 }  // namespace penwright

@@ -49,11 +49,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, Values,
 
 class CandelaPaste : public CandelaTest {
 protected:
-    std::string paste(const std::string &text)
-    {
-        const auto refusal = table.PasteCandelaTable(text);
-        return refusal ? told(refusal->box) : "";
-    }
+    std::string paste(const std::string &text) { return told(apply(table, table.PasteCandelaTable(text))); }
 };
 
 TEST_F(CandelaPaste, fillsRowByRowWhateverTheArrangement)
@@ -79,12 +75,13 @@ class CandelaCount : public CandelaPaste, public testing::WithParamInterface<Cou
 TEST_P(CandelaCount, changesNothingUnlessAllValuesAreThere)
 {
     build({0, 45, 90}, {0, 30, 60, 90});
-    table.write(1, 1, "5");
+    write(table, 1, 1, "5");
     const std::string before = shown();
-    const auto refusal = table.PasteCandelaTable(GetParam().text);
-    ASSERT_TRUE(refusal);
-    EXPECT_EQ(told(refusal->box), "[PenwrightPE|0] " + GetParam().message);
-    EXPECT_EQ(refusal->row, 0);
+    const GridEdit edit = table.PasteCandelaTable(GetParam().text);
+    ASSERT_TRUE(edit.refused);
+    EXPECT_EQ(told(edit.refused->box), "[PenwrightPE|0] " + GetParam().message);
+    EXPECT_EQ(edit.refused->row, 0);
+    EXPECT_FALSE(edit.content);
     EXPECT_EQ(shown(), before);
     EXPECT_EQ(work().Candela(1, 1), 5);
 }
@@ -111,14 +108,15 @@ TEST_F(CandelaPaste, doesNotAskForTheLimitsOfTypedValues)
 TEST_F(CandelaPaste, endsAtATextThatIsNoNumberAndKeepsWhatCameBefore)
 {
     build({0, 45, 90}, {0, 30});
-    table.PasteCandelaTable("9\t9\t9\t9\t9\t9");
-    const auto refusal = table.PasteCandelaTable("1\t2\t3\r\n4\tabc\t6\r\n");
-    ASSERT_TRUE(refusal);
+    paste("9\t9\t9\t9\t9\t9");
+    GridEdit edit = table.PasteCandelaTable("1\t2\t3\r\n4\tabc\t6\r\n");
+    ASSERT_TRUE(edit.refused);
     EXPECT_EQ(
-        told(refusal->box),
+        told(edit.refused->box),
         "[The page|0] Row 2, column 2 (V:30 H:45): \"abc\" is not a number. The values before it have been pasted.");
-    EXPECT_EQ(refusal->row, 2);
-    EXPECT_EQ(refusal->column, 2);
+    EXPECT_EQ(edit.refused->row, 2);
+    EXPECT_EQ(edit.refused->column, 2);
+    apply(table, std::move(edit));
     EXPECT_EQ(table.CopyCandelaTable(), "1\t2\t3\r\n4\t9\t9\r\n");
     EXPECT_EQ(work().Candela(1, 2), 4);
     EXPECT_EQ(work().Candela(2, 2), 9);

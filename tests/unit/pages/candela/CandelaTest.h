@@ -7,6 +7,7 @@
 
 #include "core/ToolState.h"
 #include "pages/candela/CandelaTable.h"
+#include "support/GridEdits.h"
 
 namespace penwright::test {
 
@@ -32,8 +33,10 @@ protected:
     void build(const std::vector<float> &horizontal, const std::vector<float> &vertical, std::int16_t type = kTypeC)
     {
         giveAngles(horizontal, vertical, type);
-        table.lsbStart();
+        lsbStart();
     }
+
+    void lsbStart() { apply(table, table.newTable()); }
 
     /// All texts of the grid, columns separated by "|", a line for each row, captions first.
     std::string shown() const
@@ -50,8 +53,8 @@ protected:
     PhotometricRecord &work() { return state.CandelaWorkRecord(1); }
 
     ToolState state;
-    CandelaState flags;
-    CandelaTable table{state, flags, "The page"};
+    CandelaTable table{state, "The page"};
+    CandelaState &flags = table.flags();
 };
 
 /// What a message box shows, by text and title; "" for none.

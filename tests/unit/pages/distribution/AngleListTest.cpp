@@ -3,11 +3,22 @@
 #include <gtest/gtest.h>
 
 #include "core/PhotometricRecord.h"
+#include "support/GridEdits.h"
 
 namespace penwright::test {
 namespace {
 
-using Resizing = AngleList::Resizing;
+/// What a text from the drop-down list did to the cells.
+enum class Resizing { Nothing, Sized, BecameOne };
+
+Resizing resize(AngleList &list, std::string_view text, std::int16_t type)
+{
+    auto resizing = list.resize(text, type);
+    if (!resizing)
+        return Resizing::Nothing;
+    apply(list, std::move(resizing->edit));
+    return resizing->becomesOne ? Resizing::BecameOne : Resizing::Sized;
+}
 
 constexpr AngleAxis V = AngleAxis::Vertical;
 constexpr AngleAxis H = AngleAxis::Horizontal;
@@ -71,9 +82,9 @@ TEST_P(TypedCount, givesBlankCellsOnEveryAxis)
     for (const AngleAxis axis : {V, H})
         for (const std::int16_t type : {kTypeC, kTypeB}) {
             AngleList list(axis);
-            list.resize("3", type);
-            list.write(1, 0, "7");
-            EXPECT_EQ(list.resize(GetParam().text, type), GetParam().done);
+            resize(list, "3", type);
+            write(list, 1, 0, "7");
+            EXPECT_EQ(resize(list, GetParam().text, type), GetParam().done);
             ASSERT_EQ(list.cells().size(), GetParam().count);
             for (const AngleCell &cell : list.cells())
                 EXPECT_EQ(cell, AngleCell(" "));
@@ -120,8 +131,8 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_P(EntryText, isReadAtTheTokensOfItsTypeAndAxis)
 {
     AngleList list(GetParam().axis);
-    list.resize("3", kTypeC);
-    EXPECT_EQ(list.resize(GetParam().text, GetParam().type), GetParam().done);
+    resize(list, "3", kTypeC);
+    EXPECT_EQ(resize(list, GetParam().text, GetParam().type), GetParam().done);
     EXPECT_EQ(shown(list.cells()), GetParam().cells);
 }
 
@@ -140,7 +151,7 @@ TEST(AngleList, hasOneRowAtAnyDistance)
 TEST(AngleListResize, computesInSinglePrecision)
 {
     AngleList list(V);
-    list.resize("4, 0.1 to x, 0.2 degrees", kTypeB);
+    resize(list, "4, 0.1 to x, 0.2 degrees", kTypeB);
     for (int i = 1; i <= 4; ++i) {
         const volatile float product = static_cast<float>(i - 1) * 0.2F;
         EXPECT_EQ(list.cells()(i), AngleCell(product + 0.1F)) << i;
@@ -151,11 +162,11 @@ TEST(AngleListResize, promptChangesNothing)
 {
     for (const char *text : {"Type in a number or select a pre-defined distribution", "Type", "Typed 12"}) {
         AngleList list(V);
-        EXPECT_EQ(list.resize(text, kTypeC), Resizing::Nothing);
+        EXPECT_EQ(resize(list, text, kTypeC), Resizing::Nothing);
         EXPECT_FALSE(isAllocated(list.cells()));
-        list.resize("2", kTypeC);
-        list.write(1, 1, "45");
-        EXPECT_EQ(list.resize(text, kTypeC), Resizing::Nothing);
+        resize(list, "2", kTypeC);
+        write(list, 1, 1, "45");
+        EXPECT_EQ(resize(list, text, kTypeC), Resizing::Nothing);
         EXPECT_EQ(shown(list.cells()), "\" \" \"45\"");
     }
 }
@@ -165,17 +176,17 @@ TEST(AngleListResize, isUnallocatedUntilSizedOnce)
     AngleList list(H);
     EXPECT_FALSE(isAllocated(list.cells()));
     EXPECT_EQ(list.columnCount(), 0);
-    list.resize("word", kTypeC);
+    resize(list, "word", kTypeC);
     EXPECT_TRUE(isAllocated(list.cells()));
 }
 
 TEST(AngleListResize, samePickFillsTypedCellsAgain)
 {
     AngleList list(V);
-    list.resize("10, 0 to 90, 10 degree increments", kTypeB);
-    list.write(1, 3, "33");
+    resize(list, "10, 0 to 90, 10 degree increments", kTypeB);
+    write(list, 1, 3, "33");
     EXPECT_EQ(shown(list.cells()), "0 10 20 \"33\" 40 50 60 70 80 90");
-    list.resize("10, 0 to 90, 10 degree increments", kTypeB);
+    resize(list, "10, 0 to 90, 10 degree increments", kTypeB);
     EXPECT_EQ(shown(list.cells()), "0 10 20 30 40 50 60 70 80 90");
 }
 
@@ -183,7 +194,7 @@ TEST(AngleListGrid, hasOneRowAndColumnsHeadedFromOne)
 {
     AngleList list(V);
     EXPECT_EQ(list.rowCount(), 1);
-    list.resize("12", kTypeC);
+    resize(list, "12", kTypeC);
     EXPECT_EQ(list.rowCount(), 1);
     EXPECT_EQ(list.columnCount(), 12);
     EXPECT_EQ(list.columnCaption(0), "1");
@@ -193,12 +204,12 @@ TEST(AngleListGrid, hasOneRowAndColumnsHeadedFromOne)
 TEST(AngleListGrid, showsSinglesInGeneralFormAndTextsAsTyped)
 {
     AngleList list(V);
-    list.resize("2, -0.5 to x, 1.25 degrees", kTypeB);
+    resize(list, "2, -0.5 to x, 1.25 degrees", kTypeB);
     EXPECT_EQ(list.read(1, 0), "-0.5");
     EXPECT_EQ(list.read(1, 1), "0.75");
     for (const char *text : {"090.00", "abc", "", " 5 ", "1e1"}) {
         EXPECT_FALSE(list.check(1, 1, text));
-        EXPECT_FALSE(list.write(1, 1, text));
+        EXPECT_FALSE(write(list, 1, 1, text));
         EXPECT_EQ(list.read(1, 1), text);
         EXPECT_EQ(list.cells()(2), AngleCell(text));
     }
@@ -218,8 +229,8 @@ TEST(AngleListGrid, readsBeyondItsCellsDifferentlyOnEachAxis)
     };
     for (const int column : {-1, 0, 1000})
         expectBeyond(column);
-    vertical.resize("2", kTypeC);
-    horizontal.resize("2", kTypeC);
+    resize(vertical, "2", kTypeC);
+    resize(horizontal, "2", kTypeC);
     for (const int column : {-1, 2, 1000})
         expectBeyond(column);
 }

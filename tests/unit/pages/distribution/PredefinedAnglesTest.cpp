@@ -7,6 +7,7 @@
 
 #include "core/PhotometricRecord.h"
 #include "pages/distribution/AngleList.h"
+#include "support/GridEdits.h"
 
 namespace penwright::test {
 namespace {
@@ -85,7 +86,10 @@ TEST_P(PredefinedEntry, givesItsAnglesAsSingles)
 {
     const EntryCase &entry = GetParam();
     AngleList list(entry.axis);
-    EXPECT_EQ(list.resize(entry.text, entry.type), AngleList::Resizing::Sized);
+    auto resizing = list.resize(entry.text, entry.type);
+    ASSERT_TRUE(resizing);
+    EXPECT_FALSE(resizing->becomesOne);
+    apply(list, std::move(resizing->edit));
     ASSERT_EQ(list.cells().size(), entry.count);
     EXPECT_EQ(list.cells()(1), AngleCell(static_cast<float>(entry.first)));
     EXPECT_EQ(list.cells()(entry.count), AngleCell(static_cast<float>(entry.last)));

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "pages/keywords/KeywordTable.h"
+#include "support/GridEdits.h"
 
 namespace penwright::test {
 namespace {
@@ -12,9 +13,8 @@ KeywordRows rowsOf(const std::string &keys)
 {
     KeywordRows rows;
     for (const char key : keys) {
-        rows.append();
-        rows.write(rows.rowCount(), KeywordRows::kKey, std::string(1, key));
-        rows.write(rows.rowCount(), KeywordRows::kValue, std::string(1, static_cast<char>(key + 32)));
+        write(rows, rows.rowCount() + 1, KeywordRows::kKey, std::string(1, key));
+        write(rows, rows.rowCount(), KeywordRows::kValue, std::string(1, static_cast<char>(key + 32)));
     }
     return rows;
 }
@@ -43,11 +43,11 @@ TEST(KeywordRows, haveTwoColumnsUnderTheirCaptions)
 TEST(KeywordRows, cellKeepsItsTextWithoutOuterBlanks)
 {
     KeywordRows rows = rowsOf("AB");
-    EXPECT_EQ(rows.write(2, 0, "  [_MY KEY] "), std::nullopt);
-    EXPECT_EQ(rows.write(2, 1, " two  words   "), std::nullopt);
+    EXPECT_EQ(write(rows, 2, 0, "  [_MY KEY] "), std::nullopt);
+    EXPECT_EQ(write(rows, 2, 1, " two  words   "), std::nullopt);
     EXPECT_EQ(rows.rows(), (OneBased<KeywordRow>{{"A", "a"}, {"[_MY KEY]", "two  words"}}));
-    rows.write(1, 1, "   ");
-    rows.write(1, 0, "\t[TEST]\t");
+    write(rows, 1, 1, "   ");
+    write(rows, 1, 0, "\t[TEST]\t");
     EXPECT_EQ(rows.rows()(1), (KeywordRow{"\t[TEST]\t", ""}));
 }
 
@@ -57,7 +57,7 @@ TEST(KeywordRows, anyTextIsTaken)
     for (const std::string &text : {std::string(), std::string(1000, 'x'), std::string("\xFF"), std::string("[FOO")})
         for (const int column : {0, 1}) {
             EXPECT_EQ(rows.check(1, column, text), std::nullopt);
-            EXPECT_EQ(rows.write(1, column, text), std::nullopt);
+            EXPECT_EQ(write(rows, 1, column, text), std::nullopt);
             EXPECT_EQ(rows.read(1, column), text);
         }
 }
@@ -65,16 +65,18 @@ TEST(KeywordRows, anyTextIsTaken)
 TEST(KeywordRows, clearedCellIsEmpty)
 {
     KeywordRows rows = rowsOf("AB");
-    rows.clear(1, 1);
-    rows.clear(2, 0);
+    clear(rows, 1, 1);
+    clear(rows, 2, 0);
     EXPECT_EQ(rows.rows(), (OneBased<KeywordRow>{{"A", ""}, {"", "b"}}));
 }
 
-TEST(KeywordRows, appendKeepsTheRowsBefore)
+TEST(KeywordRows, appendedOnesKeepTheRowsBefore)
 {
     KeywordRows rows = rowsOf("AB");
-    rows.append();
-    EXPECT_EQ(shown(rows), "Aa Bb -");
+    write(rows, 4, KeywordRows::kKey, "D");
+    EXPECT_EQ(shown(rows), "Aa Bb - D");
+    write(rows, 5, KeywordRows::kKey, "  ");
+    EXPECT_EQ(rows.rowCount(), 4);
 }
 
 struct InsertCase {
@@ -92,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, KeywordInsert,
 TEST_P(KeywordInsert, putsAnEmptyRowBeforeTheRow)
 {
     KeywordRows rows = rowsOf("ABC");
-    rows.insert(GetParam().row);
+    apply(rows, rows.insertRow(GetParam().row));
     EXPECT_EQ(shown(rows), GetParam().after);
 }
 
@@ -113,12 +115,13 @@ INSTANTIATE_TEST_SUITE_P(Blocks, KeywordRemove,
 TEST_P(KeywordRemove, takesTheRowsThatExist)
 {
     KeywordRows rows = rowsOf("ABCD");
-    rows.remove(GetParam().first, GetParam().last);
+    if (auto edit = rows.deleteRows(GetParam().first, GetParam().last))
+        apply(rows, *std::move(edit));
     EXPECT_EQ(shown(rows), GetParam().after);
 }
 
 struct MoveCase {
-    bool (KeywordRows::*move)(int first, int last);
+    std::optional<GridEdit> (KeywordRows::*move)(int first, int last);
     int first;
     int last;
     std::string after;  ///< "" when nothing can be moved
@@ -147,14 +150,17 @@ INSTANTIATE_TEST_SUITE_P(Blocks, KeywordMove,
 TEST_P(KeywordMove, goesOverTheRowBesideTheBlock)
 {
     KeywordRows rows = rowsOf("ABCD");
-    EXPECT_EQ((rows.*GetParam().move)(GetParam().first, GetParam().last), !GetParam().after.empty());
+    auto edit = (rows.*GetParam().move)(GetParam().first, GetParam().last);
+    EXPECT_EQ(edit.has_value(), !GetParam().after.empty());
+    if (edit)
+        apply(rows, *std::move(edit));
     EXPECT_EQ(shown(rows), GetParam().after.empty() ? "Aa Bb Cc Dd" : GetParam().after);
 }
 
 TEST(KeywordRows, emptyRowHasNeitherKeyNorValue)
 {
     KeywordRows rows;
-    rows.setRows({{"", ""}, {"[TEST]", ""}, {"", "value"}, {"", ""}});
+    apply(rows, rows.loadRows({{"", ""}, {"[TEST]", ""}, {"", "value"}, {"", ""}}));
     EXPECT_EQ(rows.emptyRows(), (std::vector{1, 4}));
     EXPECT_TRUE(KeywordRows().emptyRows().empty());
 }

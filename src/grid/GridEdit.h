@@ -1,0 +1,76 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "grid/GridBlock.h"
+#include "platform/Dialogs.h"
+
+namespace penwright {
+
+/// A text for one cell.
+struct GridText {
+    int row = 0;
+    int column = 0;
+    std::string text;
+};
+
+/// What a source will hold once a change is made, in the source's own kind of values.
+class GridContent {
+public:
+    GridContent() = default;
+    GridContent(const GridContent &) = delete;
+    GridContent &operator=(const GridContent &) = delete;
+    virtual ~GridContent() = default;
+
+    /// Puts this in the place of what stands in the source, and keeps that instead: done twice, nothing has changed.
+    virtual void swap() = 0;
+};
+
+/// Why a change was refused, and the cell that wants the user's attention.
+struct RefusedEdit {
+    int row = 0;  ///< 0 when it concerns no cell
+    int column = 0;
+    MessageBox box;
+};
+
+/// How much of a grid a change is of.
+enum class GridReach {
+    Cells,   ///< the cells of its texts; rows may come in behind the last one
+    Values,  ///< every value, in the rows and columns that there are
+    Table,   ///< rows and columns too: the grid begins anew
+};
+
+/// One change of a grid, made by a source and handed to GridModel::apply. It is either of texts, which are checked
+/// there, or brings the content that its source has made and answers for.
+struct GridEdit {
+    std::string_view name;  ///< as a menu would call it: "Paste"
+    GridBlock block;        ///< what it is of, where it is of cells
+    GridReach reach = GridReach::Cells;
+    std::vector<GridText> texts;           ///< in reading order
+    int rows = 0;                          ///< how many rows there are afterwards at least
+    bool isWhole = true;                   ///< a refused text refuses all of them; otherwise it alone is left out
+    std::unique_ptr<GridContent> content;  ///< what stands afterwards; once applied, what stood before
+    std::optional<RefusedEdit> refused;    ///< what its source has refused already, or left out
+};
+
+class GridSource;
+
+/// The change that a text typed into a cell is. Nothing, in the row to append, where nothing of it would be kept.
+GridEdit typedEdit(const GridSource &source, int row, int column, std::string_view text);
+
+/// Delete over a block: empties the cells that can be edited, but for those that refuse it.
+GridEdit clearingEdit(const GridSource &source, const GridBlock &block);
+
+/// A block of texts pasted from the first cell of `block` on: all of it or, where a text is refused, nothing. Rows are
+/// appended where they can be. `title` is what messages about its size are titled with.
+GridEdit pastedEdit(const GridSource &source, const GridBlock &block, std::string_view text, const std::string &title);
+
+/// Checks the texts of an edit, each once, and gives it its content; none when nothing is to change.
+/// What was refused: of a whole edit, for the first cell of its block.
+std::optional<RefusedEdit> prepareEdit(GridEdit &edit, GridSource &source);
+
+}  // namespace penwright

@@ -1,0 +1,20 @@
+#pragma once
+
+class QKeyEvent;
+
+namespace penwright {
+
+/// Which of a grid's own keys a key press is.
+bool isEnter(const QKeyEvent &event);
+bool isTab(const QKeyEvent &event);
+
+/// Whether an Enter or a Tab goes on; with Shift it goes back.
+bool isForward(const QKeyEvent &event);
+
+/// F4 and Alt+Down.
+bool opensList(const QKeyEvent &event);
+
+/// The keys that a line of text has no use for: they commit and go on to move in the grid.
+bool movesRows(const QKeyEvent &event);
+
+}  // namespace penwright

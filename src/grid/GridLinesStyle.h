@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QProxyStyle>
+
+namespace penwright {
+
+/// Draws the lines between cells as visibly on dark as on light; the desktop's own colour may be that of the cells.
+class GridLinesStyle : public QProxyStyle {
+    Q_OBJECT
+
+public:
+    int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
+                  QStyleHintReturn *returned) const override;
+};
+
+}  // namespace penwright

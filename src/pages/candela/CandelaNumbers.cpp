@@ -1,0 +1,137 @@
+#include "pages/candela/CandelaNumbers.h"
+
+#include <utility>
+
+namespace penwright {
+namespace {
+
+/// What the working record takes over when the table is built.
+void swapBuilt(PhotometricRecord &one, PhotometricRecord &other)
+{
+    std::swap(one.NumHorzAngles, other.NumHorzAngles);
+    std::swap(one.NumVertAngles, other.NumVertAngles);
+    std::swap(one.PhotometricType, other.PhotometricType);
+    std::swap(one.HorAngles, other.HorAngles);
+    std::swap(one.VertAngles, other.VertAngles);
+    std::swap(one.Candela, other.Candela);
+}
+
+}  // namespace
+
+/// Cells one by one, each with the number that it gets.
+class CandelaNumbers::SingleCells : public GridContent {
+public:
+    SingleCells(CandelaNumbers &numbers, std::vector<Cell> cells) : m_numbers(numbers), m_cells(std::move(cells)) {}
+
+    void swap() override
+    {
+        for (Cell &cell : m_cells) {
+            std::swap(m_numbers.m_cells(cell.h, cell.v), cell.value);
+            m_numbers.keep(cell.h, cell.v);
+        }
+    }
+
+private:
+    CandelaNumbers &m_numbers;
+    std::vector<Cell> m_cells;
+};
+
+/// All cells, of which the first ones in reading order are new.
+class CandelaNumbers::PastedTable : public GridContent {
+public:
+    PastedTable(CandelaNumbers &numbers, OneBasedTable<CandelaCell> cells, int pasted)
+        : m_numbers(numbers), m_cells(std::move(cells)), m_pasted(pasted)
+    {
+    }
+
+    void swap() override
+    {
+        std::swap(m_numbers.m_cells, m_cells);
+        for (int h = 1; h <= m_cells.rows(); ++h)
+            for (int v = 1; v <= m_cells.columns() && (v - 1) * m_cells.rows() + h <= m_pasted; ++v)
+                m_numbers.keep(h, v);
+    }
+
+private:
+    CandelaNumbers &m_numbers;
+    OneBasedTable<CandelaCell> m_cells;
+    int m_pasted;
+};
+
+/// A table of the angles that a record has, and the working record that goes with it.
+class CandelaNumbers::NewTable : public GridContent {
+public:
+    NewTable(CandelaNumbers &numbers, const PhotometricRecord &from) : m_numbers(numbers)
+    {
+        const int horizontal = from.NumHorzAngles;
+        const int vertical = from.NumVertAngles;
+        m_work.NumHorzAngles = from.NumHorzAngles;
+        m_work.NumVertAngles = from.NumVertAngles;
+        m_work.PhotometricType = from.PhotometricType;
+        m_work.HorAngles = from.HorAngles;
+        m_work.HorAngles.resize(horizontal);
+        m_work.VertAngles = from.VertAngles;
+        m_work.VertAngles.resize(vertical);
+        m_work.Candela.reset(horizontal, vertical);
+        m_cells.reset(horizontal, vertical);
+        if (m_numbers.m_flags.GridStarted)
+            keepWhatFits();
+    }
+
+    void swap() override
+    {
+        OneBased<PhotometricRecord> &work = m_numbers.m_state.CandelaWorkRecord;
+        if (!m_numbers.m_flags.GridStarted || work.empty())
+            work.reset(1);
+        swapBuilt(work(1), m_work);
+        std::swap(m_numbers.m_cells, m_cells);
+        m_numbers.m_flags.GridReady = true;
+        m_numbers.m_flags.GridStarted = true;
+    }
+
+private:
+    void keepWhatFits()
+    {
+        const OneBasedTable<double> none;
+        const OneBased<PhotometricRecord> &work = m_numbers.m_state.CandelaWorkRecord;
+        const OneBasedTable<double> &kept = work.empty() ? none : work(1).Candela;
+        for (int h = 1; h <= m_cells.rows(); ++h)
+            for (int v = 1; v <= m_cells.columns(); ++v) {
+                if (h <= kept.rows() && v <= kept.columns())
+                    m_work.Candela(h, v) = kept(h, v);
+                m_cells(h, v) = m_work.Candela(h, v);
+            }
+    }
+
+    CandelaNumbers &m_numbers;
+    PhotometricRecord m_work;
+    OneBasedTable<CandelaCell> m_cells;
+};
+
+std::unique_ptr<GridContent> CandelaNumbers::withCells(std::vector<Cell> cells)
+{
+    return std::make_unique<SingleCells>(*this, std::move(cells));
+}
+
+std::unique_ptr<GridContent> CandelaNumbers::withFirst(OneBasedTable<CandelaCell> cells, int count)
+{
+    return std::make_unique<PastedTable>(*this, std::move(cells), count);
+}
+
+std::unique_ptr<GridContent> CandelaNumbers::ofAngles(const PhotometricRecord &from)
+{
+    return std::make_unique<NewTable>(*this, from);
+}
+
+/// Has the working record follow a cell.
+void CandelaNumbers::keep(int h, int v)
+{
+    // The host may have put a record of another size in the place of the working one.
+    if (m_state.CandelaWorkRecord.empty())
+        return;
+    OneBasedTable<double> &kept = m_state.CandelaWorkRecord(1).Candela;
+    if (h <= kept.rows() && v <= kept.columns())
+        kept(h, v) = numberOf(m_cells(h, v)).value_or(0);
+}
+
+}  // namespace penwright
