@@ -18,6 +18,9 @@ namespace {
 const std::vector<std::string> kMessageCode{"core",
                                             "wizard",
                                             "pages",
+                                            "grid",
+                                            "plot",
+                                            "controls",
                                             "hostlink",
                                             "app/StartUp.cpp",
                                             "app/Tool.h",
@@ -29,8 +32,7 @@ const std::vector<std::string> kMessageCode{"core",
                                             "help/window/QtHelpViewer.cpp"};
 
 /// Texts of several words that are no messages: they are read out by screen readers, stand in a log that is never
-/// shown, are the title of a window that is hidden still or a dialog's filter, or belong to a state of a page not in
-/// use.
+/// shown, are the title of a window that is hidden still or a dialog's filter, or are said by the compiler.
 const std::set<std::string> kNoMessages{
     "What is missing or wrong",
     "Sketch of the luminous shape",
@@ -61,7 +63,7 @@ const std::set<std::string> kNoMessages{
     "Problem parsing horizontal angles",
     "New Photometric File",
     "IES files (*.ies)|*.ies;*.IES",
-    "The values of this page come from the record that the host hands over.",
+    "each shape has its solid, in the order of the list",
 };
 
 bool isLetter(char c)
