@@ -83,19 +83,11 @@ public:
         if (found == m_topics.end())
             return std::nullopt;
         const std::string link = decoded(found->second);
-        const auto place = find(link);
+        const auto place = findStored(link);
         return place ? place : placeOfLink(link);
     }
 
-    std::optional<HelpPlace> find(const std::string &link) const override
-    {
-        HelpPlace place = placeOfLink(link);
-        const auto name = m_container.findName(place.topic);
-        if (!name || !isPageName(*name))
-            return std::nullopt;
-        place.topic = *name;
-        return place;
-    }
+    std::optional<HelpPlace> find(const std::string &link) const override { return pageAt(placeOfLink(link)); }
 
     std::string page(const std::string &topic) override
     {
@@ -139,6 +131,24 @@ public:
     }
 
 private:
+    std::optional<HelpPlace> pageAt(HelpPlace place) const
+    {
+        const auto name = m_container.findName(place.topic);
+        if (!name || !isPageName(*name))
+            return std::nullopt;
+        place.topic = *name;
+        return place;
+    }
+
+    /// As `find`, for what the compiler wrote down itself: some store the absolute paths of the machine they ran on.
+    std::optional<HelpPlace> findStored(const std::string &link) const
+    {
+        for (HelpPlace &place : placesOfStoredLink(link))
+            if (auto found = pageAt(std::move(place)))
+                return found;
+        return std::nullopt;
+    }
+
     std::optional<std::string> readable(const std::string &name)
     {
         try {
@@ -163,12 +173,12 @@ private:
     void readContentsFile()
     {
         for (const ContentsLine &line : readContents(decoded(objectOrNothing(contentsName()))))
-            m_contents.push_back({line.title, line.depth, line.link.empty() ? std::nullopt : find(line.link)});
+            m_contents.push_back({line.title, line.depth, line.link.empty() ? std::nullopt : findStored(line.link)});
     }
 
     void chooseHome()
     {
-        if (const auto named = find(decoded(m_system.defaultTopic)))
+        if (const auto named = findStored(decoded(m_system.defaultTopic)))
             m_home = *named;
         for (const HelpEntry &entry : m_contents)
             if (m_home.topic.empty() && entry.place)

@@ -2,7 +2,8 @@
 
 #include <algorithm>
 #include <charconv>
-#include <vector>
+
+#include "help/chm/Limits.h"
 
 namespace penwright::chm {
 namespace {
@@ -42,6 +43,14 @@ std::string plainPath(const std::string &path)
     return result;
 }
 
+/// Whether a link is a path from the root of a machine, with a drive's letter or without.
+bool isAbsolutePath(std::string_view link)
+{
+    if (link.size() > 2 && link[1] == ':')
+        link.remove_prefix(2);
+    return !link.empty() && (link.front() == '/' || link.front() == '\\');
+}
+
 }  // namespace
 
 std::string lowerCase(std::string_view text)
@@ -75,6 +84,19 @@ HelpPlace placeOfLink(std::string_view link)
     std::replace(path.begin(), path.end(), '\\', '/');
     place.topic = plainPath(path);
     return place;
+}
+
+std::vector<HelpPlace> placesOfStoredLink(std::string_view link)
+{
+    const HelpPlace named = placeOfLink(link);
+    std::vector<HelpPlace> places{named};
+    if (!isAbsolutePath(link))
+        return places;
+    for (std::size_t slash = named.topic.rfind('/'); slash != std::string::npos && places.size() <= kMostTails;
+         slash = slash == 0 ? std::string::npos : named.topic.rfind('/', slash - 1))
+        places.push_back({named.topic.substr(slash + 1), named.anchor});
+    std::reverse(places.begin() + 1, places.end());
+    return places;
 }
 
 }  // namespace penwright::chm

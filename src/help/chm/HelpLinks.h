@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "help/HelpFile.h"
 
@@ -17,5 +18,9 @@ bool isPageName(std::string_view name);
 /// before the last "::" is dropped, "\" is "/", percent signs are decoded, "." and ".." are followed but not beyond the
 /// top, what follows "?" is dropped, what follows "#" is the anchor.
 HelpPlace placeOfLink(std::string_view link);
+
+/// The places that a link written by a compiler may mean, the likeliest first: the one that it names and, when it is an
+/// absolute path of the machine that compiled the file, each shorter tail of that path within the limits.
+std::vector<HelpPlace> placesOfStoredLink(std::string_view link);
 
 }  // namespace penwright::chm

@@ -13,6 +13,7 @@ inline constexpr std::size_t kLargestObject = 16 * kMiB;
 inline constexpr std::size_t kMostNames = 20000;
 inline constexpr std::size_t kMostMemory = 128 * kMiB;  ///< of the decompressor
 inline constexpr int kDeepestEntry = 63;
+inline constexpr std::size_t kMostTails = 32;  ///< of an absolute path that are looked for
 
 /// How far into the compressed contents an object may lie: all before it must be decompressed to reach it.
 inline constexpr std::size_t kLongestWay = 256 * kMiB;

@@ -129,6 +129,43 @@ TEST(OtherMakers, idsMayLeadToAnchorsInFolders)
     EXPECT_EQ(errorOf([&] { file->page("gone.html"); }), "The help file lacks a page: gone.html in /help/x.chm");
 }
 
+// One compiler stores the paths of the machine that it ran on; a page of the same name may lie in several folders.
+TEST(OtherMakers, mayStoreAbsolutePaths)
+{
+    const std::string strings =
+        "\0/home/u/help/index.html\0/home/u/help/B/index.html#low\0C:\\help\\b\\Index.html\0/home/u/help/gone.html\0"
+        "home/u/help/index.html\0"s;
+    std::vector<std::pair<unsigned, unsigned>> ids;
+    for (unsigned id = 1, offset = 1; offset < strings.size();
+         ++id, offset = static_cast<unsigned>(strings.find('\0', offset)) + 1)
+        ids.emplace_back(id, offset);
+    ASSERT_EQ(ids.size(), 5u);
+    const auto file =
+        fileOf({{"/#IVB", idObject(ids)},
+                {"/#STRINGS", strings},
+                {"/#SYSTEM", systemObject({{2, "/home/u/help/b/index.html"}})},
+                {"/toc.hhc", sampleEntry("A", "/home/u/help/index.html#top") +
+                                 sampleEntry("B", "D:/other/b/index.html") + sampleEntry("C", "/home/u/index.htm")},
+                {"/b/index.html", kPage},
+                {"/index.html", kPage}});
+    EXPECT_EQ(file->topicFor(1), (HelpPlace{"index.html", ""}));
+    EXPECT_EQ(file->topicFor(2), (HelpPlace{"b/index.html", "low"}));
+    EXPECT_EQ(file->topicFor(3), (HelpPlace{"b/index.html", ""}));
+    EXPECT_EQ(file->topicFor(4), (HelpPlace{"home/u/help/gone.html", ""})) << "no tail is a page";
+    EXPECT_EQ(file->topicFor(5), (HelpPlace{"home/u/help/index.html", ""})) << "it is no absolute path";
+    EXPECT_EQ(file->home(), (HelpPlace{"b/index.html", ""}));
+    EXPECT_EQ(contentsOf(*file), "A -> index.html#top\nB -> b/index.html#\nC -> \n");
+    EXPECT_EQ(file->find("/home/u/help/index.html"), std::nullopt) << "a link in a page is no stored path";
+}
+
+TEST(OtherMakers, absolutePathsOfARealFileLeadToItsPages)
+{
+    const auto file = openChm(DATA_FOLDER "/absolute-paths.chm");
+    EXPECT_EQ(file->topicFor(5), (HelpPlace{"index.html", ""}));
+    EXPECT_EQ(file->topicFor(6), (HelpPlace{"parts/index.html", ""}));
+    EXPECT_NE(file->page("parts/index.html").find("Ballast factor."), std::string::npos);
+}
+
 TEST(OtherMakers, mayWriteTheFirstGuidTwice)
 {
     std::string bytes = sampleHelp();

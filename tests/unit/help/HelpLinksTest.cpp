@@ -40,6 +40,40 @@ INSTANTIATE_TEST_SUITE_P(Forms, Link,
                              {"", "", ""},
                          }));
 
+std::string placesOf(const std::string &link)
+{
+    std::string places;
+    for (const HelpPlace &place : placesOfStoredLink(link))
+        places += place.topic + "#" + place.anchor + " ";
+    return places;
+}
+
+TEST(StoredLink, thatIsAnAbsolutePathMayMeanEachOfItsTails)
+{
+    EXPECT_EQ(placesOf("/a/b/../c/d.html#e"), "a/c/d.html#e c/d.html#e d.html#e ");
+    EXPECT_EQ(placesOf("C:\\a\\d.html"), "C:/a/d.html# a/d.html# d.html# ");
+    EXPECT_EQ(placesOf("\\\\server\\d.html"), "server/d.html# d.html# ");
+    EXPECT_EQ(placesOf("/d.html"), "d.html# ");
+}
+
+TEST(StoredLink, thatIsNoAbsolutePathMeansWhatItNames)
+{
+    for (const char *link : {"a/d.html", "../a/d.html", "x.chm::/a/d.html", "mk:@MSITStore:C:\\x.chm::/a/d.html"})
+        EXPECT_EQ(placesOf(link), "a/d.html# ") << link;
+    EXPECT_EQ(placesOf(""), "# ");
+}
+
+TEST(StoredLink, isLookedForByItsLastFoldersOnly)
+{
+    std::string path;
+    for (int i = 0; i < 5000; ++i)
+        path += "/a";
+    const auto places = placesOfStoredLink(path + "/d.html");
+    ASSERT_EQ(places.size(), 33u);
+    EXPECT_EQ(places.back().topic, "d.html");
+    EXPECT_EQ(places[1].topic.size(), 31 * 2 + 6u);
+}
+
 TEST(PageName, isKnownByItsEnding)
 {
     for (const char *name : {"a.htm", "b/A.HTML", "x.y.xhtml"})
