@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -114,6 +115,33 @@ TEST_F(ExampleLuminaire, withTiltDataHasTheLinesOfTheTiltTopic)
     const std::string tilt = withFileLineEnds(topic("tilt.html").titled("pre", "tilt"));
     ASSERT_NE(tilt, "");
     EXPECT_TRUE(textOf(record).starts_with("IESNA:LM-63-2002 \r\n" + tilt + "\r\n")) << textOf(record);
+}
+
+/// How many lines the file of a table has: each angle and value five characters long.
+int linesOfATable(int angles)
+{
+    PhotometricRecord record;
+    record.Keywords.append("IESNA:LM-63-2002 ");
+    record.NumVertAngles = record.NumHorzAngles = static_cast<std::int16_t>(angles);
+    record.Candela = OneBasedTable<double>(angles, angles);
+    for (int i = 1; i <= angles; ++i) {
+        record.VertAngles.append(100.5F + static_cast<float>(i));
+        record.HorAngles.append(100.5F + static_cast<float>(i));
+        for (int v = 1; v <= angles; ++v)
+            record.Candela(i, v) = 12345;
+    }
+    const std::string text = textOf(record);
+    return 1 + static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+}
+
+TEST(LargestTable, thatIsNeverFoldedIsTheOneThatTheTopicNames)
+{
+    constexpr int kOtherLines = 4;  // version, tilt, photometric and ballast line
+    EXPECT_EQ(linesOfATable(22), kOtherLines + 2 + 22);
+    EXPECT_EQ(linesOfATable(23), kOtherLines + 2 * (2 + 23));
+    const std::string text = topic("format.html").sectionAt("width");
+    EXPECT_NE(text.find("at most 22 vertical and 22 horizontal angles never folds"), std::string::npos);
+    EXPECT_NE(text.find("more than five characters"), std::string::npos);
 }
 
 TEST_F(ExampleLuminaire, isNumberedByLinesAsTheTopicNumbersThem)

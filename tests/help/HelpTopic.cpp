@@ -67,6 +67,16 @@ HtmlToken tagOf(std::string_view inside)
     return token;
 }
 
+using TokenPlace = std::vector<HtmlToken>::const_iterator;
+
+std::string textBetween(TokenPlace begin, TokenPlace end)
+{
+    std::string text;
+    for (; begin != end; ++begin)
+        text += kBlockEnds.count(begin->tag) ? " " : begin->text;
+    return collapsed(text);
+}
+
 }  // namespace
 
 std::string contentOf(const std::string &path)
@@ -120,10 +130,30 @@ HelpTopic::HelpTopic(const std::string &path) : m_tokens(htmlTokens(contentOf(pa
 
 std::string HelpTopic::text() const
 {
-    std::string text;
-    for (const HtmlToken &token : m_tokens)
-        text += kBlockEnds.count(token.tag) ? " " : token.text;
-    return collapsed(text);
+    return textBetween(m_tokens.begin(), m_tokens.end());
+}
+
+std::string HelpTopic::linkOf(std::string_view text) const
+{
+    for (auto open = m_tokens.begin(); open != m_tokens.end(); ++open) {
+        const auto link = open->attributes.find("href");
+        if (open->tag != "a" || link == open->attributes.end())
+            continue;
+        const auto close = std::find_if(open, m_tokens.end(), [](const HtmlToken &token) { return token.tag == "/a"; });
+        if (textBetween(open, close) == text)
+            return link->second;
+    }
+    return {};
+}
+
+std::string HelpTopic::sectionAt(std::string_view anchor) const
+{
+    const auto isHeading = [](const HtmlToken &token) { return token.tag == "h2" || token.tag == "h3"; };
+    const auto begin = std::find_if(m_tokens.begin(), m_tokens.end(), [anchor](const HtmlToken &token) {
+        const auto name = token.attributes.find("name");
+        return token.tag == "a" && name != token.attributes.end() && name->second == anchor;
+    });
+    return textBetween(begin, std::find_if(begin, m_tokens.end(), isHeading));
 }
 
 std::vector<std::vector<std::string>> HelpTopic::fixedPartsOf(std::string_view className) const

@@ -42,6 +42,12 @@ public:
     /// The values of an attribute of a tag, in their order.
     std::vector<std::string> valuesOf(std::string_view tag, const std::string &attribute) const;
 
+    /// Where the link of a text leads to; nothing when no link has it.
+    std::string linkOf(std::string_view text) const;
+
+    /// What stands between the heading that holds an anchor and the next heading, white space collapsed.
+    std::string sectionAt(std::string_view anchor) const;
+
     /// The text of the element of a tag and title.
     std::string titled(std::string_view tag, std::string_view title) const;
 

@@ -75,11 +75,11 @@ TEST(HelpProject, givesEachPageItsTopicById)
     EXPECT_EQ(sections["[ALIAS]"].size(), kPages.size());
 }
 
-TEST(HelpProject, isNamedAndBeginsWithTheFirstPage)
+TEST(HelpProject, isNamedAndBeginsWithTheFirstTopic)
 {
     const auto options = projectSections()["[OPTIONS]"];
     EXPECT_TRUE(contains(options, "Title=New Photometric File - Help"));
-    EXPECT_TRUE(contains(options, "Default topic=lamp.html"));
+    EXPECT_TRUE(contains(options, std::string("Default topic=") + kFirstTopic));
     EXPECT_TRUE(contains(options, "Contents file=" + kContents));
 }
 
@@ -114,6 +114,8 @@ TEST(HelpContents, leadsToEveryTopicAndNowhereElse)
         EXPECT_TRUE(leadsSomewhere(local, "")) << links[i] << " " << local;
         EXPECT_TRUE(reached.insert(local).second) << local;
     }
+    ASSERT_GT(links.size(), 1U);
+    EXPECT_EQ(links[1], kFirstTopic);
     for (const std::string &name : topicNames()) {
         EXPECT_TRUE(reached.count(name)) << name;
         for (const std::string &anchor : anchorsOf(name))

@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdio>
+#include <numbers>
 #include <string>
 #include <vector>
 
 #include "core/IesText.h"
 #include "core/PhotometricRecord.h"
 #include "pages/distribution/PredefinedAngles.h"
+#include "pages/keywords/KeywordLines.h"
 #include "pages/keywords/KeywordTable.h"
 #include "pages/luminaire/LuminousShapes.h"
 #include "SourceTexts.h"
@@ -23,9 +26,10 @@ TEST(HelpTables, explainEveryCaptionOfThePagesForm)
         const std::string text = topic(page.topic).text();
         for (const std::string &caption : captions)
             EXPECT_NE(text.find(caption), std::string::npos) << page.topic << " " << caption;
-        for (const char *button : {"Next >", "< Back", "Cancel", "Help"})
-            EXPECT_TRUE(contains(topic(page.topic).textsOf("ui"), button)) << page.topic << " " << button;
+        EXPECT_EQ(topic(page.topic).linkOf("Keys"), "keys.html") << page.topic;
     }
+    for (const char *button : {"Next >", "< Back", "Cancel", "Help"})
+        EXPECT_TRUE(contains(topic("keys.html").textsOf("ui"), button)) << button;
 }
 
 /// The texts marked as captions that a table of the program holds, in the order of the topic.
@@ -58,19 +62,52 @@ TEST(HelpTables, holdTheTwentyKeywordsInTheOrderOfTheList)
     EXPECT_EQ(markedOf("keywords.html", kVersionLines, keyword), textsOf(kVersionLines, keyword));
 }
 
-TEST(HelpTables, holdThePredefinedSetsInTheOrderOfTheLists)
+TEST(HelpTables, countThePredefinedSetsOfEachList)
 {
-    const auto same = [](std::string_view text) { return text; };
-    std::size_t count = 0;
-    for (const auto &[type, axis] : {std::pair{kTypeC, AngleAxis::Vertical}, std::pair{kTypeC, AngleAxis::Horizontal},
-                                     std::pair{kTypeB, AngleAxis::Vertical}}) {
-        const auto sets = predefinedAngles(type, axis);
-        EXPECT_EQ(markedOf("angles.html", sets, same), textsOf(sets, same));
-        count += sets.size();
-    }
-    EXPECT_EQ(count, 27U);
+    const auto sizeOf = [](std::int16_t type, AngleAxis axis) {
+        return std::to_string(predefinedAngles(type, axis).size());
+    };
+    const std::string text = topic("angles.html").sectionAt("lists");
+    const std::string typeC = sizeOf(kTypeC, AngleAxis::Vertical) + " vertical and " +
+                              sizeOf(kTypeC, AngleAxis::Horizontal) + " horizontal sets for type C";
+    const std::string typeB = sizeOf(kTypeB, AngleAxis::Vertical) + " that serve both lists of type B";
+    EXPECT_NE(text.find(typeC), std::string::npos) << typeC;
+    EXPECT_NE(text.find(typeB), std::string::npos) << typeB;
+    const auto same = [](std::string_view set) { return set; };
     EXPECT_EQ(textsOf(predefinedAngles(kTypeB, AngleAxis::Horizontal), same),
               textsOf(predefinedAngles(kTypeB, AngleAxis::Vertical), same));
+}
+
+/// What a keyword row of a count becomes in the file, in characters.
+std::size_t lineLengthOf(int count)
+{
+    OneBased<KeywordRow> rows;
+    rows.append({"[OTHER]", std::string(static_cast<std::size_t>(count) - 7, 'x')});
+    EXPECT_EQ(rows(1).length(), count);
+    PhotometricRecord record;
+    storeKeywordLines(rows, record);
+    return record.Keywords(1).size();
+}
+
+TEST(HelpTables, adviseTheCountsThatMakeLinesOfTheRightLength)
+{
+    const std::string text = topic("keywords.html").sectionAt("table");
+    EXPECT_NE(text.find("stay at a count of 252, for the blank makes 253"), std::string::npos);
+    EXPECT_EQ(lineLengthOf(252), 253U);
+    EXPECT_NE(text.find("a keyword line may have 80: stay at 79"), std::string::npos);
+    EXPECT_EQ(lineLengthOf(79), 80U);
+}
+
+TEST(HelpTables, giveTheSolidAngleOfEachZone)
+{
+    const std::string text = topic("finish.html").sectionAt("lumens");
+    const auto cosine = [](int degrees) { return std::cos(degrees * std::numbers::pi / 180); };
+    for (int zone = 0; zone < 90; zone += 10) {
+        char row[40];
+        std::snprintf(row, sizeof row, "%d to %d %d %.3f", zone, zone + 10, zone + 5,
+                      2 * std::numbers::pi * (cosine(zone) - cosine(zone + 10)));
+        EXPECT_NE(text.find(row), std::string::npos) << row;
+    }
 }
 
 /// A rule of the signs as the topic writes it.

@@ -26,6 +26,9 @@ inline std::vector<std::string> topicNames()
     return names;
 }
 
+/// The topic that the help begins with when no page is meant.
+inline constexpr const char *kFirstTopic = "start.html";
+
 /// One topic with the form of its page.
 struct PageTopic {
     const char *topic;
