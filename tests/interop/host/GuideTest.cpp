@@ -118,6 +118,22 @@ TEST_P(GuideHost, givesTheWizardAPlaceInAWindow)
     EXPECT_TRUE(m_display.children(number).empty());
 }
 
+TEST_P(GuideHost, goesOnWhenItsToolAsksForFreshRecords)
+{
+    std::filesystem::create_symlink(FAKE_TOOL, m_folder.file("PenwrightPE"));
+    Process host(command(), {{"PATH", m_folder.path().string() + ":" + qgetenv("PATH").toStdString()},
+                             {"FAKE_TOOL", "RefreshData"},
+                             {"FAKE_TOOL_LOG", m_folder.file("log")}});
+    const auto log = [&] {
+        return std::filesystem::exists(m_folder.file("log")) ? contentOf(m_folder.file("log")) : "";
+    };
+    ASSERT_TRUE(waitFor([&] { return log().find("then Filename1 is") != std::string::npos; }));
+    // Several looks into its inbox.
+    EXPECT_FALSE(waitUntil([&] { return host.hasEnded() || log().find("CLOSE") != std::string::npos; }, 1s));
+    host.signal(GetParam().interrupt);
+    EXPECT_EQ(endOf(host), 0);
+}
+
 INSTANTIATE_TEST_SUITE_P(Languages, GuideHost,
                          testing::Values(HostCase{"sh", "host.sh", SIGTERM, kFromShell},
                                          HostCase{"python3", "host.py", SIGINT, kFromPython}),
