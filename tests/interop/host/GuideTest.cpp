@@ -1,11 +1,9 @@
 #include <penwright_host/HostedTool.h>
 
 #include <csignal>
-#include <map>
 #include <QWidget>
 
 #include "interop/host/Guide.h"
-#include "platform/sqlite/SqliteSettingsStore.h"
 
 namespace penwright::test {
 namespace {
@@ -138,74 +136,6 @@ INSTANTIATE_TEST_SUITE_P(Languages, GuideHost,
                          testing::Values(HostCase{"sh", "host.sh", SIGTERM, kFromShell},
                                          HostCase{"python3", "host.py", SIGINT, kFromPython}),
                          [](const auto &row) { return row.param.interpreter; });
-
-HostRecord recordOfThePage()
-{
-    HostRecord record;
-    record.filename = "/home/me/pendant, two lamps.ies";
-    record.keywords = {"IESNA:LM-63-2002", "[TEST] 2214-07", "[MANUFAC] Müller & Sons"};
-    record.tiltIncluded = true;
-    record.tiltGeometry = 1;
-    record.tiltAngles = {0, 45, 90};
-    record.tiltFactors = {1, 0.94F, 0.9F};
-    record.lamps = 2;
-    record.lumensPerLamp = 4450;
-    record.candelaMultiplier = 1;
-    record.photometricType = 1;
-    record.units = 2;
-    record.width = 0.18F;
-    record.length = 1.183F;
-    record.height = 0.06F;
-    record.ballastFactor = 0.95F;
-    record.inputWatts = 117.4F;
-    record.horizontalAngles = {0, 90};
-    record.verticalAngles = {0, 45, 90};
-    record.candela = {2480.4, 1424.6, 0, 2480.4, 1723.8, 0.5};
-    record.optionalData = "comes back as it is";
-    record.pictureFilename = "pendant.png";
-    return record;
-}
-
-class GuideRecord : public Guide {
-protected:
-    /// The values of the section that are not empty.
-    static std::map<std::string, std::string> values()
-    {
-        std::map<std::string, std::string> values;
-        SqliteSettingsStore settings(HostStore::userPath());
-        for (const Setting &setting : settings.readAll("Lumentor_PE", "Host_4711_7"))
-            if (!setting.data.empty())
-                values[setting.name] = setting.data;
-        return values;
-    }
-
-    void runRecordSql()
-    {
-        Process sql({"sqlite3", HostStore::userPath(), ".read " + extract("record.sql")}, {}, Process::Errors::Joined);
-        EXPECT_EQ(sql.readAll(), "");
-        EXPECT_EQ(sql.waitForEnd(), 0);
-    }
-
-    HostStore m_store;
-    HostedTool m_tool{m_store, {.window = 1, .section = "Host_4711_7"}};
-};
-
-TEST_F(GuideRecord, theRecordOfThePageIsReadAsItSays)
-{
-    runRecordSql();
-    ASSERT_EQ(m_tool.loadRecords().size(), 1U);
-    EXPECT_EQ(m_tool.loadRecords()[0].problem, "");
-    EXPECT_EQ(m_tool.loadRecords()[0].record, recordOfThePage());
-}
-
-TEST_F(GuideRecord, theRecordOfThePageIsWhatIsWrittenToTheLetter)
-{
-    runRecordSql();
-    const auto ofThePage = values();
-    m_tool.storeRecords({recordOfThePage()});
-    EXPECT_EQ(values(), ofThePage);
-    EXPECT_EQ(ofThePage.size(), 11U);
-}
 
 }  // namespace
 }  // namespace penwright::test
