@@ -44,19 +44,23 @@ protected:
         return waitFor([&] { return m_display.focusedTitle() == LuminaireTyper::captionOf(page); });
     }
 
-    /// Types a whole luminaire into the wizard that comes up, and finishes it unnamed.
-    bool finishLuminaire()
+    /// Types a luminaire into pages 1 to `last` of the wizard that comes up, and leaves each by Next.
+    bool fillPages(int last, const PhotometricRecord &luminaire = sampleLuminaire())
     {
-        const PhotometricRecord luminaire = sampleLuminaire();
         QGuiApplication::clipboard()->setText(LuminaireTyper::candelaTable(luminaire));
-        for (int page = 1; page <= 5; ++page) {
+        for (int page = 1; page <= last; ++page) {
             if (!waitForPage(page))
                 return false;
             LuminaireTyper(m_display, luminaire).typePage(page);
-            m_display.pressKey('n', kKeyAlt);
+            pressNext();
         }
-        return waitForPage(6) && m_display.pressKey(kKeySpace);
+        return waitForPage(last + 1);
     }
+
+    void pressNext() { m_display.pressKey('n', kKeyAlt); }
+
+    /// Types a whole luminaire into the wizard that comes up, and finishes it unnamed.
+    bool finishLuminaire() { return fillPages(5) && m_display.pressKey(kKeySpace); }
 
     /// Waits for a process that prints little, while this one answers for its clipboard.
     static std::optional<int> endOf(Process &process)
