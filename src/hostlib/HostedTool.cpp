@@ -88,6 +88,8 @@ void HostedTool::start(const std::string &program)
 {
     if (processId() > 0)
         throw std::runtime_error("the tool has been started before");
+    if (const std::string problem = addressProblem(address()); !problem.empty())
+        throw std::runtime_error(problem);
     m_parts->link.forget();
     m_parts->process.start(program, commandLine());
 }

@@ -189,6 +189,20 @@ TEST_F(HostedToolTest, aProgramThatIsNotThereIsAnError)
     EXPECT_EQ(m_ends, 0);
 }
 
+TEST_F(HostedToolTest, anAddressThatNoToolTakesIsAnErrorAndTouchesNothing)
+{
+    SqliteSettingsStore(HostStore::userPath()).write(kApplication, "Sec", "Filename1", "kept");
+    HostedTool tool(m_store, {.window = 123, .inbox = "Filename1", .section = "Sec"});
+    try {
+        tool.start(FAKE_TOOL);
+        FAIL() << "started";
+    } catch (const std::runtime_error &error) {
+        EXPECT_STREQ(error.what(), "the inbox is \"Filename1\", a value of a record");
+    }
+    EXPECT_EQ(tool.processId(), -1);
+    EXPECT_EQ(section().size(), 1U);
+}
+
 TEST_F(HostedToolTest, startingTwiceIsAnError)
 {
     behave("wait");

@@ -50,7 +50,7 @@ public:
     void onText(std::function<void(LinkWay, const std::string &)> handler);
 
     /// Empties the tool's section of what an earlier run may have left, and starts the executable, looked for in $PATH
-    /// when the name has no slash. std::runtime_error when it cannot be started. Once only.
+    /// when the name has no slash. std::runtime_error when it cannot be started, or not with this address. Once only.
     void start(const std::string &program = "PenwrightPE");
 
     /// Queues a command; the tool takes one at a time.
