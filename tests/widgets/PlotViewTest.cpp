@@ -8,8 +8,8 @@
 #include <numbers>
 
 #include "platform/RunTimeError.h"
-#include "plot/PlotLook.h"
 #include "plot/PlotFonts.h"
+#include "plot/PlotLook.h"
 #include "plot/PlotView.h"
 #include "support/PlotTables.h"
 
