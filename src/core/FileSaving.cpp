@@ -28,9 +28,9 @@ std::optional<RunTimeError> errorOfWriting(const std::string &path, std::string_
 
 }  // namespace
 
-bool saveFile(const std::string &path, const TextMaker &make, TextFiles &files, Dialogs &dialogs)
+bool saveFile(std::string_view path, const TextMaker &make, TextFiles &files, Dialogs &dialogs)
 {
-    const std::string kept = path;  // a host command may replace what the path belongs to while the message is shown
+    const std::string kept(path);  // a host command may replace what the path belongs to while the message is shown
     std::string text;
     std::optional<RunTimeError> error = errorOfMaking(make, text);
     text += "\r\n";

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace penwright {
 
@@ -15,6 +16,6 @@ using TextMaker = std::function<void(std::string &text)>;
 /// OK and Cancel. True: the file was written, at once or on the retry that OK asks for. False: the user chose Cancel,
 /// or the program is unloading. An error on the retry is raised to the caller. The retry does not make the text again:
 /// what an error while making has left is what it writes.
-bool saveFile(const std::string &path, const TextMaker &make, TextFiles &files, Dialogs &dialogs);
+bool saveFile(std::string_view path, const TextMaker &make, TextFiles &files, Dialogs &dialogs);
 
 }  // namespace penwright

@@ -93,7 +93,7 @@ class FieldReader {
 public:
     explicit FieldReader(std::string_view text) : m_table(SplitCommandText(text).table) {}
 
-    double number() { return leadingNumber(m_table(1, ++m_taken)); }
+    double number() { return leadingNumber(m_table(1, ++m_field)); }
     float single() { return toSingle(number()); }
     std::int16_t whole() { return toInt16(number()); }
 
@@ -116,7 +116,7 @@ public:
 
 private:
     FieldTable m_table;
-    int m_taken = 0;
+    int m_field = 0;  ///< the one read last
 };
 
 using Texts = std::function<std::string(std::string_view)>;

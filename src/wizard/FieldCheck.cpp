@@ -12,7 +12,7 @@ public:
     {
     }
 
-    void run(int kinds)
+    void check(int kinds)
     {
         if (m_text.empty())
             return add(" is empty.");
@@ -60,7 +60,7 @@ private:
 
 void gsbCheckField(WarningList &dlgWarn, std::string_view caption, std::string_view text, int kinds)
 {
-    FieldCheck(dlgWarn, caption, text).run(kinds);
+    FieldCheck(dlgWarn, caption, text).check(kinds);
 }
 
 }  // namespace penwright

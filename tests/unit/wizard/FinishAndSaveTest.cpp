@@ -118,6 +118,15 @@ TEST_F(FinishAndSaveTest, retryThatSucceedsFinishes)
     EXPECT_EQ(posted, "SendNewDataClose,PenwrightPE,7;");
 }
 
+TEST_F(FinishAndSaveTest, textThatCannotBeMadeIsWrittenOnTheRetryAsFarAsItGot)
+{
+    bench.state.PhotFiles(1).NumVertAngles = 3;
+    bench.dialogs.names = {"a.ies"};
+    finish(true);
+    ASSERT_EQ(bench.files.written.size(), 1u);
+    EXPECT_EQ(bench.files.written[0].second, "IESNA:LM-63-2002\r\nTILT=NONE\r\n2 0 0 3 0 0 0 0 0 0\r\n0 1 0\r\n\r\n");
+}
+
 TEST_F(FinishAndSaveTest, secondErrorShowsTheSameTextWithOkAloneAndPostsNothing)
 {
     bench.dialogs.names = {"/full/a.ies"};
