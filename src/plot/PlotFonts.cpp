@@ -17,11 +17,6 @@ QFont smaller(QFont font)
     return font;
 }
 
-std::function<double(std::string_view)> widthIn(const QFontMetricsF &metrics)
-{
-    return [metrics](std::string_view text) { return metrics.horizontalAdvance(QString::fromUtf8(text)); };
-}
-
 }  // namespace
 
 PlotFonts::PlotFonts(const QFont &font) : m_plain(font), m_figures(smaller(font)), m_letters(m_figures)
@@ -32,13 +27,15 @@ PlotFonts::PlotFonts(const QFont &font) : m_plain(font), m_figures(smaller(font)
 PlotTextRoom PlotFonts::room() const
 {
     const QFontMetricsF figures(m_figures);
-    const QFontMetricsF letters(m_letters);
     return {
         .plainHeight = QFontMetricsF(m_plain).capHeight(),
         .figureHeight = figures.capHeight(),
-        .letterHeight = letters.capHeight(),
-        .figureWidth = widthIn(figures),
-        .letterWidth = widthIn(letters),
+        .figureWidth = [figures](std::string_view text) { return figures.horizontalAdvance(QString::fromUtf8(text)); },
+        .letterSize =
+            [font = m_letters](std::string_view text) {
+                const QFontMetricsF letters(font);
+                return PlotTextSize{letters.horizontalAdvance(QString::fromUtf8(text)), letters.capHeight()};
+            },
     };
 }
 

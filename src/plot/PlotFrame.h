@@ -21,13 +21,18 @@ struct PlotBox {
     double height = 0;
 };
 
+/// The room of one text, in logical pixels.
+struct PlotTextSize {
+    double width = 0;
+    double height = 0;
+};
+
 /// The room that texts take in the fonts of a picture, in logical pixels. A height is that of a capital letter.
 struct PlotTextRoom {
     double plainHeight = 0;   ///< in the font of the box itself
     double figureHeight = 0;  ///< of degrees and candela
-    double letterHeight = 0;  ///< of "H" and "V"
     std::function<double(std::string_view)> figureWidth;
-    std::function<double(std::string_view)> letterWidth;
+    std::function<PlotTextSize(std::string_view)> letterSize;  ///< of "H" and "V"
 };
 
 /// Degrees between the radial lines.

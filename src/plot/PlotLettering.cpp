@@ -87,9 +87,9 @@ std::vector<PlotLetter> lettersAround(const PlotFrame &frame, const PlotTextRoom
 
 std::vector<PlotLetter> lettersInside(const PlotFrame &frame, const PlotTextRoom &room)
 {
-    const double wide = room.letterWidth("H");
-    return {{"V", {frame.centre.x + kGap, frame.centre.y + (room.letterHeight + kGap - frame.radius)}},
-            {"H", {frame.centre.x + (frame.radius - wide - kGap), frame.centre.y - kGap}}};
+    const auto [width, height] = room.letterSize("H");
+    return {{"V", {frame.centre.x + kGap, frame.centre.y + (height + kGap - frame.radius)}},
+            {"H", {frame.centre.x + (frame.radius - width - kGap), frame.centre.y - kGap}}};
 }
 
 }  // namespace

@@ -4,7 +4,10 @@
 
 #include <QImage>
 #include <QPainter>
+#include <QPalette>
 
+#include <algorithm>
+#include <cmath>
 #include <set>
 #include <string>
 

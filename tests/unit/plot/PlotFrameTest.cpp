@@ -10,7 +10,7 @@ namespace {
 PlotFrame frameIn(const PlotBox &area, double largest = 0)
 {
     const auto none = [](std::string_view) { return 0.0; };
-    return plotFrame(area, {.figureWidth = none, .letterWidth = none}, largest);
+    return plotFrame(area, {.figureWidth = none, .letterSize = {}}, largest);
 }
 
 TEST(PlotFrame, standsInTheMiddleOfAPixelWithAWholeRadius)

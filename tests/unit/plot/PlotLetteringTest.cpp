@@ -15,7 +15,9 @@ namespace {
 PlotTextRoom evenRoom()
 {
     const auto width = [](std::string_view text) { return 6.0 * static_cast<double>(codePointCount(text)); };
-    return {.plainHeight = 8, .figureHeight = 8, .letterHeight = 8, .figureWidth = width, .letterWidth = width};
+    return {.plainHeight = 8, .figureHeight = 8, .figureWidth = width, .letterSize = [width](std::string_view text) {
+                return PlotTextSize{width(text), 8};
+            }};
 }
 
 class PlotLetteringTest : public testing::Test {
