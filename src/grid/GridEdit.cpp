@@ -112,7 +112,7 @@ std::optional<RefusedEdit> prepareEdit(GridEdit &edit, GridSource &source)
     };
     std::erase_if(edit.texts, isRefused);
     if (refused && edit.isWhole) {
-        // Nothing was taken: the corrected texts are to go where these should have gone.
+        // Nothing was written: the corrected texts are to go where these should have gone.
         refused->row = edit.block.firstRow;
         refused->column = edit.block.firstColumn;
         return refused;

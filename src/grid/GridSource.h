@@ -44,7 +44,7 @@ public:
     /// The text that a cell shows.
     virtual std::string read(int row, int column) const = 0;
 
-    /// Why a text cannot be taken for the cell of a row and a column, nothing when it can. The row may lie behind the
+    /// Why a text cannot go into the cell of a row and a column, nothing when it can. The row may lie behind the
     /// last one where rows can be appended.
     virtual std::optional<MessageBox> check(int, int, std::string_view) const { return std::nullopt; }
 

@@ -44,11 +44,11 @@ public:
     /// the current cell where it is still there.
     bool apply(GridEdit edit);
 
-    /// The one routine that takes what stands in an open editor. An editor left unchanged is not a new value. False
+    /// The one routine that commits what stands in an open editor. An editor left unchanged is not a new value. False
     /// when the text was refused, now or at the focus change just before; the message follows.
     bool commitEdit();
 
-    /// Takes the text of an open editor when it is valid and drops it without a message when it is not.
+    /// Commits the text of an open editor when it is valid and drops it without a message when it is not.
     void commitEditIfValid();
 
     /// Closes an open editor; its text is lost.

@@ -51,7 +51,7 @@ private:
     const std::shared_ptr<CandelaTable> m_table;
     CandelaTable::CellAngles m_shown;  ///< of the cell whose plane and cone are drawn
     int m_shownColumn = 1;
-    bool m_isTypedInto = false;  ///< a value has been taken since the table was built
+    bool m_isTypedInto = false;  ///< a value has been written since the table was built
     bool m_plotFailed = false;   ///< told, and not told again until a pass has succeeded
     QTimer *m_tmrFlip = nullptr;
 };

@@ -24,7 +24,7 @@ struct KeywordRow {
     bool operator==(const KeywordRow &) const = default;
 };
 
-/// The keyword lines of the new file as the grid of the keyword page shows them. Any text is taken.
+/// The keyword lines of the new file as the grid of the keyword page shows them. No text is refused.
 class KeywordRows : public GridValues<OneBased<KeywordRow>> {
 public:
     static constexpr int kKey = 0;
