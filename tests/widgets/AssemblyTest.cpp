@@ -42,7 +42,10 @@ TEST_F(Assembly, eventsRunWhileTheStoreIsLockedAndUnloadingGivesItUp)
     host.transact([&] {
         host.write("Lumentor_PE", "Sec", "a value", "that keeps the store locked");
         QTimer::singleShot(0, window.get(), [this] { closing.begin(); });
+        QElapsedTimer clock;
+        clock.start();
         EXPECT_THROW(store.write("Lumentor_PE", "Sec", "another", "value"), RunTimeError);
+        EXPECT_LT(clock.elapsed(), 5000);  // the patience of a store that goes on waiting
     });
     EXPECT_TRUE(closing.isClosing());
 }
