@@ -2,6 +2,7 @@
 
 #include <limits>
 #include <string_view>
+#include <utility>
 
 #include "core/StartupState.h"
 #include "hostlink/RecordText.h"

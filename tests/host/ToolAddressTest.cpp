@@ -34,7 +34,7 @@ INSTANTIATE_TEST_SUITE_P(
         AddressCase{{.window = 1, .openFiles = -1, .section = "Sec"}, "the number of files is -1, not 0 to 32767"},
         AddressCase{{.window = 1, .openFiles = 32768, .section = "Sec"},
                     "the number of files is 32768, not 0 to 32767"},
-        AddressCase{{.window = 1}, "the section is empty"},
+        AddressCase{{.window = 1, .section = ""}, "the section is empty"},
         AddressCase{{.window = 1, .inbox = "", .section = "Sec"}, "the inbox is empty"},
         AddressCase{{.window = 1, .tag = "", .section = "Sec"}, "the tag is empty"},
         AddressCase{{.window = 1, .section = "a,b"}, "the section holds a comma or a line end"},

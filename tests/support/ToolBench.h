@@ -9,7 +9,6 @@
 #include "support/FakeDialogs.h"
 #include "support/FakeEmbedding.h"
 #include "support/FakeEventWait.h"
-#include "support/FakeHelp.h"
 #include "support/FakeTextFiles.h"
 #include "support/TempFolder.h"
 
@@ -52,8 +51,6 @@ struct ToolBench {
     FakeDialogs dialogs;
     FakeEventWait wait;
     FakeEmbedding embedding;
-    FakeHelp help;
-    Services services{store, files, dialogs, wait, embedding, help};
 };
 
 }  // namespace penwright::test
