@@ -34,7 +34,7 @@ public:
 struct RefusedEdit {
     int row = 0;  ///< 0 when it concerns no cell
     int column = 0;
-    MessageBox box;
+    MessageBox box{};
 };
 
 /// How much of a grid a change is of.
@@ -47,14 +47,14 @@ enum class GridReach {
 /// One change of a grid, made by a source and handed to GridModel::apply. It is either of texts, which are checked
 /// there, or brings the content that its source has made and answers for.
 struct GridEdit {
-    std::string_view name;  ///< as a menu would call it: "Paste"
-    GridBlock block;        ///< what it is of, where it is of cells
+    std::string_view name{};  ///< as a menu would call it: "Paste"
+    GridBlock block{};        ///< what it is of, where it is of cells
     GridReach reach = GridReach::Cells;
-    std::vector<GridText> texts;           ///< in reading order
-    int rows = 0;                          ///< how many rows there are afterwards at least
-    bool isWhole = true;                   ///< a refused text refuses all of them; otherwise it alone is left out
-    std::unique_ptr<GridContent> content;  ///< what stands afterwards; once applied, what stood before
-    std::optional<RefusedEdit> refused;    ///< what its source has refused already, or left out
+    std::vector<GridText> texts{};           ///< in reading order
+    int rows = 0;                            ///< how many rows there are afterwards at least
+    bool isWhole = true;                     ///< a refused text refuses all of them; otherwise it alone is left out
+    std::unique_ptr<GridContent> content{};  ///< what stands afterwards; once applied, what stood before
+    std::optional<RefusedEdit> refused{};    ///< what its source has refused already, or left out
 };
 
 class GridSource;

@@ -63,8 +63,9 @@ protected:
     {
         AngleList vertical(AngleAxis::Vertical);
         AngleList horizontal(AngleAxis::Horizontal);
-        apply(vertical, vertical.resize("10, Downlight 0 to 90, 10 degree increments", kTypeC)->edit);
-        apply(horizontal, horizontal.resize("05, Quad Symmetric 0 to 90, 22.5 degree increment", kTypeC)->edit);
+        apply(vertical, std::move(vertical.resize("10, Downlight 0 to 90, 10 degree increments", kTypeC)->edit));
+        apply(horizontal,
+              std::move(horizontal.resize("05, Quad Symmetric 0 to 90, 22.5 degree increment", kTypeC)->edit));
         const DistributionFields fields{kTypeC, vertical.cells(), horizontal.cells()};
         checkDistribution(fields, dlgWarn);
         storeDistribution(fields, record);

@@ -73,6 +73,9 @@ public:
         m_work.VertAngles = from.VertAngles;
         m_work.VertAngles.resize(vertical);
         m_work.Candela.reset(horizontal, vertical);
+        // Cells of a wizard that has been started again are not seen any more: their memory serves once more.
+        if (!m_numbers.m_flags.GridStarted)
+            m_cells = std::exchange(m_numbers.m_cells, {});
         m_cells.reset(horizontal, vertical);
         if (m_numbers.m_flags.GridStarted)
             keepWhatFits();
