@@ -53,7 +53,7 @@ public:
 
     /// What to do, instead of sleeping, between two tries while another process has locked the store: run window
     /// events. No transaction is open meanwhile. False gives up at once. A store that never waits never asks.
-    virtual void setBusyWait(std::function<bool()>) {}
+    virtual void setBusyWait(const std::function<bool()> &) {}
 };
 
 }  // namespace penwright

@@ -62,9 +62,9 @@ std::string SqliteSettingsStore::userPath()
     return (std::filesystem::path(userConfigFolder()) / "Lumentor" / "settings.sqlite3").string();
 }
 
-void SqliteSettingsStore::setBusyWait(std::function<bool()> wait)
+void SqliteSettingsStore::setBusyWait(const std::function<bool()> &wait)
 {
-    m_busyWait = std::move(wait);
+    m_busyWait = wait;
 }
 
 /// Runs `work`, again while another process holds the lock; what fails otherwise is raised with file and reason.

@@ -40,7 +40,7 @@ public:
     std::string pop(std::string_view application, std::string_view section, std::string_view name) override;
 
     /// No statement is open either while it runs; after 5 seconds the store gives up in any case.
-    void setBusyWait(std::function<bool()> wait) override;
+    void setBusyWait(const std::function<bool()> &wait) override;
 
 private:
     struct Statements;
