@@ -10,7 +10,7 @@ namespace penwright {
 
 namespace {
 
-void takePeak(PlotCurve &curve, const std::vector<PlotNode> &nodes, bool opposite)
+void notePeak(PlotCurve &curve, const std::vector<PlotNode> &nodes, bool opposite)
 {
     for (const PlotNode &node : nodes)
         if (node.candela && (!curve.largest || *node.candela > curve.largest->candela))
@@ -20,7 +20,7 @@ void takePeak(PlotCurve &curve, const std::vector<PlotNode> &nodes, bool opposit
 void appendHalf(PlotCurve &plane, const std::vector<PlotNode> &nodes, PlotPlacing place, bool opposite)
 {
     appendRuns(plane.runs, nodes, place);
-    takePeak(plane, nodes, opposite);
+    notePeak(plane, nodes, opposite);
 }
 
 /// The listed values in every direction that they stand for, from the list's own ones on.
@@ -47,7 +47,7 @@ std::vector<PlotNode> turnedFullCircle(const std::vector<PlotNode> &listed, cons
 
 void appendCone(PlotCurve &cone, const std::vector<PlotNode> &listed, const PlotCircle &circle)
 {
-    takePeak(cone, listed, false);
+    notePeak(cone, listed, false);
     appendRuns(cone.runs, turnedFullCircle(listed, circle), aroundFromTheRight);
 }
 

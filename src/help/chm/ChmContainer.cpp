@@ -131,7 +131,7 @@ std::optional<std::string> ChmContainer::read(const std::string &name)
     Library &library = *m_library;
     library.system.startOutput(length);
     const int error = library.decompressor->extract(library.decompressor, object.file, MemorySystem::kOutputName);
-    std::string bytes = library.system.takeOutput();
+    std::string bytes = library.system.popOutput();
     countWork(object, error == MSPACK_ERR_OK);
     if (error != MSPACK_ERR_OK || bytes.size() != length)
         throw ContainerError(reasonOf(error));

@@ -51,7 +51,7 @@ public:
         if (!m_rest.empty() && m_rest.front() == '=') {
             m_rest.remove_prefix(1);
             skip(kBlanks);
-            attribute.value = takeValue();
+            attribute.value = parseValue();
         }
         return attribute;
     }
@@ -62,7 +62,7 @@ private:
         m_rest.remove_prefix(std::min(m_rest.find_first_not_of(characters), m_rest.size()));
     }
 
-    std::string_view takeValue()
+    std::string_view parseValue()
     {
         const char quote = m_rest.empty() ? '\0' : m_rest.front();
         const bool isQuoted = quote == '"' || quote == '\'';
@@ -78,8 +78,8 @@ private:
     std::string m_name;
 };
 
-/// Takes the first of several values, as an object that leads to several pages has them.
-void takeParameter(Tags &tags, ContentsLine &line)
+/// Of several values the first counts, as an object that leads to several pages has them.
+void parseParameter(Tags &tags, ContentsLine &line)
 {
     std::string name;
     std::string_view value;
@@ -122,7 +122,7 @@ std::vector<ContentsLine> readContents(const std::string &text)
             if (isLine(tags))
                 line.emplace();
         } else if (tags.name() == "param" && line) {
-            takeParameter(tags, *line);
+            parseParameter(tags, *line);
         } else if (tags.name() == "/object" && line) {
             const int above = lines.empty() ? -1 : lines.back().depth;
             line->depth = std::clamp(lists - 1, 0, std::min(above + 1, kDeepestEntry));

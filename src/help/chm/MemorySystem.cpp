@@ -53,7 +53,7 @@ void MemorySystem::startOutput(std::size_t limit)
     m_outputLimit = limit;
 }
 
-std::string MemorySystem::takeOutput()
+std::string MemorySystem::popOutput()
 {
     return std::exchange(m_output, {});
 }

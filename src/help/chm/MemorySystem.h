@@ -20,7 +20,7 @@ public:
     void startOutput(std::size_t limit);
 
     /// What has been written since startOutput.
-    std::string takeOutput();
+    std::string popOutput();
 
     /// The names by which the decompressor asks for its two files.
     static constexpr const char *kInputName = "in";

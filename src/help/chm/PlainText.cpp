@@ -44,13 +44,13 @@ public:
             (m_inTitle ? m_title : m_text).append(m_html, m_place, tag - m_place);
             m_place = tag;
             if (m_place < m_html.size())
-                takeTag();
+                parseTag();
         }
         return {squeezed(withoutEntities(m_title)), squeezed(withoutEntities(m_text))};
     }
 
 private:
-    void takeTag()
+    void parseTag()
     {
         if (m_lower.compare(m_place, 4, "<!--") == 0)
             return goBehind("-->", m_place + 4);

@@ -39,7 +39,7 @@ public:
             if (m_html[place] == '<')
                 place = behindTag(place + 1);
             else
-                takeCharacter(m_html[place++]);
+                countCharacter(m_html[place++]);
             if (m_word > kLongestWord || m_depth > kDeepestNesting)
                 return false;
         }
@@ -47,7 +47,7 @@ public:
     }
 
 private:
-    void takeCharacter(char character)
+    void countCharacter(char character)
     {
         const bool isBlank = character == ' ' || character == '\n' || character == '\r' || character == '\t';
         m_word = isBlank ? 0 : m_word + 1;
