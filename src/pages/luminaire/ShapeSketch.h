@@ -4,16 +4,9 @@
 #include <string_view>
 #include <vector>
 
+#include "pages/luminaire/SketchPoint.h"
+
 namespace penwright {
-
-/// A place on the sketch: from 0 at the left and top edge to kSketchWidth and kSketchHeight.
-struct SketchPoint {
-    double x = 0;
-    double y = 0;
-};
-
-inline constexpr double kSketchWidth = 4;
-inline constexpr double kSketchHeight = 3;
 
 enum class StrokeKind {
     Outline,  ///< an edge of the shape, or what of its curved sides is in sight

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "pages/luminaire/ShapeSketch.h"
+#include "pages/luminaire/SketchPoint.h"
 
 namespace penwright {
 
