@@ -56,15 +56,19 @@ public:
     bool isUnloading() const override;
     void showLog() override;
 
+    WarningDialog &dlgWarn() { return *m_dlgWarn; }
+    CommandLink &link() { return m_link; }
+
+    // Called by nothing in the program; what they do is fixed.
+
+    /// The further host operations.
+    HostOperations &operations() { return m_operations; }
+
     /// One more help handler, which no control leads to: it opens the topic of page 4.
     void cmdHelp_Click();
 
     /// The form's state variable: 0 from the creation on.
     std::int16_t formState() const { return m_formState; }
-
-    WarningDialog &dlgWarn() { return *m_dlgWarn; }
-    CommandLink &link() { return m_link; }
-    HostOperations &operations() { return m_operations; }
 
 protected:
     /// Escape asks the cancel question, F1 is the page's Help button. Open lists, editors and menus take theirs first.

@@ -57,11 +57,6 @@ public:
     /// leaves the value as it came; the difference is meant.
     void readCell(int column, std::string &value) const;
 
-    /// The row `offset` rows from a position, "" being the place before the first row or, to go back, the first row
-    /// itself: the grid has one row. Nothing here calls it; the toolkit counts rows itself. Error 13 or 6 for a
-    /// position that is no row number.
-    static RelativeRow relativeRow(std::string_view start, int offset);
-
     int rowCount() const override { return 1; }
     int columnCount() const override { return cells().size(); }
     std::string columnCaption(int column) const override { return std::to_string(column + 1); }
@@ -74,6 +69,12 @@ public:
     /// Pastes along the one row: a column of a spreadsheet too, line ends mean no more than tabs. All of the angles or,
     /// without room for them, none.
     GridEdit paste(const GridBlock &block, std::string_view text, const std::string &title) override;
+
+    // Called by nothing in the program; the answer is fixed, and the toolkit counts rows itself.
+
+    /// The row `offset` rows from a position, "" being the place before the first row or, to go back, the first row
+    /// itself: the grid has one row. Error 13 or 6 for a position that is no row number.
+    static RelativeRow relativeRow(std::string_view start, int offset);
 
 protected:
     /// Keeps any text as typed: the angles are checked when the page is left.

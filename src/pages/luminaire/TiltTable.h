@@ -35,10 +35,6 @@ public:
     const OneBased<float> &angles() const { return m_values.angles; }
     const OneBased<float> &factors() const { return m_values.factors; }
 
-    /// The row `offset` rows from a position, "" being the place before the first row or, to go back, behind the last.
-    /// Nothing here calls it; the toolkit counts rows itself. Error 13 or 6 for a position that is no row number.
-    RelativeRow relativeRow(std::string_view start, int offset) const;
-
     int rowCount() const override { return angles().size(); }
     int columnCount() const override { return 2; }
     std::string columnCaption(int column) const override { return column == kAngle ? "Angle" : "Factor"; }
@@ -47,6 +43,12 @@ public:
 
     /// Delete sets a value to 0.
     std::string emptied(int, int) const override { return "0"; }
+
+    // Called by nothing in the program; the answer is fixed, and the toolkit counts rows itself.
+
+    /// The row `offset` rows from a position, "" being the place before the first row or, to go back, behind the last.
+    /// Error 13 or 6 for a position that is no row number.
+    RelativeRow relativeRow(std::string_view start, int offset) const;
 
 protected:
     void write(TiltValues &values, int row, int column, std::string_view text) const override;
