@@ -38,7 +38,8 @@ public:
 
     /// A table for the angles of a record, which has as many as it counts. On the first one since the wizard started
     /// all cells are blank; on every later one they are the working record's doubles, so that a cell that was left
-    /// blank or is new becomes 0.
+    /// blank or is new becomes 0. Cells of before the start, which nobody sees any more, are given up here already:
+    /// their memory serves the new ones.
     std::unique_ptr<GridContent> ofAngles(const PhotometricRecord &from);
 
 private:
