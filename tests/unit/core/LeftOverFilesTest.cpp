@@ -18,7 +18,7 @@ public:
 
     ssize_t write(int file, const void *data, std::size_t size) override
     {
-        const ssize_t written = FileCalls::write(file, data, size / 2);
+        const ssize_t written = FileCalls::write(file, data, (size + 1) / 2);
         raise(m_signal);
         return written;
     }
