@@ -1,5 +1,6 @@
 #include "app/StartUp.h"
 
+#include <cstdint>
 #include <cstdio>
 #include <memory>
 #include <QApplication>
@@ -9,6 +10,7 @@
 #include "core/CommandLine.h"
 #include "core/NumberText.h"
 #include "hostlink/HostPost.h"
+#include "platform/qt/TerminationSignals.h"
 
 namespace penwright {
 namespace {
@@ -60,12 +62,14 @@ int run(Tool &tool, const std::string &commandLine, const std::string &executabl
 
 int runTool(const std::string &commandLine, const std::string &executableFolder)
 {
+    Closing closing;
+    const TerminationSignals terminationSignals(closing);  // a signal dismisses a box, and the status is the same
+    ChosenEmbedding embedding([&closing] { closing.hostVanished(); });
+    embedding.watchHost(static_cast<std::uint32_t>(hostWindowOf(commandLine)));  // a box must not outlive the host
     try {
-        Tool tool;
+        Tool tool(closing, embedding);
         return run(tool, commandLine, executableFolder);
     } catch (const RunTimeError &error) {
-        Closing closing;
-        const TerminationSignals terminationSignals(closing);  // a signal dismisses the box, and the status is the same
         const OwnerWindow none;
         QtDialogs dialogs(closing, none);
         showAndPrint(dialogs,

@@ -5,14 +5,13 @@
 
 namespace penwright {
 
-Tool::Tool()
-    : m_signals(m_closing),
+Tool::Tool(Closing &closing, ChosenEmbedding &embedding)
+    : m_closing(closing),
       m_store(ChosenStore::userPath()),
       m_dialogs(m_closing, m_owner),
       m_wait(m_closing, m_owner),
-      m_embedding([this] { m_closing.hostVanished(); }),
       m_help(m_dialogs, m_closing, openChm),
-      m_services{m_store, m_files, m_dialogs, m_wait, m_embedding, m_help}
+      m_services{m_store, m_files, m_dialogs, m_wait, embedding, m_help}
 {
 }
 

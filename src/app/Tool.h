@@ -11,7 +11,6 @@
 #include "platform/qt/OwnerWindow.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/qt/QtEventWait.h"
-#include "platform/qt/TerminationSignals.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright {
@@ -20,8 +19,8 @@ namespace penwright {
 /// window before what it stands on.
 class Tool {
 public:
-    /// Opens the settings store; its errors are raised.
-    Tool();
+    /// Opens the settings store; its errors are raised. What it is given outlives it.
+    Tool(Closing &closing, ChosenEmbedding &embedding);
 
     ToolState &state() { return m_state; }
     const Services &services() { return m_services; }
@@ -32,14 +31,12 @@ public:
 
 private:
     ToolState m_state;
-    Closing m_closing;
+    Closing &m_closing;
     OwnerWindow m_owner;
-    TerminationSignals m_signals;
     ChosenStore m_store;
     PosixTextFiles m_files;
     QtDialogs m_dialogs;
     QtEventWait m_wait;
-    ChosenEmbedding m_embedding;
     QtHelpViewer m_help;
     Services m_services;
     std::unique_ptr<WizardWindow> m_window;

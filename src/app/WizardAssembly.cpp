@@ -1,6 +1,8 @@
 #include "app/WizardAssembly.h"
 
 #include <chrono>
+#include <cstdio>
+#include <string>
 
 #include "pages/candela/CandelaPage.h"
 #include "pages/distribution/DistributionPage.h"
@@ -38,6 +40,13 @@ void letEventsRunWhileLocked(const Services &services)
         [&wait = services.wait] { return wait.until([] { return false; }, 20ms) != WaitEnd::Cancelled; });
 }
 
+void printMissingHost(std::uint32_t host)
+{
+    const std::string line =
+        "PenwrightPE: window " + std::to_string(host) + " is not there; the wizard opens as a window of its own.\n";
+    std::fputs(line.c_str(), stderr);
+}
+
 }  // namespace
 
 std::unique_ptr<WizardWindow> assembleWizard(ToolState &state, const Services &services, Closing &closing,
@@ -58,7 +67,8 @@ void openWizard(WizardWindow &window, StartupState &start, HostEmbedding &embedd
     window.startDeathTimer();
     // The window is a source of the host link under the topic InstanceTag; here all commands travel through the store.
     window.setWindowTitle(QString::fromStdString(start.ToolName));
-    embedding.watchHost(host);
+    if (!embedding.watchHost(host))
+        printMissingHost(host);
     // Unconditionally, and overwriting what the first call returned: an embedded window's former parent is its host.
     start.PreviousParent = embedding.SetParent(host);
     start.DesignWidth = window.width() * kTwipsPerLogicalPixel;

@@ -22,4 +22,14 @@ void parseCommandLine(std::string_view commandLine, StartupState &start)
     start.ExchangeSection = field(6);
 }
 
+std::int32_t hostWindowOf(std::string_view commandLine)
+{
+    const SplitText split = SplitCommandText(commandLine);
+    try {
+        return split.lineCount > 0 ? toInt32(leadingNumber(split.table(1, 1))) : 0;
+    } catch (const RunTimeError &) {
+        return 0;
+    }
+}
+
 }  // namespace penwright

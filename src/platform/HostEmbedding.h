@@ -21,7 +21,8 @@ public:
     virtual void adopt(std::uintptr_t window) = 0;
 
     /// Watches `host`: its end is told, and that of the wizard inside it. False when the number names no window; then
-    /// the wizard is a top-level window of its own, and one line on stderr says so.
+    /// the wizard is a top-level window of its own. A window that is watched already may be gone meanwhile: its end is
+    /// told all the same.
     virtual bool watchHost(std::uint32_t host) = 0;
 
     /// Takes the keyboard focus to the wizard, unless a dialog is open or it is not embedded and shown.

@@ -5,6 +5,7 @@
 
 #include "run/Desktop.h"
 #include "run/RunTest.h"
+#include "x11/HostProcess.h"
 
 namespace penwright::test {
 namespace {
@@ -224,6 +225,46 @@ TEST_F(Fatal, storeInAFolderThatMayNotBeReadIsNamed)
     start({"123,1,HostBox,7,3,Sec"}, "xcb", asSomebody());
     expectDied("died in sub Main. reason: #70 Msg:" + storePath());
     std::filesystem::permissions(folder, std::filesystem::perms::owner_all);
+}
+
+struct OrphanCase {
+    std::string name;
+    std::string fields;  ///< behind the window number
+};
+
+void PrintTo(const OrphanCase &orphan, std::ostream *out)
+{
+    *out << orphan.name;
+}
+
+/// A box at the start, in a host that is there and goes.
+class Orphan : public RunTest, public testing::WithParamInterface<OrphanCase> {
+protected:
+    HostProcess host;
+};
+
+INSTANTIATE_TEST_SUITE_P(Boxes, Orphan,
+                         testing::Values(OrphanCase{"TooManyFiles", ",1,HostBox,7,25,Sec"},
+                                         OrphanCase{"NotSixFields", ",1,HostBox,7,3"},
+                                         OrphanCase{"Fatal", ",1,HostBox,7,99999,Sec"}),
+                         [](const auto &row) { return row.param.name; });
+
+TEST_P(Orphan, goesWithItsHost)
+{
+    start({std::to_string(host.window()) + GetParam().fields}, "xcb");
+    ASSERT_NE(windowTitled("PenwrightPE"), "");
+    EXPECT_FALSE(tool().hasEnded());
+    host.obey("destroy");
+    EXPECT_EQ(tool().waitForEnd(), 1);
+    EXPECT_EQ(hostInbox(), "");
+}
+
+TEST_P(Orphan, goesWithAHostThatIsKilled)
+{
+    start({std::to_string(host.window()) + GetParam().fields}, "xcb");
+    ASSERT_NE(windowTitled("PenwrightPE"), "");
+    host.kill();
+    EXPECT_EQ(tool().waitForEnd(), 1);
 }
 
 class NoDisplay : public RunTest {};

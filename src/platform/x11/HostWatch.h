@@ -16,7 +16,7 @@ class HostWatch : public QAbstractNativeEventFilter {
 public:
     explicit HostWatch(std::function<void()> gone);
 
-    /// Watches a window of any process; false when the number names none.
+    /// Watches a window of any process; false when the number names none, unless it has named one before.
     bool watch(x11::WindowId window);
 
     /// Watches a window of this program, whose events the toolkit asks for anyway.
@@ -27,6 +27,8 @@ public:
     bool nativeEventFilter(const QByteArray &eventType, void *message, qintptr *result) override;
 
 private:
+    bool isWatched(x11::WindowId window) const;
+
     std::function<void()> m_gone;
     QObject m_here;  ///< a call that is still on its way ends with it
     std::vector<x11::WindowId> m_watched;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QLayout>
@@ -112,10 +111,7 @@ void X11Embedding::adopt(std::uintptr_t window)
 
 bool X11Embedding::watchHost(std::uint32_t host)
 {
-    if (d->watch.watch(host))
-        return true;
-    std::fprintf(stderr, "PenwrightPE: window %u is not there; the wizard opens as a window of its own.\n", host);
-    return false;
+    return d->watch.watch(host);
 }
 
 void X11Embedding::takeFocus()

@@ -36,6 +36,14 @@ TEST(CommandLine, anyOtherNumberOfFieldsTakesNothing)
     }
 }
 
+TEST(CommandLine, hostWindowIsReadWhateverIsWrongWithTheRest)
+{
+    for (const char *text : {"123", "123,1,HostBox,7,24", "123,1,HostBox,7,99999,Sec", "123\r\n7,8", "\r\n123"})
+        EXPECT_EQ(hostWindowOf(text), 123) << text;
+    for (const char *text : {"", "abc,1", ",123", "99999999999,1,HostBox,7,24,Sec"})
+        EXPECT_EQ(hostWindowOf(text), 0) << text;
+}
+
 TEST(CommandLine, lastLineCountsButTheFirstIsTaken)
 {
     const StartupState start = taken("5,0,In,Tag,3,S\r\n9,1,Other,Else,4,T");
