@@ -1,6 +1,7 @@
 #include "hostlink/RecordText.h"
 
 #include <cstdint>
+#include <utility>
 
 #include "core/NumberText.h"
 #include "core/SplitCommandText.h"
@@ -126,16 +127,26 @@ void readKeywordCount(PhotometricRecord &record, const Texts &read)
     record.Keywords.reset(toInt16(leadingNumber(read("Keywords"))));
 }
 
+/// The first line of `rest`, ended by CR LF or by LF alone, and takes it off.
+std::string_view takeLine(std::string_view &rest)
+{
+    const std::size_t end = rest.find('\n');
+    if (end == std::string_view::npos)
+        return std::exchange(rest, {});
+    std::string_view line = rest.substr(0, end);
+    rest.remove_prefix(end + 1);
+    if (line.ends_with('\r'))
+        line.remove_suffix(1);
+    return line;
+}
+
 // Not by the command splitter: an empty line is a keyword line too and keeps its place.
 void readKeywords(PhotometricRecord &record, const Texts &read)
 {
     const std::string text = record.Keywords.empty() ? "" : read("KeywordData");
     std::string_view rest = text;
-    for (std::string &line : record.Keywords) {
-        const std::size_t end = rest.find(kLineEnd);
-        line = rest.substr(0, end);
-        rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + kLineEnd.size());
-    }
+    for (std::string &line : record.Keywords)
+        line = takeLine(rest);
 }
 
 void readTiltIncluded(PhotometricRecord &record, const Texts &read)

@@ -32,6 +32,7 @@ struct ReadRecord {
 
 /// Parses the texts that `read` gives for each field word. The counts decide: missing keyword lines are empty, what is
 /// beyond a count is ignored, fewer numbers than counted are that value's problem. Numbers go by their leading value.
+/// Keyword lines end with CR LF or with LF alone.
 ReadRecord readRecordTexts(const std::function<std::string(std::string_view word)> &read);
 
 }  // namespace penwright
