@@ -1,13 +1,26 @@
 #include "hostlink/HostOperations.h"
 
+#include <utility>
+
 #include "platform/Dialogs.h"
 
 namespace penwright {
 
 HostOperations::HostOperations(ToolState &state, SettingsStore &store, Dialogs &dialogs, EventWait &wait,
-                               CommandLog &log)
-    : m_state(state), m_dialogs(dialogs), m_log(log), m_store(state, store, dialogs), m_post(state.start, store, wait)
+                               CommandLog &log, std::function<void()> logChanged)
+    : m_state(state),
+      m_dialogs(dialogs),
+      m_log(log),
+      m_logChanged(std::move(logChanged)),
+      m_store(state, store, dialogs),
+      m_post(state.start, store, wait)
 {
+}
+
+void HostOperations::tell(const std::string &entry)
+{
+    m_log.append(entry);
+    m_logChanged();
 }
 
 void HostOperations::send(std::string_view word)
@@ -40,10 +53,10 @@ void HostOperations::refresh()
         if (m_post.post(m_state.start.HostInbox, "RefreshData") == WaitEnd::Cancelled)
             return;
         if (const auto problem = m_store.loadOrKeepRecords())
-            return m_log.append("No data error: " + (problem->empty() ? "no file" : *problem));
+            return tell("No data error: " + (problem->empty() ? "no file" : *problem));
         m_state.CandelaWorkRecord = m_state.PhotFiles;
     } catch (const RunTimeError &error) {
-        m_log.append("General error: " + error.description());
+        tell("General error: " + error.description());
     }
 }
 

@@ -1,5 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <string>
+#include <string_view>
+
 #include "core/ToolState.h"
 #include "hostlink/CommandLog.h"
 #include "hostlink/ExchangeStore.h"
@@ -11,7 +15,9 @@ namespace penwright {
 /// use them, and they are kept working for the day when one of this tool does.
 class HostOperations {
 public:
-    HostOperations(ToolState &state, SettingsStore &store, Dialogs &dialogs, EventWait &wait, CommandLog &log);
+    /// `logChanged` runs whenever an operation has put an entry into the log.
+    HostOperations(ToolState &state, SettingsStore &store, Dialogs &dialogs, EventWait &wait, CommandLog &log,
+                   std::function<void()> logChanged);
 
     /// Stores the working record and posts "SendUpdatedDataClose,"; a message box when there is none to store. Error of
     /// the store when it cannot be written.
@@ -26,10 +32,12 @@ public:
 
 private:
     void send(std::string_view word);
+    void tell(const std::string &entry);
 
     ToolState &m_state;
     Dialogs &m_dialogs;
     CommandLog &m_log;
+    std::function<void()> m_logChanged;
     ExchangeStore m_store;
     HostPost m_post;
 };

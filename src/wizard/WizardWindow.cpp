@@ -36,7 +36,7 @@ WizardWindow::WizardWindow(ToolState &state, const Services &services, Closing &
       m_services(services),
       m_closing(closing),
       m_link(state, services.store, services.dialogs, services.embedding, *this),
-      m_operations(state, services.store, services.dialogs, services.wait, m_link.log())
+      m_operations(state, services.store, services.dialogs, services.wait, m_link.log(), [this] { showLog(); })
 {
     setScreenReaderRole(*this, QAccessible::Window);
     setObjectName("frmSample");

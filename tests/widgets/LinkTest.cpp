@@ -50,6 +50,14 @@ TEST_F(Link, logKeepsItsLatestThousandLines)
     EXPECT_TRUE(log().endsWith("x1003\n"));
 }
 
+TEST_F(Link, refreshThatFailsIsInTheLogAtOnce)
+{
+    startWizard();
+    QTimer::singleShot(0, window.get(), [this] { store.write("Lumentor_PE", "Sec", "HostBox", ""); });
+    window->operations().refresh();
+    EXPECT_EQ(log(), "No data error: no file\n");
+}
+
 TEST_F(Link, closeUnloadsTellsTheHostAndEnds)
 {
     startWizard();

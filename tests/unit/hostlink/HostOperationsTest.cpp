@@ -37,7 +37,9 @@ protected:
 
     ToolBench bench;
     CommandLog log;
-    HostOperations operations{bench.state, bench.store, bench.dialogs, bench.wait, log};
+    int toldLogs = 0;
+    std::function<void()> noteLog = [this] { ++toldLogs; };
+    HostOperations operations{bench.state, bench.store, bench.dialogs, bench.wait, log, noteLog};
     std::string posted;
     std::function<void()> onTaken;
 };
@@ -77,7 +79,7 @@ TEST_P(Send, noRecordToStoreIsOneMessageAndNoPost)
 TEST_P(Send, storeThatCannotBeWrittenIsAnErrorAndNoPost)
 {
     bench.state.CandelaWorkRecord = {named("work.ies")};
-    HostOperations broken(bench.state, bench.fullStore, bench.dialogs, bench.wait, log);
+    HostOperations broken(bench.state, bench.fullStore, bench.dialogs, bench.wait, log, noteLog);
     EXPECT_THROW((broken.*GetParam().send)(), RunTimeError);
     EXPECT_EQ(posted, "");
 }
@@ -93,6 +95,7 @@ TEST_F(HostOperationsTest, refreshAsksTheHostAndLoadsIntoTheWorkingRecords)
     EXPECT_EQ(posted, "RefreshData;");
     EXPECT_EQ(bench.state.CandelaWorkRecord, OneBased<PhotometricRecord>{named("fresh.ies")});
     EXPECT_EQ(log.txtCmds(), "");
+    EXPECT_EQ(toldLogs, 0);
 }
 
 TEST_F(HostOperationsTest, refreshWithoutARecordLogsItAndChangesNothing)
@@ -101,6 +104,7 @@ TEST_F(HostOperationsTest, refreshWithoutARecordLogsItAndChangesNothing)
     bench.state.CandelaWorkRecord = {named("work")};
     operations.refresh();
     EXPECT_EQ(log.txtCmds(), "No data error: no file\r\n");
+    EXPECT_EQ(toldLogs, 1);
     EXPECT_EQ(bench.state.PhotFiles(1), named("mine"));
     EXPECT_EQ(bench.state.CandelaWorkRecord(1), named("work"));
 }
@@ -115,9 +119,10 @@ TEST_F(HostOperationsTest, refreshNamesTheProblemOfARecordThatDoesNotParse)
 
 TEST_F(HostOperationsTest, refreshOverAStoreThatFailsLogsTheReason)
 {
-    HostOperations broken(bench.state, bench.fullStore, bench.dialogs, bench.wait, log);
+    HostOperations broken(bench.state, bench.fullStore, bench.dialogs, bench.wait, log, noteLog);
     broken.refresh();
     EXPECT_EQ(log.txtCmds(), "General error: /the/store: database or disk is full\r\n");
+    EXPECT_EQ(toldLogs, 1);
 }
 
 TEST_F(HostOperationsTest, refreshGoesNoFurtherOnceUnloadingBegins)
