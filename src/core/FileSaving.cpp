@@ -1,7 +1,8 @@
 #include "core/FileSaving.h"
 
+#include <cerrno>
+#include <new>
 #include <optional>
-#include <string_view>
 
 #include "core/FileErrors.h"
 #include "platform/Dialogs.h"
@@ -10,20 +11,38 @@
 namespace penwright {
 namespace {
 
-std::optional<RunTimeError> errorOfMaking(const TextMaker &make, std::string &text)
+std::optional<RunTimeError> errorOf(const std::function<void()> &step)
 {
     try {
-        make(text);
+        step();
         return std::nullopt;
     } catch (const RunTimeError &error) {
         return error;
+    } catch (const std::bad_alloc &) {
+        return errorFromErrno(ENOMEM);
     }
 }
 
-std::optional<RunTimeError> errorOfWriting(const std::string &path, std::string_view text, TextFiles &files)
+/// A text that gets the line end of its last line when it is first written: memory may lack for that, too.
+struct FileText {
+    std::string text;
+    bool isEnded = false;
+};
+
+void end(FileText &file)
 {
-    const int failure = files.replace(path, text);
-    return failure == 0 ? std::nullopt : std::optional(errorFromErrno(failure));
+    if (!file.isEnded)
+        file.text += "\r\n";
+    file.isEnded = true;
+}
+
+std::optional<RunTimeError> errorOfWriting(const std::string &path, FileText &file, TextFiles &files)
+{
+    return errorOf([&] {
+        end(file);
+        if (const int failure = files.replace(path, file.text))
+            throw errorFromErrno(failure);
+    });
 }
 
 }  // namespace
@@ -31,16 +50,15 @@ std::optional<RunTimeError> errorOfWriting(const std::string &path, std::string_
 bool saveFile(std::string_view path, const TextMaker &make, TextFiles &files, Dialogs &dialogs)
 {
     const std::string kept(path);  // a host command may replace what the path belongs to while the message is shown
-    std::string text;
-    std::optional<RunTimeError> error = errorOfMaking(make, text);
-    text += "\r\n";
+    FileText file;
+    std::optional<RunTimeError> error = errorOf([&] { make(file.text); });
     if (!error)
-        error = errorOfWriting(kept, text, files);
+        error = errorOfWriting(kept, file, files);
     if (!error)
         return true;
     if (dialogs.show({writingQuestionText(*error), kOkCancel, "Error saving " + kept}) != Answer::Ok)
         return false;
-    if (const auto again = errorOfWriting(kept, text, files))
+    if (const auto again = errorOfWriting(kept, file, files))
         throw *again;
     return true;
 }

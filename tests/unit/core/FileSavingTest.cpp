@@ -7,6 +7,7 @@
 #include "platform/RunTimeError.h"
 #include "support/FakeDialogs.h"
 #include "support/FakeTextFiles.h"
+#include "unit/core/AllocationLimit.h"
 
 namespace penwright {
 namespace {
@@ -79,6 +80,66 @@ TEST_F(FileSaving, retryWritesTheSameTextAgain)
     EXPECT_EQ(dialogs.transcript,
               "[Error saving small.any|1] Disk is full. Free up space on this disk or choose another.\r\n"
               "OK to Retry, Cancel to quit.\n");
+}
+
+/// A text that needs more memory than there is.
+class Narrow : public FileSaving {
+protected:
+    Narrow()
+    {
+        second.assign(100'000, 'x');
+        limit.emplace(50'000);
+    }
+
+    static constexpr const char *kOutOfMemory =
+        "[Error saving small.any|1] Out of memory (RAM). Please close some other applications and try again.\r\n"
+        "OK to Retry, Cancel to quit.\n";
+    std::optional<test::AllocationLimit> limit;
+};
+
+TEST_F(Narrow, lackOfMemoryWhileMakingIsTold)
+{
+    dialogs.answers = {Answer::Cancel};
+    EXPECT_FALSE(save());
+    EXPECT_TRUE(files.written.empty());
+    EXPECT_EQ(dialogs.transcript, kOutOfMemory);
+}
+
+TEST_F(Narrow, retryWritesThePartialText)
+{
+    dialogs.onShow = [this](const MessageBox &) { limit.reset(); };
+    EXPECT_TRUE(save());
+    ASSERT_EQ(files.written.size(), 1u);
+    EXPECT_EQ(files.written[0].second, "first\r\n\r\n");
+}
+
+TEST_F(Narrow, lackOfMemoryForTheLastLineEndIsToldAndMendedByTheRetry)
+{
+    const auto make = [](std::string &text) {
+        text.reserve(40'000);
+        text.assign(text.capacity(), 'x');
+    };
+    dialogs.onShow = [this](const MessageBox &) { limit.reset(); };
+    EXPECT_TRUE(saveFile(path, make, files, dialogs));
+    ASSERT_EQ(files.written.size(), 1u);
+    EXPECT_EQ(files.written[0].second, std::string(40'000, 'x') + "\r\n");
+    EXPECT_EQ(dialogs.transcript, kOutOfMemory);
+}
+
+TEST_F(Narrow, lackOfMemoryOnTheRetryReachesTheCaller)
+{
+    const auto make = [](std::string &text) {
+        text.reserve(40'000);
+        text.assign(text.capacity(), 'x');
+    };
+    dialogs.answers = {Answer::Ok};
+    try {
+        saveFile(path, make, files, dialogs);
+        ADD_FAILURE() << "no error";
+    } catch (const RunTimeError &error) {
+        EXPECT_EQ(error.number(), 31001);
+    }
+    EXPECT_TRUE(files.written.empty());
 }
 
 // A host command that arrives meanwhile may put other records in the place of the one that is saved.
