@@ -153,6 +153,13 @@ void CommandLink::dataChanged()
 {
     if (const auto problem = m_exchange.loadOrKeepRecords())
         return m_log.append("No data or error -1" + (problem->empty() ? "" : " " + *problem));
+    logUsed(carryOver());
+    m_window.followRecord();
+}
+
+/// Carries the loaded records into the working records of their names; these names, a line each.
+std::string CommandLink::carryOver()
+{
     std::string used;
     for (PhotometricRecord &record : m_state.CandelaWorkRecord)
         for (const PhotometricRecord &fresh : m_state.PhotFiles)
@@ -160,6 +167,11 @@ void CommandLink::dataChanged()
                 record = fresh;
                 used += fresh.Filename + "\r\n";
             }
+    return used;
+}
+
+void CommandLink::logUsed(std::string used)
+{
     if (used.empty())
         return m_log.append("Data received but not used");
     m_log.append("Updated data received and used");

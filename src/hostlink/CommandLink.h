@@ -29,6 +29,9 @@ public:
 
     virtual bool isUnloading() const = 0;
 
+    /// "DATACHANGED": the host's record has taken the place of the one in slot 1.
+    virtual void followRecord() = 0;
+
     /// The log or the list of received files has changed.
     virtual void showLog() = 0;
 };
@@ -68,6 +71,8 @@ private:
     void moveWindow(const FieldTable &fields);
     void deleteFile();
     void dataChanged();
+    std::string carryOver();
+    void logUsed(std::string used);
 
     ToolState &m_state;
     SettingsStore &m_store;

@@ -8,6 +8,7 @@
 #include <QVBoxLayout>
 
 #include "controls/InView.h"
+#include "controls/QuietLabel.h"
 #include "controls/ScreenReader.h"
 #include "platform/qt/QtText.h"
 #include "wizard/HandlerGuard.h"
@@ -32,6 +33,16 @@ QLabel *makeHeading(const QString &text)
     return heading;
 }
 
+QLabel *makeNote(const QString &name)
+{
+    auto *note = new QuietLabel;
+    note->setObjectName(name);
+    note->setTextFormat(Qt::PlainText);
+    note->setWordWrap(true);
+    note->hide();
+    return note;
+}
+
 QWidget *makeLine()
 {
     auto *line = new QWidget;
@@ -54,6 +65,7 @@ PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_
     setObjectName("nfra" + QString::number(index));
     setAccessibleName(caption());
     m_formArea = new QWidget;
+    m_note = makeNote("note" + QString::number(index));
     m_buttons = new QHBoxLayout;
     m_buttons->setSpacing(8);
     m_buttons->addStretch();
@@ -64,6 +76,7 @@ PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_
     layout->addWidget(makeHeading(caption()));
     layout->addWidget(makeLine());
     layout->addWidget(m_formArea, 1);
+    layout->addWidget(m_note);
     layout->addWidget(makeLine());
     layout->addLayout(m_buttons);
 }
@@ -71,6 +84,13 @@ PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_
 QString PageFrame::caption() const
 {
     return toQString(rowOf(m_index).caption);
+}
+
+void PageFrame::showNote(const QString &text)
+{
+    m_note->setText(text);
+    m_note->setVisible(!text.isEmpty());
+    describe(*this, text);
 }
 
 void PageFrame::focusFirstField()

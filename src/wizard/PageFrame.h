@@ -9,6 +9,7 @@
 #include "wizard/PageTable.h"
 
 class QAbstractButton;
+class QLabel;
 class QPushButton;
 
 namespace penwright {
@@ -68,6 +69,13 @@ public:
     /// Runs each time before the page is shown; an error raised here leaves the page that is shown as it is.
     virtual void enter() {}
 
+    /// Runs when the host has put its own record into slot 1. Whether what the page holds did not fit it and was built
+    /// anew.
+    virtual bool followRecord() { return false; }
+
+    /// Shows one quiet line under the form, which screen readers are told of as well; an empty one takes it away.
+    void showNote(const QString &text);
+
     /// Puts the focus on the first field of the form that takes it, on the Next button where there is none.
     void focusFirstField();
 
@@ -104,6 +112,7 @@ private:
     int m_index;
     PageContext m_context;
     QWidget *m_formArea = nullptr;
+    QLabel *m_note = nullptr;
     class QHBoxLayout *m_buttons = nullptr;
     QPushButton *m_next = nullptr;
 };

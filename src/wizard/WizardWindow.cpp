@@ -28,6 +28,7 @@ namespace {
 constexpr QSize kDesignSize{720, 560};
 constexpr int kPollInterval = 100;
 constexpr int kDeathInterval = 10000;
+constexpr const char *kNewDataNote = "The host has sent new data; the candela table has been built anew.";
 
 }  // namespace
 
@@ -127,8 +128,10 @@ void WizardWindow::ShowPage(int index)
     // A menu left open would hang over the page that follows.
     if (QWidget *popup = QApplication::activePopupWidget())
         popup->close();
-    for (PageFrame *page : m_pages)
+    for (PageFrame *page : m_pages) {
         page->hide();
+        page->showNote({});
+    }
     m_shownPage = kPageCount;
     if (!isPage)
         return;
@@ -186,6 +189,15 @@ void WizardWindow::beginUnload()
 bool WizardWindow::isUnloading() const
 {
     return m_closing.isClosing();
+}
+
+void WizardWindow::followRecord()
+{
+    bool isRebuilt = false;
+    for (PageFrame *page : m_pages)
+        isRebuilt = page->followRecord() || isRebuilt;
+    if (isRebuilt && m_shownPage < kPageCount)
+        m_pages[static_cast<std::size_t>(m_shownPage)]->showNote(kNewDataNote);
 }
 
 void WizardWindow::showLog()

@@ -54,6 +54,8 @@ public:
     void stopDeathTimer() override;
     void beginUnload() override;
     bool isUnloading() const override;
+    /// Has every page follow, and tells of it on the one that is shown where the host's record did not fit.
+    void followRecord() override;
     void showLog() override;
 
     WarningDialog &dlgWarn() { return *m_dlgWarn; }

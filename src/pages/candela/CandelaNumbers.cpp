@@ -18,6 +18,18 @@ void swapBuilt(PhotometricRecord &one, PhotometricRecord &other)
 
 }  // namespace
 
+CandelaNumbers::Angles::Angles(const PhotometricRecord &record)
+    : type(record.PhotometricType), horizontal(record.HorAngles), vertical(record.VertAngles)
+{
+    horizontal.resize(record.NumHorzAngles);
+    vertical.resize(record.NumVertAngles);
+}
+
+bool CandelaNumbers::isFor(const PhotometricRecord &record) const
+{
+    return m_angles == Angles(record);
+}
+
 /// Cells one by one, each with the number that it gets.
 class CandelaNumbers::SingleCells : public GridContent {
 public:
@@ -61,17 +73,15 @@ private:
 /// A table of the angles that a record has, and the working record that goes with it.
 class CandelaNumbers::NewTable : public GridContent {
 public:
-    NewTable(CandelaNumbers &numbers, const PhotometricRecord &from) : m_numbers(numbers)
+    NewTable(CandelaNumbers &numbers, const PhotometricRecord &from) : m_numbers(numbers), m_angles(from)
     {
         const int horizontal = from.NumHorzAngles;
         const int vertical = from.NumVertAngles;
         m_work.NumHorzAngles = from.NumHorzAngles;
         m_work.NumVertAngles = from.NumVertAngles;
         m_work.PhotometricType = from.PhotometricType;
-        m_work.HorAngles = from.HorAngles;
-        m_work.HorAngles.resize(horizontal);
-        m_work.VertAngles = from.VertAngles;
-        m_work.VertAngles.resize(vertical);
+        m_work.HorAngles = m_angles.horizontal;
+        m_work.VertAngles = m_angles.vertical;
         m_work.Candela.reset(horizontal, vertical);
         // Cells of a wizard that has been started again are not seen any more: their memory serves once more.
         if (!m_numbers.m_flags.GridStarted)
@@ -87,6 +97,7 @@ public:
         if (!m_numbers.m_flags.GridStarted || work.empty())
             work.reset(1);
         swapBuilt(work(1), m_work);
+        std::swap(m_numbers.m_angles, m_angles);
         std::swap(m_numbers.m_cells, m_cells);
         m_numbers.m_flags.GridReady = true;
         m_numbers.m_flags.GridStarted = true;
@@ -107,6 +118,7 @@ private:
     }
 
     CandelaNumbers &m_numbers;
+    Angles m_angles;
     PhotometricRecord m_work;
     OneBasedTable<CandelaCell> m_cells;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <vector>
 
@@ -22,6 +23,9 @@ public:
 
     /// The cells by (horizontal index, vertical index).
     const OneBasedTable<CandelaCell> &cells() const { return m_cells; }
+
+    /// Whether type, counts and angles of a record are those that the table was built for.
+    bool isFor(const PhotometricRecord &record) const;
 
     /// What goes into one cell.
     struct Cell {
@@ -47,10 +51,22 @@ private:
     class PastedTable;
     class NewTable;
 
+    /// What a table is built for.
+    struct Angles {
+        explicit Angles(const PhotometricRecord &record);
+        Angles() = default;
+        bool operator==(const Angles &) const = default;
+
+        std::int16_t type = 0;
+        OneBased<float> horizontal;
+        OneBased<float> vertical;
+    };
+
     void keep(int h, int v);
 
     ToolState &m_state;
     CandelaState m_flags;
+    Angles m_angles;
     OneBasedTable<CandelaCell> m_cells;
 };
 

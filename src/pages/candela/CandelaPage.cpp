@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QSignalBlocker>
 #include <QTimer>
 
 #include "core/NumberText.h"
@@ -68,6 +69,30 @@ void CandelaPage::connectGrid()
 
 void CandelaPage::lsbStart()
 {
+    buildTable();
+    m_form->cdaGridCd->goTo(1, 1);
+    showCurrentCell();
+    if (m_tmrFlip)
+        m_tmrFlip->start();
+}
+
+bool CandelaPage::followRecord()
+{
+    if (!m_table->isOutdated())
+        return false;
+    {
+        const QSignalBlocker unseen(m_form->cdaGridCd);  // no plot of the old cells under the new angles
+        m_form->cdaGridCd->commitEditIfValid();
+    }
+    buildTable();
+    QAbstractItemModel &cells = *m_form->cdaGridCd->model();
+    m_form->cdaGridCd->setCurrentIndex(cells.index(0, 1));  // the focus stays: another page may be shown
+    showCurrentCell();
+    return true;
+}
+
+void CandelaPage::buildTable()
+{
     GridEdit table = m_table->newTable();
     m_shownColumn = 1;
     m_isTypedInto = false;
@@ -76,10 +101,6 @@ void CandelaPage::lsbStart()
                           static_cast<QWidget *>(m_form->coneKey)})
         part->setVisible(hasCone);
     m_form->cdaGridCd->apply(std::move(table));
-    m_form->cdaGridCd->goTo(1, 1);
-    showCurrentCell();
-    if (m_tmrFlip)
-        m_tmrFlip->start();
 }
 
 void CandelaPage::tmrFlip_Timer()

@@ -31,6 +31,9 @@ public:
     /// Error 9 when the record's angles are fewer than it counts.
     void lsbStart();
 
+    /// Builds the table anew where it is of another type, other counts or other angles; what fits is kept.
+    bool followRecord() override;
+
     CandelaState &flags() { return m_table->flags(); }
 
 protected:
@@ -42,6 +45,7 @@ private:
     void cmdBack50_Click();
 
     void connectGrid();
+    void buildTable();
     void showCurrentCell();
     void showCell(int row, int column);
     void refreshPlot();

@@ -36,6 +36,12 @@ GridEdit CandelaTable::newTable()
     return {.name = "New Table", .reach = GridReach::Table, .content = m_numbers.ofAngles(from)};
 }
 
+bool CandelaTable::isOutdated() const
+{
+    const PhotometricRecord *now = record();
+    return m_numbers.flags().GridReady && now && !m_numbers.isFor(*now);
+}
+
 std::string CandelaTable::CopyCandelaTable() const
 {
     const int horizontal = CandelaCells().rows();

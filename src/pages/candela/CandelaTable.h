@@ -32,6 +32,9 @@ public:
     /// blank or is new becomes 0. Error 9 when the record's angles are fewer than it counts.
     GridEdit newTable();
 
+    /// Whether there is a table and record slot 1 has another type, other counts or other angles than it was built for.
+    bool isOutdated() const;
+
     /// The cells by (horizontal index, vertical index).
     const OneBasedTable<CandelaCell> &CandelaCells() const { return m_numbers.cells(); }
 

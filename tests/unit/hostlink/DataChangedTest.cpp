@@ -27,6 +27,7 @@ TEST_F(DataChanged, recordOfTheSameNameTakesTheDataOver)
     EXPECT_EQ(TextModel::of(bench.state.PhotFiles(1)), TextModel::of(fresh));
     EXPECT_EQ(logged(), "DATACHANGED\r\nUpdated data received and used\r\n");
     EXPECT_EQ(link.log().txtFiles(), "a.ies\r\n");
+    EXPECT_EQ(window.transcript, "record followed\n");
 }
 
 TEST_F(DataChanged, usedNamesAreListedWorkingRecordByWorkingRecord)
@@ -60,6 +61,7 @@ TEST_F(DataChanged, noWorkingRecordUsesNothing)
     hostStores(1, named("a"));
     link.msbCmd("DATACHANGED");
     EXPECT_EQ(logged(), "DATACHANGED\r\nData received but not used\r\n");
+    EXPECT_EQ(window.transcript, "record followed\n");
 }
 
 TEST_F(DataChanged, nothingStoredKeepsWhatTheUserEntered)
@@ -70,6 +72,7 @@ TEST_F(DataChanged, nothingStoredKeepsWhatTheUserEntered)
     link.msbCmd("DATACHANGED");
     EXPECT_EQ(bench.state.PhotFiles, OneBased<PhotometricRecord>{entered});
     EXPECT_EQ(logged(), "DATACHANGED\r\nNo data or error -1\r\n");
+    EXPECT_EQ(window.transcript, "");
 }
 
 TEST_F(DataChanged, recordThatDoesNotParseKeepsWhatTheUserEnteredAndNamesTheProblem)

@@ -24,6 +24,7 @@ struct FakeLinkedWindow : LinkedWindow {
         unloading = true;
     }
     bool isUnloading() const override { return unloading; }
+    void followRecord() override { transcript += "record followed\n"; }
     void showLog() override { ++shownLogs; }
 
     std::string transcript;
