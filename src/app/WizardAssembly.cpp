@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdio>
 #include <string>
+#include <utility>
 
 #include "pages/candela/CandelaPage.h"
 #include "pages/distribution/DistributionPage.h"
@@ -14,6 +15,7 @@
 #include "platform/HostEmbedding.h"
 #include "platform/qt/OwnerWindow.h"
 #include "platform/SettingsStore.h"
+#include "wizard/UnwantedEnd.h"
 
 namespace penwright {
 namespace {
@@ -61,14 +63,16 @@ std::unique_ptr<WizardWindow> assembleWizard(ToolState &state, const Services &s
     return window;
 }
 
-void openWizard(WizardWindow &window, StartupState &start, HostEmbedding &embedding)
+void openWizard(WizardWindow &window, StartupState &start, HostEmbedding &embedding, Patience::Clock clock)
 {
     const auto host = static_cast<std::uint32_t>(start.HostWindow);
     window.startDeathTimer();
     // The window is a source of the host link under the topic InstanceTag; here all commands travel through the store.
     window.setWindowTitle(QString::fromStdString(start.ToolName));
-    if (!embedding.watchHost(host))
+    if (!embedding.watchHost(host)) {
         printMissingHost(host);
+        new UnwantedEnd(window, std::move(clock));
+    }
     // Unconditionally, and overwriting what the first call returned: an embedded window's former parent is its host.
     start.PreviousParent = embedding.SetParent(host);
     start.DesignWidth = window.width() * kTwipsPerLogicalPixel;

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 
 #include "core/Services.h"
 #include "core/ToolState.h"
+#include "hostlink/Patience.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright {
@@ -18,7 +20,9 @@ std::unique_ptr<WizardWindow> assembleWizard(ToolState &state, const Services &s
                                              OwnerWindow &owner);
 
 /// Opens a wizard that has been made: a child of the host's window, which is watched from here on. It stays hidden
-/// until the host says "START".
-void openWizard(WizardWindow &window, StartupState &start, HostEmbedding &embedding);
+/// until the host says "START". Where the number names no window, nobody's end would end the wizard: it ends by itself
+/// once nobody has wanted anything of it for ten minutes of `clock`.
+void openWizard(WizardWindow &window, StartupState &start, HostEmbedding &embedding,
+                Patience::Clock clock = std::chrono::steady_clock::now);
 
 }  // namespace penwright

@@ -10,7 +10,11 @@ namespace penwright::test {
 /// A window among the display's windows that keeps a transcript of what was done to it.
 struct FakeEmbedding : HostEmbedding {
     void adopt(std::uintptr_t window) override { adopted = window; }
-    bool watchHost(std::uint32_t host) override { return transcript += "watch " + std::to_string(host) + "\n", true; }
+    bool watchHost(std::uint32_t host) override
+    {
+        transcript += "watch " + std::to_string(host) + "\n";
+        return hostIsThere;
+    }
     void takeFocus() override { transcript += "focus\n"; }
     void giveBack(std::uint32_t parent) override
     {
@@ -36,6 +40,7 @@ struct FakeEmbedding : HostEmbedding {
     std::string transcript;
     std::uintptr_t adopted = 0;
     std::uint32_t former = 0;  ///< the parent that a move into the host answers
+    bool hostIsThere = true;
     bool shown = false;
     PixelSize current{700, 500};
     double twips = 15;
