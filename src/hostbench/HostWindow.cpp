@@ -9,6 +9,7 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <stdexcept>
 
 #include "hostbench/CommandBar.h"
 #include "hostbench/FileView.h"
@@ -26,6 +27,9 @@ constexpr int kClosingLimit = 6000;
 
 /// What a window manager's frame takes of the screen, generously.
 constexpr QSize kFrame{12, 40};
+
+/// What the sections of this host's tools are named after.
+constexpr std::string_view kHostName = "hostbench";
 
 constexpr QSize kComfortableSize{1240, 860};
 
@@ -57,9 +61,19 @@ HostWindow::HostWindow(HostStore &store, QString toolProgram, QWidget *parent)
     enableButtons();
     resize(startSize());
     makeRoom();
+    removeLeftSections();
 }
 
 HostWindow::~HostWindow() = default;
+
+void HostWindow::removeLeftSections()
+{
+    try {
+        m_store.removeLeftSections(kHostName);
+    } catch (const std::runtime_error &) {
+        // What killed hosts have left is in nobody's way; the next host tries again.
+    }
+}
 
 QWidget *HostWindow::makeCentre()
 {
@@ -117,7 +131,7 @@ ToolTab *HostWindow::startTool()
     address.tag = tag;
     // A running tool will bring a file: counting it keeps "new_file_" numbers apart and the list within its limit.
     address.openFiles = m_files.count() + toolCount();
-    address.section = "Host_" + std::to_string(QCoreApplication::applicationPid()) + '_' + tag;
+    address.section = HostStore::ownSection(kHostName, tag);
 
     auto *tab = new ToolTab(*m_tabs, m_store, address);
     m_tools.append(tab);

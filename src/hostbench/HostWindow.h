@@ -21,7 +21,8 @@ class HostWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    /// `toolProgram` is the executable that "New Photometric File..." starts.
+    /// `toolProgram` is the executable that "New Photometric File..." starts. Removes from the store what hosts of this
+    /// program that were killed have left there.
     HostWindow(HostStore &store, QString toolProgram, QWidget *parent = nullptr);
     ~HostWindow() override;
 
@@ -52,6 +53,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void removeLeftSections();
     QWidget *makeCentre();
     void connectButtons();
     void followPalette();

@@ -29,6 +29,9 @@ public:
     /// All values of a section in the order in which they were first written.
     virtual std::vector<Setting> readAll(std::string_view application, std::string_view section) = 0;
 
+    /// The names of an application's sections, in the order in which they were first written.
+    virtual std::vector<std::string> sections(std::string_view application) = 0;
+
     /// Writes one value; a value that exists keeps its place in the order of writing.
     virtual void write(std::string_view application, std::string_view section, std::string_view name,
                        std::string_view data) = 0;

@@ -77,12 +77,29 @@ std::set<pid_t> childrenOf(pid_t pid)
     return {std::istream_iterator<pid_t>(in), {}};
 }
 
-/// Whether the tool of a host has taken the commands sent to it so far.
+std::string storePath(const fs::path &home)
+{
+    return (home / "config" / "Lumentor" / "settings.sqlite3").string();
+}
+
+/// The sections of a host in the store.
+std::vector<std::string> sectionsOf(const fs::path &home, pid_t host)
+{
+    std::vector<std::string> sections = SqliteSettingsStore(storePath(home)).sections("Lumentor_PE");
+    std::erase_if(sections, [number = "_" + std::to_string(host) + "_"](const std::string &section) {
+        return section.rfind("hostbench_", 0) != 0 || section.find(number) == std::string::npos;
+    });
+    return sections;
+}
+
+/// Whether the one tool of a host has taken the commands sent to it so far.
 bool hasTakenCommands(const fs::path &home, pid_t host, int tag)
 {
-    SqliteSettingsStore store((home / "config" / "Lumentor" / "settings.sqlite3").string());
-    const std::string section = "Host_" + std::to_string(host) + "_" + std::to_string(tag);
-    const auto values = store.readAll("Lumentor_PE", section);
+    const std::vector<std::string> sections = sectionsOf(home, host);
+    if (sections.size() != 1)
+        return false;
+    SqliteSettingsStore store(storePath(home));
+    const auto values = store.readAll("Lumentor_PE", sections[0]);
     const std::string inbox = "PenwrightPE|" + std::to_string(tag);
     return std::any_of(values.begin(), values.end(),
                        [&](const Setting &value) { return value.name == inbox && value.data.empty(); });
@@ -226,6 +243,27 @@ TEST_F(HostWithTool, killingTheHostEndsTheTool)
 {
     m_host.signal(SIGKILL);
     EXPECT_TRUE(test::waitUntil([this] { return !isRunning(m_tool); }));
+}
+
+TEST_F(HostWithTool, nextHostRemovesTheSectionOfAKilledOneAndNoOther)
+{
+    SqliteSettingsStore(storePath(m_home.path())).write("Lumentor_PE", "Host_4711_7", "Filename1", "a.ies");
+    m_host.signal(SIGKILL);
+    m_host.waitForEnd();
+    EXPECT_EQ(sectionsOf(m_home.path(), m_host.pid()).size(), 1U);
+    const Process next({HOSTBENCH}, environment(m_screen.name(), m_home.path()));
+    EXPECT_TRUE(
+        test::waitUntil([this] { return sectionsOf(m_home.path(), m_host.pid()).empty(); }, std::chrono::seconds(20)));
+    EXPECT_EQ(SqliteSettingsStore(storePath(m_home.path())).sections("Lumentor_PE"),
+              std::vector<std::string>{"Host_4711_7"});
+}
+
+TEST_F(HostWithTool, anotherHostLeavesTheSectionOfARunningOne)
+{
+    Process second({HOSTBENCH, "--new"}, environment(m_screen.name(), m_home.path()));
+    ASSERT_TRUE(
+        test::waitUntil([&] { return hasTakenCommands(m_home.path(), second.pid(), 1); }, std::chrono::seconds(20)));
+    EXPECT_EQ(sectionsOf(m_home.path(), m_host.pid()).size(), 1U);
 }
 
 }  // namespace

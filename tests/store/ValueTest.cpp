@@ -59,6 +59,18 @@ TEST_F(ValueTest, removingASectionLeavesTheOthers)
     EXPECT_EQ(namesAndData(store().readAll("Lumentor32", "Sec")), "c=3;");
 }
 
+TEST_F(ValueTest, sectionsAreListedInTheOrderOfTheirFirstValues)
+{
+    EXPECT_EQ(store().sections("Lumentor_PE"), std::vector<std::string>{});
+    store().write("Lumentor_PE", "b", "n", "1");
+    store().write("Lumentor_PE", "a", "n", "2");
+    store().write("Lumentor_PE", "b", "m", "3");
+    store().write("Lumentor32", "c", "n", "4");
+    EXPECT_EQ(store().sections("Lumentor_PE"), (std::vector<std::string>{"b", "a"}));
+    store().removeSection("Lumentor_PE", "b");
+    EXPECT_EQ(store().sections("Lumentor_PE"), std::vector<std::string>{"a"});
+}
+
 class AnyBytes : public StoreTest, public testing::WithParamInterface<std::string> {};
 
 TEST_P(AnyBytes, passUnharmed)

@@ -20,6 +20,7 @@ struct FullStore : SettingsStore {
     [[noreturn]] static void fail() { throw RunTimeError(61, "/the/store: database or disk is full"); }
     std::string read(std::string_view, std::string_view, std::string_view, std::string_view) override { fail(); }
     std::vector<Setting> readAll(std::string_view, std::string_view) override { fail(); }
+    std::vector<std::string> sections(std::string_view) override { fail(); }
     void write(std::string_view, std::string_view, std::string_view, std::string_view) override { fail(); }
     void remove(std::string_view, std::string_view, std::string_view) override { fail(); }
     void removeSection(std::string_view, std::string_view) override { fail(); }

@@ -133,6 +133,21 @@ std::vector<Setting> SqliteSettingsStore::readAll(std::string_view application, 
     return settings;
 }
 
+std::vector<std::string> SqliteSettingsStore::sections(std::string_view application)
+{
+    std::vector<std::string> names;
+    withRetry([&] {
+        names.clear();
+        SqliteStatement statement(
+            m_database.get(),
+            "SELECT section FROM setting WHERE application = ? GROUP BY section ORDER BY min(position)");
+        statement.bind(1, application);
+        while (statement.step())
+            names.push_back(statement.text(0));
+    });
+    return names;
+}
+
 void SqliteSettingsStore::write(std::string_view application, std::string_view section, std::string_view name,
                                 std::string_view data)
 {

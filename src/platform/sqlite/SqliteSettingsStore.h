@@ -27,6 +27,7 @@ public:
     std::string read(std::string_view application, std::string_view section, std::string_view name,
                      std::string_view fallback = {}) override;
     std::vector<Setting> readAll(std::string_view application, std::string_view section) override;
+    std::vector<std::string> sections(std::string_view application) override;
     void write(std::string_view application, std::string_view section, std::string_view name,
                std::string_view data) override;
     void remove(std::string_view application, std::string_view section, std::string_view name) override;

@@ -60,6 +60,7 @@ TEST_F(HostPostTest, storeThatCannotBeReadForAMomentIsNotTaken)
     struct Blind : SettingsStore {
         std::string read(std::string_view, std::string_view, std::string_view, std::string_view) override { return {}; }
         std::vector<Setting> readAll(std::string_view, std::string_view) override { return {}; }
+        std::vector<std::string> sections(std::string_view) override { return {}; }
         void write(std::string_view, std::string_view, std::string_view, std::string_view) override {}
         void remove(std::string_view, std::string_view, std::string_view) override {}
         void removeSection(std::string_view, std::string_view) override {}

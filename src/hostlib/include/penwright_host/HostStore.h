@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 
 namespace penwright {
 
@@ -19,6 +20,15 @@ public:
 
     /// Where tools look: "Lumentor/settings.sqlite3" under $XDG_CONFIG_HOME, or under ~/.config.
     static std::string userPath();
+
+    /// A name for the section of one tool that tells whose it is: `host`, this process and `tag`. Two hosts, and two
+    /// processes of one, never get the same; two tools of one process need tags of their own.
+    static std::string ownSection(std::string_view host, std::string_view tag);
+
+    /// Removes the sections that `ownSection` has named for `host` in processes that are gone, killed ones: to be
+    /// called when the host starts. Sections of other hosts and of processes that run stay, and those of processes
+    /// that cannot be seen from here, as those in a container. How many were removed.
+    int removeLeftSections(std::string_view host);
 
 private:
     friend class HostedTool;
