@@ -1,5 +1,6 @@
 #include "wizard/PageFrame.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -7,6 +8,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "controls/FieldFocus.h"
 #include "controls/InView.h"
 #include "controls/QuietLabel.h"
 #include "controls/ScreenReader.h"
@@ -79,6 +81,7 @@ PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_
     layout->addWidget(m_note);
     layout->addWidget(makeLine());
     layout->addLayout(m_buttons);
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { noteField(now); });
 }
 
 QString PageFrame::caption() const
@@ -100,8 +103,32 @@ void PageFrame::focusFirstField()
         widget = widget->nextInFocusChain();
     if (widget == m_formArea)
         widget = m_next;
-    widget->setFocus(Qt::OtherFocusReason);
-    bringIntoView(*widget);
+    goToField(*widget);
+}
+
+void PageFrame::focusLastField()
+{
+    QWidget *field = fieldOnReturn(m_lastField);
+    if (field && takesFocus(*field, *this))
+        goToField(*field);
+    else
+        focusFirstField();
+}
+
+void PageFrame::goToField(QWidget &field)
+{
+    focusField(field);
+    bringIntoView(field);
+}
+
+void PageFrame::noteField(QWidget *focus)
+{
+    if (!focus || !m_formArea->isAncestorOf(focus))
+        return;
+    // The editor of a cell stands for its grid.
+    for (QWidget *widget = focus; widget != m_formArea; widget = widget->parentWidget())
+        if (widget->focusPolicy() & Qt::TabFocus)
+            m_lastField = widget;
 }
 
 void PageFrame::addButtons(const Handler &next, const Handler &back)

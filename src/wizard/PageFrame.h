@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QPointer>
 
 #include <functional>
 
@@ -76,8 +77,13 @@ public:
     /// Shows one quiet line under the form, which screen readers are told of as well; an empty one takes it away.
     void showNote(const QString &text);
 
-    /// Puts the focus on the first field of the form that takes it, on the Next button where there is none.
+    /// Puts the focus on the first field of the form that takes it, on the Next button where there is none. A text in
+    /// it is selected.
     void focusFirstField();
+
+    /// Puts the focus on the field of the form that had it last, as one does who comes back; on the first one when that
+    /// takes it no more. A text in it is selected.
+    void focusLastField();
 
 protected:
     /// The widget that takes the page's form.
@@ -93,6 +99,9 @@ protected:
     /// Shows the list of warnings, then puts the focus on the first faulty field.
     void showWarnings();
 
+    /// The field to be given the focus when one comes back, `last` being the one that had it last, or none.
+    virtual QWidget *fieldOnReturn(QWidget *last) const { return last; }
+
     /// Puts the focus on a faulty field, where the page told the places of its checks.
     virtual void focusFault(const FaultPlace &place);
 
@@ -105,6 +114,8 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    void noteField(QWidget *focus);
+    void goToField(QWidget &field);
     void pressNext(const Handler &next);
     void focusFirstFault();
     QPushButton *addButton(const QString &name, const QString &text, const QString &key, const Handler &handler);
@@ -115,6 +126,7 @@ private:
     QLabel *m_note = nullptr;
     class QHBoxLayout *m_buttons = nullptr;
     QPushButton *m_next = nullptr;
+    QPointer<QWidget> m_lastField;  ///< of the form
 };
 
 }  // namespace penwright

@@ -122,6 +122,12 @@ void WizardWindow::startDeathTimer()
 
 void WizardWindow::ShowPage(int index)
 {
+    const bool isBack = m_shownPage < kPageCount && index < m_shownPage;
+    turnTo(index, isBack ? Arrival::Back : Arrival::First);
+}
+
+void WizardWindow::turnTo(int index, Arrival arrival)
+{
     const bool isPage = index >= 0 && index < kPageCount;
     if (isPage)  // before anything is hidden: a page that cannot be prepared leaves the one that is shown
         m_pages[static_cast<std::size_t>(index)]->enter();
@@ -141,7 +147,10 @@ void WizardWindow::ShowPage(int index)
     for (QScrollBar *bar : {m_scroll->horizontalScrollBar(), m_scroll->verticalScrollBar()})
         bar->setValue(0);
     setWindowTitle(page->caption());
-    page->focusFirstField();
+    if (arrival == Arrival::Back)
+        page->focusLastField();
+    else
+        page->focusFirstField();
 }
 
 void WizardWindow::ConfirmCancel()
@@ -171,7 +180,7 @@ void WizardWindow::StartWizard()
 {
     for (PageFrame *page : m_pages)
         page->start();
-    ShowPage(kLampPage);
+    turnTo(kLampPage, Arrival::First);
     show();
     m_services.embedding.takeFocus();
 }

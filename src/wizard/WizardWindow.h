@@ -43,6 +43,8 @@ public:
     /// Starts `tmrDeath`, which "START" stops.
     void startDeathTimer();
 
+    /// Also puts the focus: a page before the one that was shown gets it where it was left, any other at its first
+    /// field.
     void ShowPage(int index) override;
     void ConfirmCancel() override;
     void ShowHelp(int contextId) override;
@@ -82,6 +84,10 @@ protected:
     void closeEvent(QCloseEvent *event) override;
 
 private:
+    /// Where a page gets the focus.
+    enum class Arrival { First, Back };
+
+    void turnTo(int index, Arrival arrival);
     void makeLayout();
     void makeHiddenBoxes();
     QTimer *makeTimer(const char *name, int interval);

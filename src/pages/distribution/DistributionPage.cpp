@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 
+#include "controls/FieldFocus.h"
 #include "ui_DistributionPage.h"
 #include "wizard/WarningDialog.h"
 
@@ -105,7 +106,7 @@ void DistributionPage::focusFault(const FaultPlace &place)
             if (m_form->fraAngles->isHidden())
                 m_form->rdoC->setFocus();
             else
-                (place.field == kVerticalListField ? m_form->phoCmbVert : m_form->phoCmbHorz)->setFocus();
+                focusField(place.field == kVerticalListField ? *m_form->phoCmbVert : *m_form->phoCmbHorz);
             break;
         case kVerticalGridField:
             m_form->phoGridVert->goTo(place.row, place.column);

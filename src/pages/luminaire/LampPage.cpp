@@ -1,5 +1,6 @@
 #include "pages/luminaire/LampPage.h"
 
+#include "controls/FieldFocus.h"
 #include "controls/ScreenReader.h"
 #include "pages/luminaire/InputUnits.h"
 #include "pages/luminaire/LuminousShapes.h"
@@ -93,8 +94,7 @@ void LampPage::focusFault(const FaultPlace &place)
     TextBox *box = boxes().at(static_cast<std::size_t>(place.field));
     if (!box->isEnabled())
         return m_form->lmpCmbShape->setFocus();  // only another shape mends a box that takes no text
-    box->setFocus();
-    box->selectAll();
+    focusField(*box);
 }
 
 std::array<TextBox *, kLampFieldCount> LampPage::boxes() const

@@ -2,6 +2,7 @@
 
 #include <QHeaderView>
 
+#include "controls/FieldFocus.h"
 #include "ui_TiltPage.h"
 #include "wizard/WarningDialog.h"
 
@@ -61,12 +62,18 @@ TiltFields TiltPage::readFields() const
     return fields;
 }
 
+QWidget *TiltPage::fieldOnReturn(QWidget *last) const
+{
+    // A key pressed at the count would empty the table.
+    const bool isAtCount = !last || last == m_form->lmpTxtNumAngles;
+    return isAtCount && m_table->rowCount() > 0 ? m_form->lmpGridTiltMultiplier : last;
+}
+
 void TiltPage::focusFault(const FaultPlace &place)
 {
     switch (place.field) {
         case kTiltCountField:
-            m_form->lmpTxtNumAngles->setFocus();
-            m_form->lmpTxtNumAngles->selectAll();
+            focusField(*m_form->lmpTxtNumAngles);
             break;
         case kTiltGeometryField:
             m_form->l2lg0->setFocus();
