@@ -14,7 +14,19 @@ class TextBox : public QLineEdit {
 public:
     explicit TextBox(QWidget *parent = nullptr) : QLineEdit(parent) { setValidator(new OneLine(this)); }
 
+signals:
+    /// The focus has come from elsewhere in the window: what is typed from here on is one go.
+    void entered();
+
 protected:
+    void focusInEvent(QFocusEvent *event) override
+    {
+        QLineEdit::focusInEvent(event);
+        const Qt::FocusReason reason = event->reason();
+        if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+            emit entered();
+    }
+
     void mouseReleaseEvent(QMouseEvent *event) override
     {
         QLineEdit::mouseReleaseEvent(event);

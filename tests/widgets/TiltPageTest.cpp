@@ -123,6 +123,32 @@ TEST_F(TiltPageTest, countSizesTheGridWithZeros)
     EXPECT_TRUE(cells().starts_with("0|0 / 0|0 / 0|0"));
 }
 
+TEST_F(TiltPageTest, countTypedAnewKeepsTheTable)
+{
+    typeCount("3");
+    typeColumn(0, {"0", "45", "90"});
+    typeCount("3");
+    EXPECT_EQ(cells(), "0|0 / 45|0 / 90|0");
+    press(Qt::Key_Backspace);
+    type("3");
+    EXPECT_EQ(cells(), "0|0 / 45|0 / 90|0");
+    typeCount("6");
+    EXPECT_EQ(cells(), "0|0 / 0|0 / 0|0 / 0|0 / 0|0 / 0|0");
+}
+
+TEST_F(TiltPageTest, countOfTwoDigitsTypedAnewKeepsTheTable)
+{
+    typeCount("12");
+    grid()->goTo(12, 0);
+    type("90");
+    press(Qt::Key_Return);
+    const std::string filled = cells();
+    typeCount("1");
+    EXPECT_EQ(cells(), "0|0");
+    type("2");
+    EXPECT_EQ(cells(), filled);
+}
+
 TEST_F(TiltPageTest, anyOtherCountLeavesTheGridAndTellsNothing)
 {
     fill({"0", "90"});

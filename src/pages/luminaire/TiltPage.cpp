@@ -19,6 +19,7 @@ TiltPage::TiltPage(const PageContext &context)
     grid.setTabWay(TabWay::DownColumn);
     grid.setTextAlignment(Qt::AlignRight);
     grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    connect(m_form->lmpTxtNumAngles, &TextBox::entered, this, [this] { m_table->beginCount(); });
     connect(m_form->lmpTxtNumAngles, &TextBox::textChanged, this, &TiltPage::lmpTxtNumAngles_Change);
     addButtons([this] { cmdNext15_Click(); }, [this] { cmdBack15_Click(); });
 }

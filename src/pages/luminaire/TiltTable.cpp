@@ -9,8 +9,10 @@ std::optional<GridEdit> TiltTable::newCount(std::string_view text)
     if (!isNumeric(text) || toDouble(text) <= 0 || toDouble(text) > kMostAngles + 1)
         return std::nullopt;
     const int count = toInt32(text);
-    if (count < 1 || count > kMostAngles)
+    if (count < 1 || count > kMostAngles || count == rowCount())
         return std::nullopt;
+    if (count == m_atBegin.angles.size())
+        return replacement("New Count", m_atBegin);
     return replacement("New Count", {OneBased<float>(count), OneBased<float>(count)});
 }
 

@@ -27,9 +27,13 @@ public:
     /// `title` is what the messages about refused cells are titled with.
     explicit TiltTable(std::string title) : m_title(std::move(title)) {}
 
+    /// A count is about to be typed, in one go: the values that stand now come back with their own count, whatever
+    /// counts it passes through on the way, as 12 passes through 1.
+    void beginCount() { m_atBegin = m_values; }
+
     /// What the text of the angle count makes of the table. A numeric text above zero gives both lists that length and
-    /// sets every value to 0, also where the length stays the same. Any other text, and one whose count rounds to 0 or
-    /// lies above kMostAngles, is no change.
+    /// sets every value to 0. The count that the lists have, any other text, and one whose count rounds to 0 or lies
+    /// above kMostAngles, is no change.
     std::optional<GridEdit> newCount(std::string_view text);
 
     const OneBased<float> &angles() const { return m_values.angles; }
@@ -55,6 +59,7 @@ protected:
 
 private:
     std::string m_title;
+    TiltValues m_atBegin;  ///< what stood when a count began to be typed
 };
 
 }  // namespace penwright

@@ -49,7 +49,7 @@ class TiltCount : public testing::TestWithParam<CountCase> {};
 
 INSTANTIATE_TEST_SUITE_P(Taken, TiltCount,
                          testing::Values(CountCase{"1", 1}, CountCase{"6", 6}, CountCase{" +4 ", 4},
-                                         CountCase{"3.0", 3}, CountCase{"2.5", 2}, CountCase{"3.5", 4},
+                                         CountCase{"4.0", 4}, CountCase{"2.5", 2}, CountCase{"3.5", 4},
                                          CountCase{"0.6", 1}, CountCase{"1E3", 1000}, CountCase{"32767", 32767},
                                          CountCase{"32767.4", 32767}));
 
@@ -64,8 +64,8 @@ TEST_P(TiltCount, givesBothListsThatLengthAndZeros)
 class TiltNoCount : public testing::TestWithParam<std::string> {};
 
 INSTANTIATE_TEST_SUITE_P(Left, TiltNoCount,
-                         testing::Values("", " ", "abc", "0", "-3", "0.0", "0.5", "0.4", "1E-50", "3x", "1,5", "32768",
-                                         "32767.5", "40000", "2147483648", "1E300"));
+                         testing::Values("", " ", "3", "3.0", " +3", "2.6", "abc", "0", "-3", "0.0", "0.5", "0.4",
+                                         "1E-50", "3x", "1,5", "32768", "32767.5", "40000", "2147483648", "1E300"));
 
 TEST_P(TiltNoCount, leavesTheListsAsTheyAre)
 {
@@ -75,11 +75,32 @@ TEST_P(TiltNoCount, leavesTheListsAsTheyAre)
     EXPECT_EQ(table.factors(), (OneBased<float>{0.1F, 0.2F, 0.3F}));
 }
 
-TEST(TiltTable, sameLengthAnewSetsAllToZero)
+TEST(TiltTable, countTypedAnewKeepsTheValuesWhateverItPassesThrough)
+{
+    TiltTable table(kTitle);
+    giveCount(table, "12");
+    write(table, 12, TiltTable::kAngle, "90");
+    write(table, 12, TiltTable::kFactor, "0.5");
+    table.beginCount();
+    for (const char *text : {"", "1", "123", "12"})
+        giveCount(table, text);
+    OneBased<float> angles(12);
+    OneBased<float> factors(12);
+    angles(12) = 90;
+    factors(12) = 0.5F;
+    EXPECT_EQ(table.angles(), angles);
+    EXPECT_EQ(table.factors(), factors);
+}
+
+TEST(TiltTable, valuesComeBackOnlyInTheGoThatTheirCountWasTypedIn)
 {
     TiltTable table = filledTable();
-    EXPECT_TRUE(giveCount(table, "3.0"));
+    table.beginCount();
+    giveCount(table, "1");
+    table.beginCount();
+    EXPECT_TRUE(giveCount(table, "3"));
     EXPECT_EQ(table.angles(), OneBased<float>(3));
+    EXPECT_EQ(table.factors(), OneBased<float>(3));
 }
 
 TEST(TiltTable, eachColumnHasItsOwnValues)
