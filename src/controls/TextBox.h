@@ -8,6 +8,7 @@
 namespace penwright {
 
 /// A text box of one value: a click into it selects the whole text, so that typing replaces the value.
+/// A part that was marked by dragging, or by a click with Shift, stays marked.
 class TextBox : public QLineEdit {
     Q_OBJECT
 
@@ -27,12 +28,32 @@ protected:
             emit entered();
     }
 
+    void mousePressEvent(QMouseEvent *event) override
+    {
+        QLineEdit::mousePressEvent(event);
+        m_pressed = event->position().toPoint();
+        m_marks = event->modifiers() & Qt::ShiftModifier;
+    }
+
+    void mouseMoveEvent(QMouseEvent *event) override
+    {
+        constexpr int kUnsteady = 3;  // a hand that clicks may move so far
+        QLineEdit::mouseMoveEvent(event);
+        const bool isFar = (event->position().toPoint() - m_pressed).manhattanLength() > kUnsteady;
+        if (isFar && (event->buttons() & Qt::LeftButton))
+            m_marks = true;
+    }
+
     void mouseReleaseEvent(QMouseEvent *event) override
     {
         QLineEdit::mouseReleaseEvent(event);
-        if (event->button() == Qt::LeftButton)
+        if (event->button() == Qt::LeftButton && !(m_marks && hasSelectedText()))
             selectAll();
     }
+
+private:
+    QPoint m_pressed;
+    bool m_marks = false;  ///< whether the mouse marks a part
 };
 
 }  // namespace penwright

@@ -63,6 +63,47 @@ TEST_F(LampPageTest, clickIntoABoxSelectsItsWholeText)
     }
 }
 
+TEST_F(LampPageTest, partMarkedByDraggingStaysMarked)
+{
+    QLineEdit *lumens = box("txtLumPerLamp");
+    setText("txtLumPerLamp", "123456");
+    const int middle = lumens->height() / 2;
+    const int end = lumens->inputMethodQuery(Qt::ImCursorRectangle).toRect().center().x();
+    const auto drag = [&](int from, int to) {
+        QTest::mousePress(lumens, Qt::LeftButton, {}, QPoint(from, middle));
+        QMouseEvent move(QEvent::MouseMove, QPointF(to, middle), lumens->mapToGlobal(QPointF(to, middle)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(lumens, &move);
+        QTest::mouseRelease(lumens, Qt::LeftButton, {}, QPoint(to, middle));
+    };
+    const int digits = lumens->fontMetrics().horizontalAdvance("456");
+    drag(end + 4, end - digits);
+    EXPECT_EQ(lumens->selectedText(), "456");
+    typeText("7");
+    EXPECT_EQ(text("txtLumPerLamp"), "1237");
+    drag(10, 12);
+    EXPECT_EQ(lumens->selectedText(), "1237");
+}
+
+TEST_F(LampPageTest, partMarkedByAClickWithShiftStaysMarked)
+{
+    QLineEdit *lumens = box("txtLumPerLamp");
+    setText("txtLumPerLamp", "123456");
+    lumens->setFocus();
+    const QPoint end = lumens->inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    const int digits = lumens->fontMetrics().horizontalAdvance("56");
+    QTest::mouseClick(lumens, Qt::LeftButton, Qt::ShiftModifier, end - QPoint(digits, 0));
+    EXPECT_EQ(lumens->selectedText(), "56");
+}
+
+TEST_F(LampPageTest, doubleClickSelectsTheWholeText)
+{
+    setText("txtLumPerLamp", "-1");
+    QTest::mouseDClick(box("txtLumPerLamp"), Qt::LeftButton, {}, QPoint(8, 8));
+    QTest::mouseRelease(box("txtLumPerLamp"), Qt::LeftButton, {}, QPoint(8, 8));
+    EXPECT_EQ(box("txtLumPerLamp")->selectedText(), "-1");
+}
+
 TEST_F(LampPageTest, emptyPageYieldsEightLinesInOrder)
 {
     EXPECT_EQ(warningsOfNext(),
