@@ -1,6 +1,7 @@
 #include "wizard/PageFrame.h"
 
 #include <QApplication>
+#include <QComboBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -52,6 +53,11 @@ QWidget *makeLine()
     line->setBackgroundRole(QPalette::Mid);
     line->setAutoFillBackground(true);
     return line;
+}
+
+bool isEnter(const QKeyEvent &key)
+{
+    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
 bool takesFocus(const QWidget &widget, const QWidget &page)
@@ -143,6 +149,17 @@ void PageFrame::addButtons(const Handler &next, const Handler &back)
     // Captions carry no "&". A button's own shortcut would hold its click back while it shows itself pressed.
     connect(new QShortcut(QKeySequence("Alt+N"), this), &QShortcut::activated, m_next, &QPushButton::click);
     connect(new QShortcut(QKeySequence("Alt+B"), this), &QShortcut::activated, backButton, &QPushButton::click);
+    keepEnterFromFields();
+}
+
+void PageFrame::keepEnterFromFields()
+{
+    for (QWidget *field : m_formArea->findChildren<QWidget *>()) {
+        const auto *button = qobject_cast<QPushButton *>(field);
+        const bool isPressable = qobject_cast<QAbstractButton *>(field) || qobject_cast<QComboBox *>(field);
+        if (isPressable && !(button && button->autoDefault()))
+            field->installEventFilter(this);
+    }
 }
 
 QPushButton *PageFrame::addButton(const QString &name, const QString &text, const QString &key, const Handler &handler)
@@ -190,10 +207,17 @@ void PageFrame::onClick(QAbstractButton *button, const Handler &handler)
     });
 }
 
+bool PageFrame::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress || !isEnter(*static_cast<QKeyEvent *>(event)))
+        return QFrame::eventFilter(watched, event);
+    m_next->click();
+    return true;
+}
+
 void PageFrame::keyPressEvent(QKeyEvent *event)
 {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter)
+    if (isEnter(*event))
         m_next->click();
     else
         QFrame::keyPressEvent(event);

@@ -110,12 +110,17 @@ protected:
     const Services &services() const { return m_context.services; }
     Navigator &navigator() const { return m_context.navigator; }
 
-    /// Enter presses Next wherever it has no use of its own, as it has in grids, open lists and on the other buttons.
+    /// Enter presses Next wherever it has no use of its own, as it has in grids, open lists and on buttons that are
+    /// `autoDefault`.
     void keyPressEvent(QKeyEvent *event) override;
+
+    /// Keeps Enter from the fields of the form that some desktops let press it, and gives it to Next.
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void noteField(QWidget *focus);
     void goToField(QWidget &field);
+    void keepEnterFromFields();
     void pressNext(const Handler &next);
     void focusFirstFault();
     QPushButton *addButton(const QString &name, const QString &text, const QString &key, const Handler &handler);

@@ -65,6 +65,35 @@ TEST_F(KeywordPageTest, ctrlTabWalksFromTheGridThroughTheButtons)
                                                 "cmdNext20", "cmdBack20", "keyGrid"}));
 }
 
+TEST_F(KeywordPageTest, enterOnTheButtonsOfDefaultsPressesNext)
+{
+    open();
+    typeInto(2, 1, "T-1");
+    const std::string before = rows();
+    for (const char *button : {"cmdDefaultLoad", "cmdSaveDefaults"}) {
+        window->ShowPage(kKeywordPage);
+        find(button)->setFocus();
+        press(Qt::Key_Return);
+        EXPECT_EQ(shownPage(), kDistributionPage) << button;
+        EXPECT_EQ(rows(), before) << button;
+    }
+    EXPECT_EQ(dialogs.transcript, "");
+    EXPECT_EQ(storedDefaults(), "");
+}
+
+TEST_F(KeywordPageTest, spacePressesTheButtonsOfDefaults)
+{
+    open();
+    typeInto(2, 1, "T-1");
+    find("cmdSaveDefaults")->setFocus();
+    press(Qt::Key_Space);
+    EXPECT_EQ(dialogs.transcript, kSaveMessage);
+    typeInto(2, 1, "T-2");
+    find("cmdDefaultLoad")->setFocus();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(rows().starts_with("IESNA:LM-63-2002|\n[TEST]|T-1\n"));
+}
+
 TEST_F(KeywordPageTest, cleanRowsAreStoredAndThePageIsTurned)
 {
     open();

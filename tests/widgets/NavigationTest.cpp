@@ -99,16 +99,43 @@ TEST_F(Wizard, errorInAHandlerIsOneMessageUnderTheCaption)
     EXPECT_EQ(shownPage(), kLampPage);
 }
 
-/// A page with one text box, as the pages that are typed into have them.
+/// A check box that Enter ticks, as some desktops have it.
+struct EnterCheckBox : QCheckBox {
+    using QCheckBox::QCheckBox;
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        if (event->key() == Qt::Key_Return)
+            click();
+        else
+            QCheckBox::keyPressEvent(event);
+    }
+};
+
+/// A page with a text box, as the pages that are typed into have them, and a box to tick.
 struct TextPage : PageFrame {
     explicit TextPage(const PageContext &context) : PageFrame(kCandelaPage, context)
     {
         box = new QLineEdit(formArea());
+        tick = new EnterCheckBox(formArea());
         addButtons([this] { ++nextCount; }, {});
     }
     QLineEdit *box;
+    EnterCheckBox *tick;
     int nextCount = 0;
 };
+
+TEST_F(Wizard, enterPressesNextWhereTheDesktopWouldTickABoxWithIt)
+{
+    loadWindow();
+    TextPage page(window->pageContext());
+    page.show();
+    page.tick->setFocus();
+    QTest::keyClick(page.tick, Qt::Key_Return);
+    EXPECT_EQ(page.nextCount, 1);
+    EXPECT_FALSE(page.tick->isChecked());
+    QTest::keyClick(page.tick, Qt::Key_Space);
+    EXPECT_TRUE(page.tick->isChecked());
+}
 
 TEST_F(Wizard, enterInATextBoxPressesNext)
 {
