@@ -77,6 +77,9 @@ public:
     /// Shows one quiet line under the form, which screen readers are told of as well; an empty one takes it away.
     void showNote(const QString &text);
 
+    /// Runs each time the page is come back to from the page of an index, before it is shown.
+    virtual void comeBackFrom(int) {}
+
     /// Puts the focus on the first field of the form that takes it, on the Next button where there is none. A text in
     /// it is selected.
     void focusFirstField();

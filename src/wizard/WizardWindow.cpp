@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QTextCursor>
 #include <QTimer>
+#include <utility>
 
 #include "controls/ScreenReader.h"
 #include "hostlink/HostPost.h"
@@ -138,11 +139,13 @@ void WizardWindow::turnTo(int index, Arrival arrival)
         page->hide();
         page->showNote({});
     }
-    m_shownPage = kPageCount;
+    const int from = std::exchange(m_shownPage, kPageCount);
     if (!isPage)
         return;
     m_shownPage = index;
     PageFrame *page = m_pages[static_cast<std::size_t>(index)];
+    if (arrival == Arrival::Back)
+        page->comeBackFrom(from);
     page->show();
     for (QScrollBar *bar : {m_scroll->horizontalScrollBar(), m_scroll->verticalScrollBar()})
         bar->setValue(0);

@@ -90,6 +90,30 @@ TEST_F(Return, leadsToTheCountOfAnEmptyTiltTable)
     EXPECT_EQ(focusName(), "lmpTxtNumAngles");
 }
 
+TEST_F(Return, overTheTiltPageOfANewRecordTicksItsBox)
+{
+    next();
+    state.PhotFiles(1).TiltIncl = true;  // as the host's "DATACHANGED" does
+    back();
+    ASSERT_EQ(shownPage(), kTiltPage);
+    back();
+    EXPECT_TRUE(find<QAbstractButton>("chkIncludeTilt")->isChecked());
+    next();
+    EXPECT_EQ(shownPage(), kTiltPage);
+}
+
+TEST_F(Return, pastTheTiltPageForANewRecordClearsItsBox)
+{
+    find<QAbstractButton>("chkIncludeTilt")->setChecked(true);
+    next();
+    fillPageTwo();
+    next();
+    state.PhotFiles(1).TiltIncl = false;
+    back();
+    ASSERT_EQ(shownPage(), kLampPage);
+    EXPECT_FALSE(find<QAbstractButton>("chkIncludeTilt")->isChecked());
+}
+
 TEST_F(Return, leadsToTheCellThatWasLeft)
 {
     window->ShowPage(kTiltPage);

@@ -45,6 +45,12 @@ void LampPage::load()
     m_form->lmpCmbShape->setMaxVisibleItems(m_form->lmpCmbShape->count());
 }
 
+void LampPage::comeBackFrom(int page)
+{
+    if (page == kTiltPage || page == kKeywordPage)
+        m_form->chkIncludeTilt->setChecked(page == kTiltPage);
+}
+
 void LampPage::lmpCmbShape_Click()
 {
     gsbDrawLuminaireGeo(static_cast<std::int16_t>(m_form->lmpCmbShape->currentIndex()));

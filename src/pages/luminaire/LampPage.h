@@ -25,6 +25,9 @@ public:
 
     void load() override;
 
+    /// Ticks the box by the way back, which the record decides: a host may have put another one there meanwhile.
+    void comeBackFrom(int page) override;
+
 protected:
     void focusFault(const FaultPlace &place) override;
 
