@@ -157,6 +157,19 @@ TEST_F(KeywordPageTest, faultsAreToldTogetherAndTheFirstCellGetsTheFocus)
     EXPECT_EQ(currentCell(), "3,0");
 }
 
+TEST_F(KeywordPageTest, descriptionOfTheVersionLineIsToldWhileItIsTyped)
+{
+    open();
+    const std::string refused = "The version line takes no description: Next refuses it.";
+    grid()->goTo(1, 1);
+    EXPECT_EQ(label("labDescription"), "Version line of the format of 2002");
+    typeText("x");
+    EXPECT_EQ(label("labDescription"), refused);
+    EXPECT_EQ(grid()->accessibleDescription().toStdString(), refused);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(label("labDescription"), "Version line of the format of 2002");
+}
+
 TEST_F(KeywordPageTest, missingVersionLineIsLookedForInRowOne)
 {
     open({{"A[TEST]", "1"}});

@@ -8,10 +8,12 @@
 namespace penwright {
 namespace {
 
-std::string versionHint(std::string_view key)
+std::string versionHint(const KeywordRow &line)
 {
+    if (!line.value.empty())
+        return "The version line takes no description: Next refuses it.";
     for (const KeywordEntry &entry : kVersionLines)
-        if (entry.keyword == key)
+        if (entry.keyword == line.key)
             return std::string(entry.description);
     return "Version line";
 }
@@ -36,7 +38,7 @@ std::string keywordHint(int row, const KeywordRow &line, bool isNew)
     if (isNew && line.isEmpty())
         return "Type here to add line " + std::to_string(row) + ".";
     if (row == 1 && isVersionLine(line.key))
-        return versionHint(line.key);
+        return versionHint(line);
     if (const int position = gfnIsValidKeyword(line.key))
         return std::string(kStandardKeywords[static_cast<std::size_t>(position - 1)].description);
     if (isUserKeyword(line.key))
