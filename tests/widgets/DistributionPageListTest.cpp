@@ -119,6 +119,30 @@ TEST_F(DistributionList, digitsTypedBehindALoneSignAreRefusedWithIt)
     }
 }
 
+TEST_F(DistributionList, aPendingSignIsSaidBesideItsBoxUntilItIsGone)
+{
+    const auto hints = [this] {
+        return find<QLabel>("labVertSign")->text().toStdString() + "|" +
+               find<QLabel>("labHorzSign")->text().toStdString();
+    };
+    const std::string said = "After \"-\" a digit is refused and 1 stays. Backspace takes the \"-\" back.";
+    typeInto(vertical(), "3");
+    EXPECT_EQ(hints(), "|");
+    typeInto(vertical(), "-");
+    EXPECT_EQ(hints(), said + "|");
+    EXPECT_EQ(vertical()->lineEdit()->accessibleDescription().toStdString(), said);
+    typeText("4");
+    EXPECT_EQ(hints(), said + "|");
+    press(Qt::Key_Backspace);
+    EXPECT_EQ(hints(), "|");
+    typeText("7");
+    EXPECT_EQ(columns(verticalGrid()), 7);
+    typeInto(horizontal(), "-");
+    EXPECT_EQ(hints(), "|" + said);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(hints(), "|");
+}
+
 TEST_F(DistributionList, aRefusedSignIsForgottenOnceTheFieldIsLeftOrAnEntryPicked)
 {
     typeInto(vertical(), "-");

@@ -18,13 +18,19 @@ namespace penwright {
 /// Keeps in mind whether what is typed follows a lone minus sign, in whose place a 1 was put.
 class AngleListBox::Edit : public QLineEdit {
 public:
-    Edit() { setValidator(new OneLine(this)); }
+    explicit Edit(AngleListBox &box) : m_box(box) { setValidator(new OneLine(this)); }
 
     QString signBefore() const { return m_followsSign ? kSign : ""; }
-    void keepSign() { m_followsSign = m_followsSign || text() == kSign; }
-    void forgetSign() { m_followsSign = false; }
+    void keepSign() { followSign(m_followsSign || text() == kSign); }
+    void forgetSign() { followSign(false); }
 
 protected:
+    void focusOutEvent(QFocusEvent *event) override
+    {
+        QLineEdit::focusOutEvent(event);
+        forgetSign();
+    }
+
     void focusInEvent(QFocusEvent *event) override
     {
         QLineEdit::focusInEvent(event);
@@ -52,11 +58,18 @@ protected:
 private:
     static constexpr const char *kSign = "-";
 
+    void followSign(bool follows)
+    {
+        if (std::exchange(m_followsSign, follows) != follows)
+            emit m_box.signPending(follows);
+    }
+
+    AngleListBox &m_box;
     bool m_isFirstClick = false;
     bool m_followsSign = false;
 };
 
-AngleListBox::AngleListBox(QWidget *parent) : DropDownList(parent), m_edit(new Edit)
+AngleListBox::AngleListBox(QWidget *parent) : DropDownList(parent), m_edit(new Edit(*this))
 {
     constexpr int kMostEntries = 12;
     setMaxVisibleItems(kMostEntries);
@@ -88,8 +101,8 @@ std::string AngleListBox::chosenText() const
 
 void AngleListBox::replaceText(const QString &text)
 {
-    const QSignalBlocker blocker(this);
     m_edit->keepSign();
+    const QSignalBlocker blocker(this);
     m_edit->setText(text);
     m_edit->selectAll();
 }

@@ -36,6 +36,9 @@ signals:
     /// The text has changed, or an entry was picked, be it the same one again.
     void changed();
 
+    /// Whether a lone minus sign was refused and what is typed next comes with it, so that it is refused too.
+    void signPending(bool isPending);
+
 protected:
     void keyPressEvent(QKeyEvent *event) override;
 

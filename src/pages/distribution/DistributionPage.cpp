@@ -4,6 +4,7 @@
 #include <QPushButton>
 
 #include "controls/FieldFocus.h"
+#include "controls/ScreenReader.h"
 #include "ui_DistributionPage.h"
 #include "wizard/WarningDialog.h"
 
@@ -22,6 +23,10 @@ DistributionPage::DistributionPage(const PageContext &context, std::function<voi
     onClick(m_form->rdoB, [this] { rdoB_Click(); });
     connect(m_form->phoCmbVert, &AngleListBox::changed, this, &DistributionPage::phoCmbVert_Change);
     connect(m_form->phoCmbHorz, &AngleListBox::changed, this, &DistributionPage::phoCmbHorz_Change);
+    connect(m_form->phoCmbVert, &AngleListBox::signPending, this,
+            [this](bool isPending) { tellSign(*m_form->phoCmbVert, *m_form->labVertSign, isPending); });
+    connect(m_form->phoCmbHorz, &AngleListBox::signPending, this,
+            [this](bool isPending) { tellSign(*m_form->phoCmbHorz, *m_form->labHorzSign, isPending); });
     addButtons([this] { cmdNext30_Click(); }, [this] { cmdBack30_Click(); });
     for (AngleListBox *list : {m_form->phoCmbVert, m_form->phoCmbHorz})
         list->lineEdit()->setAccessibleName(list->accessibleName());
@@ -65,6 +70,12 @@ void DistributionPage::resizeAngles(AngleListBox &list, AngleList &angles, Angle
         list.replaceText("1");
     grid.apply(std::move(resizing->edit));
     navigator().ReDo();
+}
+
+void DistributionPage::tellSign(AngleListBox &list, QLabel &hint, bool isPending)
+{
+    hint.setText(isPending ? "After \"-\" a digit is refused and 1 stays. Backspace takes the \"-\" back." : "");
+    describe(*list.lineEdit(), hint.text());
 }
 
 void DistributionPage::cmdNext30_Click()

@@ -7,6 +7,8 @@
 #include "pages/distribution/DistributionFields.h"
 #include "wizard/PageFrame.h"
 
+class QLabel;
+
 namespace Ui {
 class DistributionPage;
 }
@@ -37,6 +39,7 @@ private:
     void cmdBack30_Click();
 
     void offerAngles();
+    static void tellSign(AngleListBox &list, QLabel &hint, bool isPending);
     void resizeAngles(AngleListBox &list, AngleList &angles, AngleGrid &grid);
     std::int16_t photometricType() const;
     DistributionFields readFields() const;
