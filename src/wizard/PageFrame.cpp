@@ -167,6 +167,7 @@ QPushButton *PageFrame::addButton(const QString &name, const QString &text, cons
     auto *button = new QPushButton(text);
     button->setObjectName(name);
     button->setAccessibleDescription(key);
+    button->setToolTip(key);
     button->setAutoDefault(true);  // so that Enter presses the button that has the focus
     button->setMinimumWidth(92);
     m_buttons->addWidget(button);

@@ -107,7 +107,7 @@ cmdBack10: Button < Back (Alt+B)
 l2lg0: RadioButton Lamp To Luminaire Geometry: Vertical < Lamp To Luminaire Geometry:
 l2lg1: RadioButton Lamp To Luminaire Geometry: Horizontal Along The 90-degree Plane
 l2lg2: RadioButton Lamp To Luminaire Geometry: Horizontal Along The 0-degree Plane
-lmpGridTiltMultiplier: Table Tilt angles and factors (Angles in degrees, from 0 up to 90 or 180)
+lmpGridTiltMultiplier: Table Tilt angles and factors (Angles in degrees, from 0 up to 90 or 180. Factors start at 0.)
 cmdCancel15: Button Cancel (Escape)
 cmdHelp15: Button Help (F1)
 cmdNext15: Button Next > (Alt+N)
@@ -371,6 +371,48 @@ TEST_F(ReadWindow, ofALongListTheBeginningIsTold)
     warningsOf([this] { window->dlgWarn().showModal(); });
     const QString told = window->dlgWarn().accessibleDescription();
     EXPECT_TRUE(told.startsWith("line 1\nline 2\n") && told.endsWith("line 10\nand more")) << qPrintable(told);
+}
+
+struct SeenHint {
+    int page;
+    std::string field;
+    std::string label;
+};
+
+void PrintTo(const SeenHint &hint, std::ostream *out)
+{
+    *out << hint.field;
+}
+
+class HintOfAField : public WizardTest, public testing::WithParamInterface<SeenHint> {};
+
+INSTANTIATE_TEST_SUITE_P(Pages, HintOfAField,
+                         testing::Values(SeenHint{kLampPage, "txtLumPerLamp", "labLumens"},
+                                         SeenHint{kTiltPage, "lmpTxtNumAngles", "labCount"},
+                                         SeenHint{kTiltPage, "lmpGridTiltMultiplier", "labTable"},
+                                         SeenHint{kDistributionPage, "phoGridVert", "labVertAngles"},
+                                         SeenHint{kDistributionPage, "phoGridHorz", "labHorzAngles"}));
+
+TEST_P(HintOfAField, isSeenBelowItAsWellAsHeard)
+{
+    startWizard();
+    window->ShowPage(GetParam().page);
+    fillPageFour();
+    const auto *label = find<QLabel>(GetParam().label);
+    const QWidget *field = find(GetParam().field);
+    EXPECT_TRUE(label->isVisible());
+    EXPECT_FALSE(label->text().isEmpty());
+    EXPECT_TRUE(field->accessibleDescription().contains(label->text())) << label->text().toStdString();
+    EXPECT_GE(label->mapToGlobal(QPoint()).y(), field->mapToGlobal(QPoint(0, field->height())).y());
+}
+
+TEST_F(ReadHint, keyOfAButtonIsSeenAsWellAsHeard)
+{
+    loadWindow();
+    for (const char *button : {"cmdCancel", "cmdHelp15", "cmdNext20", "cmdBack30"}) {
+        EXPECT_EQ(find(button)->toolTip(), find(button)->accessibleDescription()) << button;
+        EXPECT_FALSE(find(button)->toolTip().isEmpty()) << button;
+    }
 }
 
 }  // namespace
