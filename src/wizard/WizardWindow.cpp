@@ -230,7 +230,8 @@ void WizardWindow::cmdHelp_Click()
 
 void WizardWindow::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Escape)
+    const bool isHeld = event->isAutoRepeat();  // an Escape held on has closed a message or an editor already
+    if (event->key() == Qt::Key_Escape && !isHeld)
         askCancelLater();
     else if (event->key() == Qt::Key_F1 && m_shownPage < kPageCount && !isBusy())
         guarded([this] { ShowHelp(kPages[static_cast<std::size_t>(m_shownPage)].helpId); });

@@ -75,7 +75,8 @@ public:
     std::int16_t formState() const { return m_formState; }
 
 protected:
-    /// Escape asks the cancel question, F1 is the page's Help button. Open lists, editors and menus take theirs first.
+    /// A press of Escape asks the cancel question, not the key held on; F1 is the page's Help button. Open lists,
+    /// editors and menus take theirs first.
     void keyPressEvent(QKeyEvent *event) override;
 
     void changeEvent(QEvent *event) override;

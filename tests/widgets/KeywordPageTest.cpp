@@ -241,6 +241,28 @@ TEST_F(KeywordPageTest, saveAsDefaultsInformsThenCommitsThenSaves)
     EXPECT_EQ(record(), PhotometricRecord());
 }
 
+TEST_F(KeywordPageTest, escapeHeldOnAtTheMessageOfDefaultsAsksNothingMore)
+{
+    useRealDialogs();
+    open();
+    find("cmdSaveDefaults")->setFocus();
+    QTimer::singleShot(0, [] { QTest::keyPress(QApplication::activeModalWidget(), Qt::Key_Escape); });
+    press(Qt::Key_Space);
+    ASSERT_FALSE(QApplication::activeModalWidget());
+    QApplication::setActiveWindow(window.get());
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(QApplication::focusWidget(), &held);
+    bool asks = false;
+    QTimer::singleShot(0, [&] {
+        asks = QApplication::activeModalWidget();
+        if (asks)
+            QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    });
+    settle();
+    EXPECT_FALSE(asks);
+    EXPECT_EQ(focusName(), "cmdSaveDefaults");
+}
+
 TEST_F(KeywordPageTest, rowToAppendIsNotSaved)
 {
     open({{"AIESNA91", ""}});
