@@ -70,15 +70,15 @@ public:
     /// Runs each time before the page is shown; an error raised here leaves the page that is shown as it is.
     virtual void enter() {}
 
+    /// Runs each time the page is come back to from the page of an index, before it is shown.
+    virtual void comeBackFrom(int) {}
+
     /// Runs when the host has put its own record into slot 1. Whether what the page holds did not fit it and was built
     /// anew.
     virtual bool followRecord() { return false; }
 
     /// Shows one quiet line under the form, which screen readers are told of as well; an empty one takes it away.
     void showNote(const QString &text);
-
-    /// Runs each time the page is come back to from the page of an index, before it is shown.
-    virtual void comeBackFrom(int) {}
 
     /// Puts the focus on the first field of the form that takes it, on the Next button where there is none. A text in
     /// it is selected.
