@@ -13,10 +13,14 @@ public:
 
     State validate(QString &text, int &cursor) const override
     {
-        static const QRegularExpression kEnd("[\\r\\n]+$");
         static const QRegularExpression kInside("\\r\\n|[\\r\\n\\t]");
         if (text.contains(kInside)) {
-            text.remove(kEnd).replace(kInside, " ");
+            // An expression for the line ends at the end would be tried at each one before them.
+            qsizetype end = text.size();
+            while (end > 0 && (text[end - 1] == '\r' || text[end - 1] == '\n'))
+                --end;
+            text.truncate(end);
+            text.replace(kInside, " ");
             cursor = std::min(cursor, static_cast<int>(text.size()));
         }
         return Acceptable;

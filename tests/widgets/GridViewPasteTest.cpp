@@ -1,3 +1,5 @@
+#include "controls/OneLine.h"
+#include "support/Growth.h"
 #include "widgets/GridViewTest.h"
 
 namespace penwright::test {
@@ -198,6 +200,18 @@ TEST_F(GridPaste, menuOfTheEditorPastesOneLine)
     line->paste();
     press(Qt::Key_Return);
     EXPECT_EQ(table.cells[0][0], "a b c");
+}
+
+TEST(OneLine, takesAsLongAsItsText)
+{
+    const auto validate = [](const std::string &text) {
+        QString line = QString::fromStdString(text) + "end";
+        int cursor = 0;
+        OneLine().validate(line, cursor);
+        EXPECT_TRUE(line.endsWith(" end"));
+    };
+    for (const char *part : {"\n", "\r\n"})
+        EXPECT_LT(growth(part, 4000, validate), kMostGrowth) << testing::PrintToString(part);
 }
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "core/LineEnds.h"
+
 namespace penwright {
 namespace {
 
@@ -11,16 +13,7 @@ constexpr std::string_view kSeparators = "\t\r\n";
 /// The length of the separator that stands at a place: one character, or the two of a line end.
 std::size_t separatorLength(std::string_view text, std::size_t at)
 {
-    return text.substr(at, 2) == "\r\n" ? 2 : 1;
-}
-
-std::string_view withoutLastLineEnd(std::string_view text)
-{
-    if (text.ends_with("\r\n"))
-        text.remove_suffix(2);
-    else if (text.ends_with('\n') || text.ends_with('\r'))
-        text.remove_suffix(1);
-    return text;
+    return std::max<std::size_t>(1, lineEndLength(text.substr(at)));
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "support/Growth.h"
+
 namespace penwright::test {
 namespace {
 
@@ -26,6 +28,7 @@ TEST(GridBlock, endsBehindItsLastText)
         {"1\r\n", {{"1"}}},
         {"1\t2\r\n3\t4", {{"1", "2"}, {"3", "4"}}},
         {"1\n2\t3\n", {{"1"}, {"2", "3"}}},
+        {"1\r2\t3\r", {{"1"}, {"2", "3"}}},
         {"1\n\n\n", {{"1"}}},
         {"1\t\t\n\t\t\n", {{"1"}}},
         {"\t1\t\n\n2\n", {{"", "1"}, {""}, {"2"}}},
@@ -39,6 +42,12 @@ TEST(GridBlock, ofEmptyCellsAloneIsTakenAsItIs)
 {
     EXPECT_EQ(splitGridBlock("\n"), (GridLines{{""}}));
     EXPECT_EQ(splitGridBlock("\t\n\t\n"), (GridLines{{"", ""}, {"", ""}}));
+}
+
+TEST(GridBlock, takesAsLongAsItIs)
+{
+    for (const char *part : {"1\t2\r\n", "\r\n", "\n", "\t"})
+        EXPECT_LT(growth(part, 40000, splitGridBlock), kMostGrowth) << testing::PrintToString(part);
 }
 
 }  // namespace

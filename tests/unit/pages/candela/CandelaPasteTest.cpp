@@ -2,6 +2,7 @@
 
 #include "core/NumberText.h"
 #include "pages/candela/PastedValues.h"
+#include "support/Growth.h"
 #include "unit/pages/candela/CandelaTest.h"
 
 namespace penwright::test {
@@ -46,6 +47,17 @@ INSTANTIATE_TEST_SUITE_P(Texts, Values,
                              {"1\n\r\n2", {"1", "", "2"}},
                              {" 1 \t x y ", {" 1 ", " x y "}},
                          }));
+
+TEST(PastedValues, takeAsLongAsTheirText)
+{
+    const auto readAll = [](std::string_view text) {
+        PastedValues values(text);
+        for (int i = 0; i < values.count(); ++i)
+            values.next();
+    };
+    for (const char *part : {"1\t2\r\n", "\r\n", "\r"})
+        EXPECT_LT(growth(part, 40000, readAll), kMostGrowth) << testing::PrintToString(part);
+}
 
 class CandelaPaste : public CandelaTest {
 protected:
