@@ -32,9 +32,13 @@ GridLines trimmed(GridLines lines)
 
 }  // namespace
 
-bool isGridBlock(std::string_view text)
+std::optional<std::string> textOfOneCell(std::string_view text)
 {
-    return text.find_first_of("\t\n") != std::string_view::npos;
+    PastedCells cells(text);
+    auto cell = cells.next();
+    if (!cell)
+        return std::string();
+    return cell->endsLine && cells.isAtEnd() ? std::optional(std::move(cell->text)) : std::nullopt;
 }
 
 GridLines splitGridBlock(std::string_view text)

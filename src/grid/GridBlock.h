@@ -20,8 +20,9 @@ struct GridBlock {
 /// The texts of a block of cells, line by line; lines may differ in length.
 using GridLines = std::vector<std::vector<std::string>>;
 
-/// Whether a text from the clipboard holds several cells, as spreadsheets hand them over.
-bool isGridBlock(std::string_view text);
+/// What a text from the clipboard is for an open editor: the text of its one cell, whatever line end stands behind it.
+/// Nothing when it holds several cells, as spreadsheets hand them over.
+std::optional<std::string> textOfOneCell(std::string_view text);
 
 /// The cells of tab-delimited lines. Lines end with "\r\n", "\n" or "\r", and a last line end adds no line.
 /// Empty lines and columns behind the last text are left out; a block of empty cells alone is taken as it is.

@@ -29,8 +29,9 @@ void GridBlockActions::paste() const
     const std::string title = m_grid.window()->windowTitle().toStdString();
     try {
         const std::string text = readClipboardText();  // once: its owner may take long to answer
-        if (m_grid.editor().isOpen() && !isGridBlock(text))
-            return m_grid.editor().line()->insert(toQString(text));
+        if (m_grid.editor().isOpen())
+            if (const auto cell = textOfOneCell(text))
+                return m_grid.editor().line()->insert(toQString(*cell));
         m_grid.dropEdit();
         m_grid.apply(m_grid.source().paste(selected(), text, title));
     } catch (const std::exception &error) {

@@ -14,8 +14,8 @@ public:
     /// Puts on the clipboard what the source makes of the block.
     void copy() const;
 
-    /// Pastes the clipboard as the source has it pasted. One line without a tab goes into the text of an open editor;
-    /// anything else drops the editor.
+    /// Pastes the clipboard as the source has it pasted. One cell goes into the text of an open editor, whatever line
+    /// end stands behind it; anything else drops the editor.
     void paste() const;
 
     /// Empties the block's cells.

@@ -147,6 +147,16 @@ TEST_F(CandelaPageEntry, openEditorCopiesAndPastesItsOwnText)
     EXPECT_EQ(dialogs.transcript, "");
 }
 
+TEST_F(CandelaPageEntry, cellOfASpreadsheetGoesIntoTheOpenEditor)
+{
+    showTable({0, 90}, {0, 90});
+    typeText("1");
+    paste("25\n");
+    press(Qt::Key_Return);
+    EXPECT_EQ(cell(1, 1), "125");
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
 TEST_F(CandelaPageEntry, tableOnTheClipboardDropsTheOpenEditor)
 {
     showTable({0, 90}, {0, 90});

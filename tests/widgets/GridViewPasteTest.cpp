@@ -178,9 +178,21 @@ TEST_F(GridPaste, openEditorCopiesAndPastesItsOwnText)
     EXPECT_EQ(table.cells[0][0], "abcde");
 }
 
+TEST_F(GridPaste, cellOfASpreadsheetGoesIntoTheTextOfAnOpenEditor)
+{
+    for (const char *text : {"Night Lab\n", "Night Lab\r\n", "Night Lab\r", "Night Lab"}) {
+        grid->goTo(2, 0);
+        type("Lab: ");
+        paste(text);
+        ASSERT_TRUE(grid->isEditing());
+        press(Qt::Key_Return);
+        EXPECT_EQ(table.cells[1][0], "Lab: Night Lab");
+    }
+}
+
 TEST_F(GridPaste, blockDropsAnOpenEditor)
 {
-    for (const char *text : {"1\t2", "1\n"}) {
+    for (const char *text : {"1\t2", "1\n2", "1\t\n"}) {
         grid->goTo(2, 0);
         type("abc");
         paste(text);

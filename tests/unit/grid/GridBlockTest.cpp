@@ -7,12 +7,13 @@
 namespace penwright::test {
 namespace {
 
-TEST(GridBlock, isWhatHoldsATabOrALineEnd)
+TEST(GridBlock, ofOneCellIsATextWhateverLineEndStandsBehindIt)
 {
-    EXPECT_FALSE(isGridBlock(""));
-    EXPECT_FALSE(isGridBlock("1 2"));
-    EXPECT_TRUE(isGridBlock("1\t2"));
-    EXPECT_TRUE(isGridBlock("1\n"));
+    EXPECT_EQ(textOfOneCell(""), "");
+    for (const char *text : {"1 2", "1 2\n", "1 2\r\n", "1 2\r", "1 2\r\n\r\n"})
+        EXPECT_EQ(textOfOneCell(text), "1 2") << testing::PrintToString(text);
+    for (const char *text : {"1\t2", "1\t", "\t1", "1\n2", "1\r2\n", "1\n\n2", "1\n\t"})
+        EXPECT_EQ(textOfOneCell(text), std::nullopt) << testing::PrintToString(text);
 }
 
 struct SplitCase {
