@@ -25,7 +25,7 @@ std::string inOneLine(std::string_view text)
     line.reserve(text.size());
     while (!text.empty()) {
         const std::size_t end = lineEndLength(text);
-        line += end > 0 || text.front() == '\t' ? ' ' : text.front();
+        line += end > 0 ? ' ' : text.front();
         text.remove_prefix(end > 0 ? end : 1);
     }
     return line;

@@ -13,7 +13,7 @@ std::size_t lineEndLength(std::string_view text);
 std::string_view withoutLastLineEnd(std::string_view text);
 
 /// The text in one line: line ends at its end go, as spreadsheets put one behind a cell; each one before it becomes a
-/// blank, and so does each tab.
+/// blank.
 std::string inOneLine(std::string_view text);
 
 }  // namespace penwright

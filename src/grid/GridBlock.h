@@ -25,6 +25,7 @@ using GridLines = std::vector<std::vector<std::string>>;
 std::optional<std::string> textOfOneCell(std::string_view text);
 
 /// The cells of tab-delimited lines. Lines end with "\r\n", "\n" or "\r", and a last line end adds no line.
+/// No cell holds a line end: what stands in quotes because it has one comes in one line, without the quotes.
 /// Empty lines and columns behind the last text are left out; a block of empty cells alone is taken as it is.
 GridLines splitGridBlock(std::string_view text);
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/LineEnds.h"
 #include "grid/GridSource.h"
 
 namespace penwright {
@@ -56,7 +57,7 @@ GridEdit typedEdit(const GridSource &source, int row, int column, std::string_vi
 {
     GridEdit edit{.name = "Typing", .block = {row, column, row, column}};
     if (row <= source.rowCount() || !source.kept(text).empty()) {
-        edit.texts.push_back({row, column, std::string(text)});
+        edit.texts.push_back({row, column, inOneLine(text)});
         edit.rows = row;
     }
     return edit;

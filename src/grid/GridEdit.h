@@ -59,7 +59,8 @@ struct GridEdit {
 
 class GridSource;
 
-/// The change that a text typed into a cell is. Nothing, in the row to append, where nothing of it would be kept.
+/// The change that a text typed into a cell is, in one line. Nothing, in the row to append, where nothing of it would
+/// be kept.
 GridEdit typedEdit(const GridSource &source, int row, int column, std::string_view text);
 
 /// Delete over a block: empties the cells that can be edited, but for those that refuse it.

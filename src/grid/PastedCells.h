@@ -7,7 +7,8 @@
 namespace penwright {
 
 /// The cells of tab-delimited lines from the clipboard, one by one, each looked at a fixed number of times. Lines end
-/// with "\r\n", "\n" or "\r", and a last line end adds no line. Refers to the text.
+/// with "\r\n", "\n" or "\r", and a last line end adds no line. A cell with a line end inside is one in quotes, where
+/// a quote stands twice: it comes in one line, without the quotes. Refers to the text.
 class PastedCells {
 public:
     explicit PastedCells(std::string_view text);

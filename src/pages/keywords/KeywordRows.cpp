@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/CodePoints.h"
+#include "core/LineEnds.h"
 #include "pages/keywords/KeywordTable.h"
 
 namespace penwright {
@@ -33,6 +34,10 @@ int KeywordRow::length() const
 
 GridEdit KeywordRows::loadRows(OneBased<KeywordRow> rows)
 {
+    for (KeywordRow &row : rows) {
+        row.key = inOneLine(row.key);
+        row.value = inOneLine(row.value);
+    }
     return replacement("Load Defaults", std::move(rows));
 }
 

@@ -32,7 +32,7 @@ public:
 
     const OneBased<KeywordRow> &rows() const { return m_values; }
 
-    /// Other rows in the place of all.
+    /// Other rows in the place of all, each text in one line: the store may hold others.
     GridEdit loadRows(OneBased<KeywordRow> rows);
 
     /// An empty row more before a row; behind the last one when there is no such row.

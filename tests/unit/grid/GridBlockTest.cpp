@@ -45,10 +45,39 @@ TEST(GridBlock, ofEmptyCellsAloneIsTakenAsItIs)
     EXPECT_EQ(splitGridBlock("\t\n\t\n"), (GridLines{{"", ""}, {"", ""}}));
 }
 
+TEST(GridBlock, takesACellInQuotesWithALineEndInsideAsOneLine)
+{
+    const SplitCase kCases[]{
+        {"\"two\nlines\"\tB\nC\tD\n", {{"two lines", "B"}, {"C", "D"}}},
+        {"A\t\"two\r\nlines\"\r\nC\t\"x\rz\n\"", {{"A", "two lines"}, {"C", "x z"}}},
+        {"\"say \"\"a\nb\"\"\"\t\"\"\"\n\"\"\"", {{"say \"a b\"", "\" \""}}},
+        {"\"with\ttab\nand line\"", {{"with tab and line"}}},
+        {"\"\n\"\tB", {{"", "B"}}},
+    };
+    for (const SplitCase &row : kCases)
+        EXPECT_EQ(splitGridBlock(row.text), row.lines) << row.text;
+    EXPECT_EQ(textOfOneCell("\"two\nlines\"\n"), "two lines");
+}
+
+TEST(GridBlock, leavesAllOtherQuotesToTheirCells)
+{
+    const SplitCase kCases[]{
+        {"\"a\"\t6\"\n\"b\"", {{"\"a\"", "6\""}, {"\"b\""}}},
+        {"\"a\nb\tc", {{"\"a"}, {"b", "c"}}},
+        {"\"a\nb\"c\td", {{"\"a"}, {"b\"c", "d"}}},
+        {"\"\"\"\"", {{"\"\"\"\""}}},
+        {"a \"b\nc\"", {{"a \"b"}, {"c\""}}},
+        {"\"", {{"\""}}},
+    };
+    for (const SplitCase &row : kCases)
+        EXPECT_EQ(splitGridBlock(row.text), row.lines) << row.text;
+}
+
 TEST(GridBlock, takesAsLongAsItIs)
 {
-    for (const char *part : {"1\t2\r\n", "\r\n", "\n", "\t"})
-        EXPECT_LT(growth(part, 40000, splitGridBlock), kMostGrowth) << testing::PrintToString(part);
+    for (const char *part :
+         {"1\t2\r\n", "\r\n", "\n", "\t", "\"a\n", "\"a\nb\"\n", "\"\"\n", "\"\"\"\"a\t", "\"\t\"\"\n"})
+        EXPECT_LT(growth(part, 2500, splitGridBlock), kMostGrowth) << testing::PrintToString(part);
 }
 
 }  // namespace

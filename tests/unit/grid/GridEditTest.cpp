@@ -123,6 +123,14 @@ TEST_F(GridEdits, appendTheRowsOfABlockAndNoneForBlanksThatAreNotKept)
     EXPECT_EQ(table.rowCount(), 5);
 }
 
+TEST_F(GridEdits, bringNoLineEndIntoACell)
+{
+    write(table, 1, 0, "a\r\nb\rc\n");
+    EXPECT_EQ(table.cells[0][0], "a b c");
+    apply(table, paste({1, 0, 1, 0}, "1\t\"2\n3\"\r4\t5\n"));
+    EXPECT_EQ(table.all(), "1|2 3 / 4|5");
+}
+
 TEST_F(GridEdits, copyTheRowsThatThereAre)
 {
     EXPECT_EQ(table.copy({1, 0, 2, 1}), "A1\tB1\nA2\tB2");

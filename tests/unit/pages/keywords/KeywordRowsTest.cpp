@@ -51,6 +51,15 @@ TEST(KeywordRows, cellKeepsItsTextWithoutOuterBlanks)
     EXPECT_EQ(rows.rows()(1), (KeywordRow{"\t[TEST]\t", ""}));
 }
 
+TEST(KeywordRows, noCellHoldsALineEnd)
+{
+    KeywordRows rows;
+    apply(rows, rows.loadRows({{"[TEST]\r\n", "one\rtwo\nthree"}}));
+    EXPECT_EQ(rows.rows(), (OneBased<KeywordRow>{{"[TEST]", "one two three"}}));
+    write(rows, 1, 1, "four\r\nfive\n");
+    EXPECT_EQ(rows.read(1, 1), "four five");
+}
+
 TEST(KeywordRows, anyTextIsTaken)
 {
     KeywordRows rows = rowsOf("A");
