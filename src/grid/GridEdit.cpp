@@ -46,6 +46,15 @@ std::string shownText(const GridSource &source, int row, int column)
     return row <= source.rowCount() ? source.read(row, column) : std::string();
 }
 
+/// Leaves out the last lines of a block of which nothing would be kept: they would append empty rows.
+void dropUnkeptLines(const GridSource &source, int firstRow, GridLines &lines)
+{
+    const auto isKept = [&](const std::string &cell) { return !source.kept(cell).empty(); };
+    const auto rowsThere = static_cast<std::size_t>(std::max(0, source.rowCount() - firstRow + 1));
+    while (lines.size() > rowsThere && std::none_of(lines.back().begin(), lines.back().end(), isKept))
+        lines.pop_back();
+}
+
 GridEdit refusedPaste(const GridBlock &block, MessageBox box)
 {
     return {.name = "Paste", .block = block, .refused = RefusedEdit{block.firstRow, block.firstColumn, std::move(box)}};
@@ -79,6 +88,8 @@ GridEdit pastedEdit(const GridSource &source, const GridBlock &block, std::strin
 {
     GridLines lines = splitGridBlock(text);
     GridEdit edit{.name = "Paste", .block = block};
+    if (source.canAppend())
+        dropUnkeptLines(source, block.firstRow, lines);
     if (lines.empty() || block.firstRow < 1)
         return edit;
     if (const auto lack = lackOfRoom(source, block, lines.size(), widestLine(lines)))

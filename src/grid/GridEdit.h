@@ -67,7 +67,8 @@ GridEdit typedEdit(const GridSource &source, int row, int column, std::string_vi
 GridEdit clearingEdit(const GridSource &source, const GridBlock &block);
 
 /// A block of texts pasted from the first cell of `block` on: all of it or, where a text is refused, nothing. Rows are
-/// appended where they can be. `title` is what messages about its size are titled with.
+/// appended where they can be, up to the last one of which something would be kept. `title` is what messages about its
+/// size are titled with.
 GridEdit pastedEdit(const GridSource &source, const GridBlock &block, std::string_view text, const std::string &title);
 
 /// Checks the texts of an edit, each once, and gives it its content; none when nothing is to change.

@@ -51,6 +51,20 @@ TEST(KeywordRows, cellKeepsItsTextWithoutOuterBlanks)
     EXPECT_EQ(rows.rows()(1), (KeywordRow{"\t[TEST]\t", ""}));
 }
 
+TEST(KeywordRows, pastedBlanksAppendNoRow)
+{
+    const auto pastedInto = [](int row, std::string_view text) {
+        KeywordRows rows = rowsOf("A");
+        apply(rows, rows.paste({row, 0, row, 0}, text, "the page"));
+        return shown(rows);
+    };
+    for (const char *text : {" ", " \t  \n", "\t\n\t\n", " \n \n \n"})
+        EXPECT_EQ(pastedInto(2, text), "Aa") << testing::PrintToString(text);
+    EXPECT_EQ(pastedInto(1, " \t \n \t \n"), "-");
+    EXPECT_EQ(pastedInto(2, "B\tb\n \t \n"), "Aa Bb");
+    EXPECT_EQ(pastedInto(2, " \t \nB\tb\n"), "Aa - Bb");
+}
+
 TEST(KeywordRows, noCellHoldsALineEnd)
 {
     KeywordRows rows;
