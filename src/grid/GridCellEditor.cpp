@@ -12,6 +12,14 @@
 namespace penwright {
 namespace {
 
+/// Has a line's text edited, not replaced: brought back to what it was it is no new value.
+void editText(QLineEdit &line)
+{
+    line.end(false);
+    QObject::connect(&line, &QLineEdit::textEdited, &line,
+                     [&line, before = line.text()](const QString &text) { line.setModified(text != before); });
+}
+
 /// Whether a widget is part of an editor; its list and its menu are windows of their own.
 bool belongsTo(const QWidget *widget, const QWidget *editor)
 {
@@ -39,7 +47,7 @@ void GridCellEditor::begin(QWidget *editor, QAbstractItemView::EditTrigger trigg
     m_leftBy = Qt::OtherFocusReason;
     editor->installEventFilter(this);
     if (trigger == QAbstractItemView::EditKeyPressed || trigger == QAbstractItemView::DoubleClicked)
-        line()->end(false);  // to edit the text, not to replace it
+        editText(*line());
     if (auto *box = qobject_cast<QComboBox *>(editor))
         connect(box, &QComboBox::activated, this, &GridCellEditor::commit);
 }

@@ -31,7 +31,8 @@ public:
     /// The editor is closing: what moves the focus from here on commits nothing.
     void forget() { m_editor.clear(); }
 
-    /// Hands the text to the model. An editor left unchanged is not a new value. False when the text was refused, now
+    /// Hands the text to the model. An editor left unchanged is not a new value, nor is a text edited back to what it
+    /// was. False when the text was refused, now
     /// or at the focus change just before; the message follows.
     bool commit();
 

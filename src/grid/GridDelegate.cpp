@@ -107,7 +107,7 @@ void GridDelegate::setEditorData(QWidget *editor, const QModelIndex &index) cons
 void GridDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
     const QLineEdit &line = *editorLine(editor);
-    // What is typed is a new value even where it reads the same: a cell may hold more digits than it shows.
+    // What is typed anew is a new value even where it reads the same: a cell may hold more digits than it shows.
     if (line.isModified() || line.text() != index.data(Qt::EditRole).toString())
         model->setData(index, line.text(), Qt::EditRole);
 }

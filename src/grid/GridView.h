@@ -44,8 +44,9 @@ public:
     /// the current cell where it is still there.
     bool apply(GridEdit edit);
 
-    /// The one routine that commits what stands in an open editor. An editor left unchanged is not a new value. False
-    /// when the text was refused, now or at the focus change just before; the message follows.
+    /// The one routine that commits what stands in an open editor. An editor left unchanged is not a new value, nor is
+    /// a text edited back to what it was. False when the text was refused, now or at the focus change just before; the
+    /// message follows.
     bool commitEdit();
 
     /// Commits the text of an open editor when it is valid and drops it without a message when it is not.

@@ -52,6 +52,20 @@ TEST_F(CandelaPageEntry, valueThatReadsAsTheCellDoesIsTakenAllTheSame)
     EXPECT_EQ(state.PhotFiles(1).Candela(1, 1), double{12.34568F});
 }
 
+TEST_F(CandelaPageEntry, keptValueEditedBackToWhatItWasIsKept)
+{
+    showTable({0}, {0});
+    enterValue(1, 1, "1234567.75");
+    ASSERT_EQ(cell(1, 1), "1234568");
+    page().lsbStart();
+    ASSERT_EQ(cell(1, 1), "1234567.75");
+    press(Qt::Key_F2);
+    typeText("x");
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Return);
+    EXPECT_EQ(cell(1, 1), "1234567.75");
+}
+
 TEST_F(CandelaPageEntry, deletedBlanksAreNoValues)
 {
     showTable({0, 90}, {0, 45, 90});

@@ -52,6 +52,29 @@ TEST_F(GridEditor, unchangedTextIsNoNewValue)
     EXPECT_EQ(taken, "A1 ");
 }
 
+TEST_F(GridEditor, textEditedBackToWhatItWasIsNoNewValue)
+{
+    for (const bool byMouse : {false, true}) {
+        if (byMouse) {
+            clickCell(1, 0);
+            QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, centre(1, 0));
+        } else {
+            press(Qt::Key_F2);
+        }
+        type("5");
+        press(Qt::Key_Backspace);
+        press(Qt::Key_Return);
+        EXPECT_EQ(taken, "");
+        grid->goTo(1, 0);
+    }
+    press(Qt::Key_F2);
+    type("5");
+    press(Qt::Key_Backspace);
+    type("6");
+    press(Qt::Key_Return);
+    EXPECT_EQ(table.cells[0][0], "A16");
+}
+
 TEST_F(GridEditor, clickElsewhereCommits)
 {
     type("5");
