@@ -106,8 +106,8 @@ MessageBox CandelaTable::pasteRefusal(int h, int v, std::string_view text) const
     if (const auto angles = anglesOf(v, h))
         place += " (V:" + generalText(angles->vertical) + " H:" + generalText(angles->horizontal) + ")";
     const std::string why = isNumeric(text) ? " is too large a number." : " is not a number.";
-    return {.text = place + ": \"" + shortened(text) + '"' + why + " The values before it have been pasted.",
-            .title = m_title};
+    const std::string pasted = h == 1 && v == 1 ? "" : " The values before it have been pasted.";
+    return {.text = place + ": \"" + shortened(text) + '"' + why + pasted, .title = m_title};
 }
 
 const PhotometricRecord *CandelaTable::record() const

@@ -144,8 +144,7 @@ class CandelaBadValue : public CandelaPaste, public testing::WithParamInterface<
 TEST_P(CandelaBadValue, isNamedAndChangesNothingWhenItComesFirst)
 {
     build({0}, {0, 90});
-    EXPECT_EQ(paste(GetParam().value + "\t1"), "[The page|0] Row 1, column 1 (V:0 H:0): " + GetParam().message +
-                                                   " The values before it have been pasted.");
+    EXPECT_EQ(paste(GetParam().value + "\t1"), "[The page|0] Row 1, column 1 (V:0 H:0): " + GetParam().message);
     EXPECT_EQ(table.CopyCandelaTable(), " \r\n \r\n");
 }
 
