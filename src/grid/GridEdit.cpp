@@ -90,8 +90,10 @@ GridEdit pastedEdit(const GridSource &source, const GridBlock &block, std::strin
     GridEdit edit{.name = "Paste", .block = block};
     if (source.canAppend())
         dropUnkeptLines(source, block.firstRow, lines);
-    if (lines.empty() || block.firstRow < 1)
+    if (lines.empty())
         return edit;
+    if (block.firstRow < 1)
+        return pasteWithoutCell(source);
     if (const auto lack = lackOfRoom(source, block, lines.size(), widestLine(lines)))
         return refusedPaste(block, {.text = *lack, .title = title});
     edit.rows = block.firstRow + static_cast<int>(lines.size()) - 1;
@@ -107,6 +109,12 @@ GridEdit pastedEdit(const GridSource &source, const GridBlock &block, std::strin
         ++row;
     }
     return edit;
+}
+
+GridEdit pasteWithoutCell(const GridSource &source)
+{
+    const bool hasCells = source.columnCount() > 0 && (source.rowCount() > 0 || source.canAppend());
+    return {.name = "Paste", .hint = hasCells ? "Select a cell first, then paste again." : source.stepBeforeCells()};
 }
 
 std::optional<RefusedEdit> prepareEdit(GridEdit &edit, GridSource &source)

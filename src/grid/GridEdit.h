@@ -55,6 +55,7 @@ struct GridEdit {
     bool isWhole = true;                     ///< a refused text refuses all of them; otherwise it alone is left out
     std::unique_ptr<GridContent> content{};  ///< what stands afterwards; once applied, what stood before
     std::optional<RefusedEdit> refused{};    ///< what its source has refused already, or left out
+    std::string hint{};                      ///< what is said of it under the grid, with no message
 };
 
 class GridSource;
@@ -70,6 +71,9 @@ GridEdit clearingEdit(const GridSource &source, const GridBlock &block);
 /// appended where they can be, up to the last one of which something would be kept. `title` is what messages about its
 /// size are titled with.
 GridEdit pastedEdit(const GridSource &source, const GridBlock &block, std::string_view text, const std::string &title);
+
+/// What a paste is while there is no cell to paste from on: no change, and a hint that says what is missing.
+GridEdit pasteWithoutCell(const GridSource &source);
 
 /// Checks the texts of an edit, each once, and gives it its content; none when nothing is to change.
 /// What was refused: of a whole edit, for the first cell of its block.

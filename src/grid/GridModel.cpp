@@ -33,6 +33,7 @@ bool GridModel::apply(GridEdit edit)
     const auto refusal = prepareEdit(edit, *m_source);
     if (edit.content)
         write(edit);
+    emit hinted(QString::fromStdString(edit.hint));
     if (refusal)
         emit refused(*refusal);
     return !refusal;

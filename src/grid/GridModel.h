@@ -47,6 +47,9 @@ signals:
     /// Every value may have changed, in the rows and columns that there were.
     void valuesReplaced();
 
+    /// A change has been made, or refused; what is said of it under the grid, "" for nothing.
+    void hinted(const QString &hint);
+
     void refused(const penwright::RefusedEdit &refused);
 
 private:

@@ -61,6 +61,9 @@ public:
     /// Messages that name no title of their own have `title`. Changes nothing yet.
     virtual GridEdit paste(const GridBlock &block, std::string_view text, const std::string &title);
 
+    /// What the user is to do before there are cells, in a sentence; "" where there always are.
+    virtual std::string stepBeforeCells() const { return {}; }
+
     /// What copying a block puts on the clipboard; nothing when the clipboard stays as it is.
     virtual std::optional<std::string> copy(const GridBlock &block) const;
 

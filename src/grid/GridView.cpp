@@ -43,6 +43,7 @@ GridView::GridView(QWidget *parent)
     setHeaderSizes();
     connect(m_model, &GridModel::cellWritten, this, &GridView::cellWritten);
     connect(m_model, &GridModel::valuesReplaced, this, &GridView::valuesReplaced);
+    connect(m_model, &GridModel::hinted, this, &GridView::hinted);
     connect(m_model, &GridModel::refused, this, &GridView::tellRefusal);
     connect(m_model, &GridModel::modelAboutToBeReset, this, [this] {
         dropEdit();

@@ -74,6 +74,9 @@ signals:
     /// Every value may have changed at once, in the rows and columns that there were.
     void valuesReplaced();
 
+    /// What is said of the latest change, under the grid; "" for nothing.
+    void hinted(const QString &hint);
+
     /// Rows, columns and captions have been read anew.
     void rebuilt();
 

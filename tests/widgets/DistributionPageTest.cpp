@@ -232,5 +232,34 @@ TEST_F(DistributionPageTest, pastedThousandAnglesAreStored)
     EXPECT_EQ(record().HorAngles(1000), 360);
 }
 
+TEST_F(DistributionPageTest, anglesPastedBeforeACountAreToldWhatIsMissing)
+{
+    click("rdoC");
+    QApplication::clipboard()->setText("0\t45\t90");
+    for (const std::string axis : {"Vert", "Horz"}) {
+        auto *hint = find<QLabel>("phoHint" + axis);
+        auto *grid = find<GridView>("phoGrid" + axis);
+        EXPECT_FALSE(hint->isVisible());
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton);
+        press(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_TRUE(hint->isVisible());
+        EXPECT_EQ(hint->text(), "Type the number of angles first, then paste again.");
+        EXPECT_GE(hint->y(), grid->geometry().bottom());
+        EXPECT_EQ(grid->accessibleDescription(),
+                  "Degrees, in ascending order. Type the number of angles first, then paste again.");
+        typeInto(find<QComboBox>("phoCmb" + axis), "3");
+        EXPECT_FALSE(hint->isVisible());
+        EXPECT_EQ(grid->accessibleDescription(), "Degrees, in ascending order");
+        QTest::mouseClick(grid->viewport(), Qt::LeftButton, {}, QPoint(grid->viewport()->width() - 4, 4));
+        press(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(hint->text(), "Select a cell first, then paste again.");
+        grid->goTo(1, 0);
+        press(Qt::Key_V, Qt::ControlModifier);
+        EXPECT_EQ(cells(grid), "0|45|90");
+        EXPECT_FALSE(hint->isVisible());
+    }
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
 }  // namespace
 }  // namespace penwright::test

@@ -342,5 +342,19 @@ TEST_F(KeywordPageRows, keywordColumnShowsItsWidestEntryWhole)
     EXPECT_FALSE(grid()->horizontalScrollBar()->isVisible());
 }
 
+TEST_F(KeywordPageRows, blockPastedWithoutACurrentCellIsToldWhatIsMissing)
+{
+    grid()->setFocus();
+    grid()->setCurrentIndex({});
+    grid()->clearSelection();
+    QApplication::clipboard()->setText("[LAMP]\tL 1");
+    press(Qt::Key_V, kCtrl);
+    EXPECT_EQ(label("labDescription"), "Select a cell first, then paste again.");
+    EXPECT_EQ(grid()->accessibleDescription(), "Select a cell first, then paste again.");
+    press(Qt::Key_Down);
+    EXPECT_NE(label("labDescription"), "Select a cell first, then paste again.");
+    EXPECT_EQ(order(), "1ABCD");
+}
+
 }  // namespace
 }  // namespace penwright::test

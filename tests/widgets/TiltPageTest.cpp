@@ -396,5 +396,17 @@ TEST_F(TiltPageTest, unloadingDropsAHalfTypedCell)
     EXPECT_EQ(cells(), "0|0 / 90|0");
 }
 
+TEST_F(TiltPageTest, blockPastedBeforeACountIsToldWhatIsMissing)
+{
+    QApplication::clipboard()->setText("0\t1\n90\t0.8");
+    QTest::mouseClick(grid()->viewport(), Qt::LeftButton);
+    press(Qt::Key_V, Qt::ControlModifier);
+    auto *hint = find<QLabel>("lmpHintTilt");
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_EQ(hint->text(), "Type the number of angles first, then paste again.");
+    typeCount("2");
+    EXPECT_FALSE(hint->isVisible());
+}
+
 }  // namespace
 }  // namespace penwright::test

@@ -130,8 +130,10 @@ std::string AngleList::read(int, int column) const
 GridEdit AngleList::paste(const GridBlock &block, std::string_view text, const std::string &title)
 {
     GridEdit edit{.name = "Paste", .block = block};
-    if (block.firstRow < 1)
+    if (text.empty())
         return edit;
+    if (block.firstRow < 1)
+        return pasteWithoutCell(*this);
     for (int column = block.firstColumn; auto &line : splitGridBlock(text))
         for (std::string &cell : line)
             edit.texts.push_back({1, column++, std::move(cell)});

@@ -70,6 +70,8 @@ public:
     /// without room for them, none.
     GridEdit paste(const GridBlock &block, std::string_view text, const std::string &title) override;
 
+    std::string stepBeforeCells() const override { return "Type the number of angles first, then paste again."; }
+
     // Called by nothing in the program; the answer is fixed, and the toolkit counts rows itself.
 
     /// The row `offset` rows from a position, "" being the place before the first row or, to go back, the first row

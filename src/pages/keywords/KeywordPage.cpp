@@ -15,6 +15,7 @@ KeywordPage::KeywordPage(const PageContext &context)
     m_form->setupUi(formArea());
     m_form->keyGrid->setRows(m_rows, services().dialogs);
     connect(m_form->keyGrid, &KeywordGrid::lineChanged, this, &KeywordPage::showLine);
+    connect(m_form->keyGrid, &KeywordGrid::hinted, this, &KeywordPage::showHint);
     onClick(m_form->cmdDefaultLoad, [this] { cmdDefaultLoad_Click(); });
     onClick(m_form->cmdSaveDefaults, [this] { cmdSaveDefaults_Click(); });
     addButtons([this] { cmdNext20_Click(); }, [this] { cmdBack20_Click(); });
@@ -75,6 +76,15 @@ void KeywordPage::showLine()
     m_form->labCharacters->setWarning(line.length() > kMostLineCharacters);
     m_form->labEmptyRows->setText(QString::fromStdString(emptyRows));
     describe(*m_form->keyGrid, QString::fromStdString(spokenHint(hint, line.length(), emptyRows)));
+}
+
+/// Where the description of the current line stands: there is something to say only while no line is current.
+void KeywordPage::showHint(const QString &hint)
+{
+    if (hint.isEmpty())
+        return;
+    m_form->labDescription->setText(hint);
+    describe(*m_form->keyGrid, hint);
 }
 
 void KeywordPage::focusFault(const FaultPlace &place)

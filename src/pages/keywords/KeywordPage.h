@@ -33,6 +33,7 @@ private:
     void cmdBack20_Click();
 
     void showLine();
+    void showHint(const QString &hint);
 
     std::unique_ptr<Ui::KeywordPage> m_form;
     const std::shared_ptr<KeywordRows> m_rows = std::make_shared<KeywordRows>();

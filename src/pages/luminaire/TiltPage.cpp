@@ -20,6 +20,7 @@ TiltPage::TiltPage(const PageContext &context)
     grid.setTextAlignment(Qt::AlignRight);
     grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     connect(m_form->lmpTxtNumAngles, &TextBox::entered, this, [this] { m_table->beginCount(); });
+    m_form->lmpHintTilt->follow(grid);
     connect(m_form->lmpTxtNumAngles, &TextBox::textChanged, this, &TiltPage::lmpTxtNumAngles_Change);
     addButtons([this] { cmdNext15_Click(); }, [this] { cmdBack15_Click(); });
 }

@@ -45,6 +45,8 @@ public:
     std::string read(int row, int column) const override;
     std::optional<MessageBox> check(int row, int column, std::string_view text) const override;
 
+    std::string stepBeforeCells() const override { return "Type the number of angles first, then paste again."; }
+
     /// Delete sets a value to 0.
     std::string emptied(int, int) const override { return "0"; }
 

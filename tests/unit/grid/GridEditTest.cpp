@@ -21,6 +21,8 @@ public:
         return TextTable::check(row, column, text);
     }
 
+    std::string stepBeforeCells() const override { return "first a row"; }
+
     mutable int checks = 0;
 };
 
@@ -112,6 +114,15 @@ TEST_F(GridEdits, withoutAChangeHaveNoContent)
         EXPECT_FALSE(prepareEdit(edit, table)) << text;
         EXPECT_FALSE(edit.content) << text;
     }
+}
+
+TEST_F(GridEdits, sayWhatAPasteWithoutACellIsMissing)
+{
+    EXPECT_EQ(paste({}, "1").hint, "Select a cell first, then paste again.");
+    EXPECT_EQ(paste({}, "").hint, "");
+    EXPECT_EQ(paste({1, 0, 1, 0}, "1").hint, "");
+    table.cells.clear();
+    EXPECT_EQ(paste({}, "1").hint, "first a row");
 }
 
 TEST_F(GridEdits, appendTheRowsOfABlockAndNoneForBlanksThatAreNotKept)
