@@ -3,16 +3,12 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/Counted.h"
 #include "core/LineEnds.h"
 #include "grid/GridSource.h"
 
 namespace penwright {
 namespace {
-
-std::string counted(std::size_t number, const std::string &thing)
-{
-    return std::to_string(number) + " " + thing + (number == 1 ? "" : "s");
-}
 
 /// Why a block of rows and columns finds no room from its first cell on; nothing when it does.
 std::optional<std::string> lackOfRoom(const GridSource &source, const GridBlock &block, std::size_t rows,

@@ -50,7 +50,7 @@ GridView::GridView(QWidget *parent)
         m_before = currentCell();
     });
     connect(m_model, &GridModel::modelReset, this, &GridView::showRebuilt);
-    connect(m_refusal, &GridRefusal::told, this, &GridView::goTo);
+    connect(m_refusal, &GridRefusal::told, this, &GridView::showRefused);
 }
 
 GridView::~GridView() = default;
@@ -89,6 +89,16 @@ void GridView::tellRefusal(const RefusedEdit &refused)
     const bool isPressed = m_editor->wasLeftByMouse() || QApplication::mouseButtons() != Qt::NoButton;
     const GridCell cell = refused.row > 0 ? GridCell{refused.row, refused.column} : currentCell();
     m_refusal->tell(cell.row, cell.column, refused.box, isPressed);
+}
+
+/// Goes to a cell, with what stands around it in sight: a paste may have ended there.
+void GridView::showRefused(int row, int column)
+{
+    const QModelIndex cell = m_model->index(row - 1, column);
+    const bool wasSeen = viewport()->rect().contains(visualRect(cell));
+    goTo(row, column);
+    if (!wasSeen && cell.isValid())
+        scrollTo(cell, PositionAtCenter);
 }
 
 void GridView::goTo(int row, int column)

@@ -109,6 +109,7 @@ private:
     void moveTo(const GridCell &cell);
     void announceCurrent();
     void showRebuilt();
+    void showRefused(int row, int column);
     void tellRefusal(const RefusedEdit &refused);
     bool openList();
     bool isOnArrow(const QMouseEvent &event) const;

@@ -147,6 +147,41 @@ TEST_F(CandelaPageEntry, pastedTextThatIsNoNumberIsToldShownAndGoneTo)
     EXPECT_NE(drawn().find("angle 0: largest 1 candela"), std::string::npos) << drawn();
 }
 
+TEST_F(CandelaPageEntry, linesOfAnotherLengthAreSaidUnderTheGridUntilTheNextChange)
+{
+    showTable({0, 90}, {0, 45, 90});
+    auto *hint = find<QLabel>("cdaHint");
+    const QString own = grid().accessibleDescription();
+    EXPECT_FALSE(hint->isVisible());
+    paste("1\t2\t3\n4\t5\t6");
+    EXPECT_TRUE(hint->isVisible());
+    EXPECT_EQ(hint->text(), "Lines of 3 values were pasted into 2 columns");
+    EXPECT_GE(hint->y(), grid().geometry().bottom());
+    EXPECT_EQ(grid().accessibleDescription(), own + ". Lines of 3 values were pasted into 2 columns");
+    EXPECT_EQ(cell(2, 1), "3");
+    EXPECT_EQ(dialogs.transcript, "");
+    press(Qt::Key_Down);
+    EXPECT_TRUE(hint->isVisible());
+    paste("1\t2\n3\t4\n5\t6");
+    EXPECT_FALSE(hint->isVisible());
+    EXPECT_EQ(grid().accessibleDescription(), own);
+}
+
+TEST_F(CandelaPageEntry, endOfAPasteIsSeenWithTheValuesAroundIt)
+{
+    showTable({0}, angles(100, 0.9F));
+    ASSERT_TRUE(waitForFlip());
+    std::string table;
+    for (int i = 1; i <= 100; ++i)
+        table += i == 60 ? "abc\n" : std::to_string(i) + "\n";
+    paste(table);
+    EXPECT_EQ(current(), "60,1");
+    for (const int row : {58, 59, 60, 61, 62})
+        EXPECT_TRUE(grid().viewport()->rect().contains(rect(row, 1))) << row;
+    EXPECT_EQ(find<QLabel>("cdaHint")->text().toStdString(),
+              "Row 60, column 1 (V:53.1 H:0) and all behind it are as before the paste");
+}
+
 TEST_F(CandelaPageEntry, openEditorCopiesAndPastesItsOwnText)
 {
     showTable({0, 90}, {0, 90});

@@ -37,6 +37,7 @@ CandelaPage::CandelaPage(const PageContext &context)
     m_form->planeKey->setColour(kPaperLook.plane);
     m_form->coneKey->setColour(kPaperLook.cone);
     m_form->cdaGridCd->setTable(m_table, services().dialogs);
+    m_form->cdaHint->follow(*m_form->cdaGridCd);
     connectGrid();
     addButtons([this] { cmdNext50_Click(); }, [this] { cmdBack50_Click(); });
 }

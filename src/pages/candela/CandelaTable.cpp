@@ -2,9 +2,9 @@
 
 #include <utility>
 
-#include "core/CodePoints.h"
 #include "core/NumberText.h"
 #include "pages/candela/PastedValues.h"
+#include "pages/candela/PasteHints.h"
 
 namespace penwright {
 namespace {
@@ -12,14 +12,6 @@ namespace {
 constexpr std::string_view kLabelCaption = "  ";
 
 constexpr double kRefusedFrom = 9999999;  // though the message speaks of 10 million
-
-/// The beginning of a text that a message box has room for.
-std::string shortened(std::string_view text)
-{
-    constexpr std::size_t kMostBytes = 60;
-    const std::string_view beginning = withinBytes(text, kMostBytes);
-    return std::string(beginning) + (beginning.size() < text.size() ? "..." : "");
-}
 
 }  // namespace
 
@@ -68,8 +60,12 @@ GridEdit CandelaTable::PasteCandelaTable(std::string_view text)
         return edit;
     }
     OneBasedTable<CandelaCell> pasted = CandelaCells();
-    if (const int count = fill(pasted, values, edit.refused); count > 0)
+    if (const int count = fill(pasted, values, edit.refused); count > 0) {
+        edit.hint = arrangementHint(values, CandelaCells().rows());
+        if (edit.refused)
+            edit.hint = joinedHints(edit.hint, boundaryHint(cellName(edit.refused->column, edit.refused->row)));
         edit.content = m_numbers.withFirst(std::move(pasted), count);
+    }
     return edit;
 }
 
@@ -83,7 +79,8 @@ int CandelaTable::fill(OneBasedTable<CandelaCell> &cells, PastedValues &values,
             try {
                 cells(h, v) = toSingle(value);
             } catch (const RunTimeError &) {
-                refused = {v, h, pasteRefusal(h, v, value)};
+                const std::string why = pasteRefusal(cellName(h, v), value, h == 1 && v == 1);
+                refused = {v, h, {.text = why, .title = m_title}};
                 return (v - 1) * cells.rows() + h - 1;
             }
         }
@@ -100,14 +97,12 @@ std::optional<std::string> CandelaTable::copy(const GridBlock &) const
     return CopyCandelaTable();
 }
 
-MessageBox CandelaTable::pasteRefusal(int h, int v, std::string_view text) const
+std::string CandelaTable::cellName(int h, int v) const
 {
-    std::string place = "Row " + std::to_string(v) + ", column " + std::to_string(h);
+    std::string name = "Row " + std::to_string(v) + ", column " + std::to_string(h);
     if (const auto angles = anglesOf(v, h))
-        place += " (V:" + generalText(angles->vertical) + " H:" + generalText(angles->horizontal) + ")";
-    const std::string why = isNumeric(text) ? " is too large a number." : " is not a number.";
-    const std::string pasted = h == 1 && v == 1 ? "" : " The values before it have been pasted.";
-    return {.text = place + ": \"" + shortened(text) + '"' + why + pasted, .title = m_title};
+        name += " (V:" + generalText(angles->vertical) + " H:" + generalText(angles->horizontal) + ")";
+    return name;
 }
 
 const PhotometricRecord *CandelaTable::record() const

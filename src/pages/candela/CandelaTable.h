@@ -44,7 +44,8 @@ public:
     /// Fills the whole table, row by row, from values separated by tabs and line ends of any kind. Another number of
     /// values than the table has changes nothing; both numbers in that message are one less than the counts, on
     /// purpose. A text that is no number, or is beyond a single, ends the paste: what stands before it is pasted.
-    /// The limits of typed values do not hold here; negative ones are told when the page is left.
+    /// The limits of typed values do not hold here; negative ones are told when the page is left. Values in lines of
+    /// another length than the table's, and the cell that the new ones end before, are hinted at.
     GridEdit PasteCandelaTable(std::string_view text);
 
     /// The angles of a data cell, in degrees.
@@ -81,7 +82,7 @@ private:
     const PhotometricRecord *record() const;
     bool isCell(int row, int column) const;
     int fill(OneBasedTable<CandelaCell> &cells, PastedValues &values, std::optional<RefusedEdit> &refused) const;
-    MessageBox pasteRefusal(int h, int v, std::string_view text) const;
+    std::string cellName(int h, int v) const;
 
     ToolState &m_state;
     CandelaNumbers m_numbers;

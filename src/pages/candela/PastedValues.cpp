@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include "core/LineEnds.h"
 
@@ -22,11 +23,24 @@ PastedValues::PastedValues(std::string_view text) : m_rest(withoutLastLineEnd(te
 {
     if (m_rest.empty())
         return;
-    std::size_t separators = 0;
+    std::size_t tabs = 0;
     for (std::size_t at = 0; (at = m_rest.find_first_of(kSeparators, at)) != std::string_view::npos;
-         at += separatorLength(m_rest, at))
-        ++separators;
-    m_count = static_cast<int>(std::min<std::size_t>(separators + 1, std::numeric_limits<int>::max()));
+         at += separatorLength(m_rest, at)) {
+        if (m_rest[at] == '\t')
+            ++tabs;
+        else
+            endLine(std::exchange(tabs, 0) + 1);
+    }
+    endLine(tabs + 1);
+}
+
+void PastedValues::endLine(std::size_t values)
+{
+    const int most = std::numeric_limits<int>::max();
+    const int length = static_cast<int>(std::min<std::size_t>(values, most));
+    m_shortestLine = m_count == 0 ? length : std::min(m_shortestLine, length);
+    m_longestLine = std::max(m_longestLine, length);
+    m_count = length > most - m_count ? most : m_count + length;
 }
 
 std::string_view PastedValues::next()

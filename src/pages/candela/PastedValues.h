@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 
 namespace penwright {
@@ -13,12 +14,20 @@ public:
 
     int count() const { return m_count; }
 
+    /// How many values the shortest and the longest line have; 0 where there is no value.
+    int shortestLine() const { return m_shortestLine; }
+    int longestLine() const { return m_longestLine; }
+
     /// The next value; an empty text behind the last one.
     std::string_view next();
 
 private:
+    void endLine(std::size_t values);
+
     std::string_view m_rest;
     int m_count = 0;
+    int m_shortestLine = 0;
+    int m_longestLine = 0;
 };
 
 }  // namespace penwright

@@ -134,6 +134,34 @@ TEST_F(CandelaPaste, endsAtATextThatIsNoNumberAndKeepsWhatCameBefore)
     EXPECT_EQ(work().Candela(2, 2), 9);
 }
 
+TEST_F(CandelaPaste, hintsAtLinesOfAnotherLength)
+{
+    build({0, 90}, {0, 30, 60});
+    const std::pair<const char *, const char *> kHints[]{
+        {"1\t2\n3\t4\n5\t6\n", ""},
+        {"1\t2\t3\n4\t5\t6\n", "Lines of 3 values were pasted into 2 columns"},
+        {"1\n2\n3\n4\n5\n6", "Lines of 1 value were pasted into 2 columns"},
+        {"1\t2\t3\t4\t5\t6", "One line of 6 values was pasted into 2 columns"},
+        {"1\t2\t3\r\n4\r\n5\t6\r\n", "Lines of 1 to 3 values were pasted into 2 columns"},
+        {"1\t2\t3\n4\t5\n", ""},
+    };
+    for (const auto &[text, hint] : kHints)
+        EXPECT_EQ(table.PasteCandelaTable(text).hint, hint) << testing::PrintToString(text);
+    build({0}, {0, 30});
+    EXPECT_EQ(table.PasteCandelaTable("1\t2").hint, "One line of 2 values was pasted into 1 column");
+}
+
+TEST_F(CandelaPaste, hintsAtTheCellThatTheNewValuesEndBefore)
+{
+    build({0, 45}, {0, 30, 60});
+    EXPECT_EQ(table.PasteCandelaTable("1\t2\n3\tx\n5\t6").hint,
+              "Row 2, column 2 (V:30 H:45) and all behind it are as before the paste");
+    EXPECT_EQ(table.PasteCandelaTable("1\t2\t3\nx\t5\t6").hint,
+              "Lines of 3 values were pasted into 2 columns. "
+              "Row 2, column 2 (V:30 H:45) and all behind it are as before the paste");
+    EXPECT_EQ(table.PasteCandelaTable("x\t2\t3\n4\t5\t6").hint, "");
+}
+
 struct BadValueCase {
     std::string value;
     std::string message;
