@@ -24,6 +24,12 @@ bool opensList(const QKeyEvent &event)
     return event.key() == Qt::Key_F4 || (event.key() == Qt::Key_Down && (event.modifiers() & Qt::AltModifier));
 }
 
+bool selectsToEnd(const QKeyEvent &event)
+{
+    return (event.key() == Qt::Key_Up || event.key() == Qt::Key_Down) &&
+           event.modifiers().testFlags(Qt::ControlModifier | Qt::ShiftModifier);
+}
+
 bool movesRows(const QKeyEvent &event)
 {
     const bool isRowKey = event.key() == Qt::Key_Up || event.key() == Qt::Key_Down || event.key() == Qt::Key_PageUp ||

@@ -14,6 +14,9 @@ bool isForward(const QKeyEvent &event);
 /// F4 and Alt+Down.
 bool opensList(const QKeyEvent &event);
 
+/// Ctrl+Shift+Up and Ctrl+Shift+Down: they extend the selection to the first and the last row.
+bool selectsToEnd(const QKeyEvent &event);
+
 /// The keys that a line of text has no use for: they commit and go on to move in the grid.
 bool movesRows(const QKeyEvent &event);
 

@@ -133,8 +133,11 @@ void GridView::moveTo(const GridCell &cell)
 
 QItemSelectionModel::SelectionFlags GridView::selectionCommand(const QModelIndex &index, const QEvent *event) const
 {
-    // The toolkit would look at the keyboard, and Shift+Tab would select a block.
-    return m_movesItself ? QItemSelectionModel::ClearAndSelect : QTableView::selectionCommand(index, event);
+    if (m_movesItself)  // the toolkit would look at the keyboard, and Shift+Tab would select a block
+        return QItemSelectionModel::ClearAndSelect;
+    const bool isKey = event && event->type() == QEvent::KeyPress;
+    return isKey && selectsToEnd(*static_cast<const QKeyEvent *>(event)) ? QItemSelectionModel::SelectCurrent
+                                                                         : QTableView::selectionCommand(index, event);
 }
 
 void GridView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
@@ -209,6 +212,17 @@ void GridView::keyPressEvent(QKeyEvent *event)
         event->accept();
     else
         QTableView::keyPressEvent(event);
+}
+
+QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    const bool isToEnd = modifiers.testFlags(Qt::ControlModifier | Qt::ShiftModifier);
+    const QModelIndex cell = currentIndex();
+    if (isToEnd && cell.isValid() && action == MoveUp)
+        return cell.siblingAtRow(0);
+    if (isToEnd && cell.isValid() && action == MoveDown)
+        return cell.siblingAtRow(std::max(cell.row(), source().rowCount() - 1));
+    return QTableView::moveCursor(action, modifiers);
 }
 
 bool GridView::gridKey(const QKeyEvent &event)

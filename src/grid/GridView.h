@@ -18,8 +18,9 @@ class GridRefusal;
 
 /// A grid that types, moves and pastes like a spreadsheet over a GridSource. Typing replaces a cell's text, F2 and a
 /// double click edit it, Enter commits and moves down, or along the only row, Tab commits and walks, Escape gives the
-/// old text back, Delete clears the selected cells, Ctrl+C and Ctrl+V copy and paste tab-delimited text. Alt+Down opens
-/// the list of a cell that has choices. Ctrl+Tab and Ctrl+Shift+Tab leave the grid.
+/// old text back, Delete clears the selected cells, Ctrl+C and Ctrl+V copy and paste tab-delimited text. F4 and
+/// Alt+Down open the list of a cell that has choices. Ctrl+Shift+Up and Ctrl+Shift+Down extend the selection to the
+/// first and the last row. Ctrl+Tab and Ctrl+Shift+Tab leave the grid.
 ///
 /// A text that the source refuses is told in one message once the event that committed it is over; the cell keeps its
 /// old text and becomes the current one again. An editor stays open while another window has the focus.
@@ -91,6 +92,7 @@ protected:
     void changeEvent(QEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;

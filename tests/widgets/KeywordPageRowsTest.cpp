@@ -54,7 +54,7 @@ void PrintTo(const RowKey &row, std::ostream *out)
 class KeywordPageRowKey : public KeywordPageRows, public testing::WithParamInterface<RowKey> {};
 
 constexpr auto kCtrl = Qt::ControlModifier;
-constexpr auto kCtrlShift = Qt::ControlModifier | Qt::ShiftModifier;
+constexpr auto kAlt = Qt::AltModifier;
 
 INSTANTIATE_TEST_SUITE_P(
     Keys, KeywordPageRowKey,
@@ -63,11 +63,9 @@ INSTANTIATE_TEST_SUITE_P(
                     RowKey{Qt::Key_Plus, kCtrl | Qt::KeypadModifier, 3, "1A.BCD", "3,0"},
                     RowKey{Qt::Key_Minus, kCtrl, 1, "ABCD", "1,1"}, RowKey{Qt::Key_Minus, kCtrl, 5, "1ABC", "5,1"},
                     RowKey{Qt::Key_Minus, kCtrl | Qt::KeypadModifier, 2, "1BCD", "2,1"},
-                    RowKey{Qt::Key_Minus, kCtrl, 6, "1ABCD", "6,1"}, RowKey{Qt::Key_Up, kCtrlShift, 3, "1BACD", "2,1"},
-                    RowKey{Qt::Key_Up, kCtrlShift, 1, "1ABCD", "1,1"},
-                    RowKey{Qt::Key_Up, kCtrlShift, 6, "1ABCD", "6,1"},
-                    RowKey{Qt::Key_Down, kCtrlShift, 3, "1ACBD", "4,1"},
-                    RowKey{Qt::Key_Down, kCtrlShift, 5, "1ABCD", "5,1"}));
+                    RowKey{Qt::Key_Minus, kCtrl, 6, "1ABCD", "6,1"}, RowKey{Qt::Key_Up, kAlt, 3, "1BACD", "2,1"},
+                    RowKey{Qt::Key_Up, kAlt, 1, "1ABCD", "1,1"}, RowKey{Qt::Key_Up, kAlt, 6, "1ABCD", "6,1"},
+                    RowKey{Qt::Key_Down, kAlt, 3, "1ACBD", "4,1"}, RowKey{Qt::Key_Down, kAlt, 5, "1ABCD", "5,1"}));
 
 TEST_P(KeywordPageRowKey, changesTheRowsAndKeepsTheCell)
 {
@@ -92,8 +90,8 @@ TEST_P(KeywordPageRowKey, takesTheOpenEditorFirst)
 TEST_F(KeywordPageRows, movedRowTakesItsValueAlong)
 {
     grid()->goTo(2, 0);
-    press(Qt::Key_Down, kCtrlShift);
-    press(Qt::Key_Down, kCtrlShift);
+    press(Qt::Key_Down, kAlt);
+    press(Qt::Key_Down, kAlt);
     EXPECT_EQ(rows(), "IESNA91|\n[B]|b\n[C]|c\n[A]|a\n[D]|d\n");
 }
 
@@ -101,14 +99,53 @@ TEST_F(KeywordPageRows, selectedRowsGoTogether)
 {
     grid()->goTo(2, 0);
     press(Qt::Key_Down, Qt::ShiftModifier);
-    press(Qt::Key_Down, kCtrlShift);
+    press(Qt::Key_Down, kAlt);
     EXPECT_EQ(order(), "1CABD");
-    press(Qt::Key_Down, kCtrlShift);
+    press(Qt::Key_Down, kAlt);
     EXPECT_EQ(order(), "1CDAB");
-    press(Qt::Key_Up, kCtrlShift);
+    press(Qt::Key_Up, kAlt);
     EXPECT_EQ(order(), "1CABD");
     press(Qt::Key_Minus, kCtrl);
     EXPECT_EQ(order(), "1CD");
+}
+
+TEST_F(KeywordPageRows, ctrlShiftUpAndDownExtendTheSelection)
+{
+    const auto selected = [this] {
+        const QItemSelection selection = grid()->selectionModel()->selection();
+        return selection.size() != 1
+                   ? std::string("?")
+                   : std::to_string(selection.first().top() + 1) + "-" + std::to_string(selection.first().bottom() + 1);
+    };
+    grid()->goTo(3, 1);
+    press(Qt::Key_Down, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(selected(), "3-5");
+    press(Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(selected(), "1-3");
+    EXPECT_EQ(order(), "1ABCD");
+    press(Qt::Key_Down, kAlt);
+    EXPECT_EQ(order(), "C1ABD");
+}
+
+TEST_F(KeywordPageRows, altDownMovesTheRowOfAKeywordAndF4OpensItsList)
+{
+    const auto isListOpen = [] { return QApplication::activePopupWidget() != nullptr; };
+    grid()->goTo(4, 0);
+    press(Qt::Key_Down, kAlt);
+    EXPECT_EQ(order(), "1ABDC");
+    press(Qt::Key_Down, kAlt);
+    EXPECT_EQ(order(), "1ABDC");
+    EXPECT_EQ(currentCell(), "5,0");
+    EXPECT_FALSE(isListOpen() || grid()->isEditing());
+    press(Qt::Key_F4);
+    EXPECT_TRUE(isListOpen());
+    press(Qt::Key_Escape);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(grid()->isEditing());
+    typeText("[L");
+    press(Qt::Key_Down, kAlt);
+    EXPECT_TRUE(isListOpen());
+    EXPECT_EQ(order(), "1ABDC");
 }
 
 TEST_F(KeywordPageRows, lastRowsCanAllBeDeleted)

@@ -2,12 +2,16 @@
 
 #include <algorithm>
 #include <QAction>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMenu>
 
 #include "core/Blanks.h"
+#include "grid/GridCellEditor.h"
 #include "grid/GridDelegate.h"
+#include "grid/GridKeys.h"
 #include "pages/keywords/KeywordTable.h"
 #include "platform/qt/QtText.h"
 
@@ -25,6 +29,12 @@ int widestKey(const QFontMetrics &metrics)
     return widest;
 }
 
+/// The keys that move rows.
+bool isRowKey(const QKeyEvent &event)
+{
+    return (event.key() == Qt::Key_Up || event.key() == Qt::Key_Down) && (event.modifiers() & Qt::AltModifier);
+}
+
 }  // namespace
 
 KeywordGrid::KeywordGrid(QWidget *parent) : GridView(parent), m_menu(new QMenu(this))
@@ -35,9 +45,8 @@ KeywordGrid::KeywordGrid(QWidget *parent) : GridView(parent), m_menu(new QMenu(t
                  &KeywordGrid::insertRow);
     m_delete = addRowAction("deleteRow", "&Delete Row", {QKeySequence("Ctrl+-")}, &KeywordGrid::deleteRows);
     m_menu->addSeparator();
-    m_up = addRowAction("moveRowUp", "Move Row &Up", {QKeySequence("Ctrl+Shift+Up")}, &KeywordGrid::moveRowsUp);
-    m_down =
-        addRowAction("moveRowDown", "Move Row Do&wn", {QKeySequence("Ctrl+Shift+Down")}, &KeywordGrid::moveRowsDown);
+    m_up = addRowAction("moveRowUp", "Move Row &Up", {QKeySequence("Alt+Up")}, &KeywordGrid::moveRowsUp);
+    m_down = addRowAction("moveRowDown", "Move Row Do&wn", {QKeySequence("Alt+Down")}, &KeywordGrid::moveRowsDown);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     horizontalHeader()->setStretchLastSection(true);
     verticalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
@@ -159,6 +168,28 @@ void KeywordGrid::enableActions()
     m_delete->setEnabled(row >= 1 && row <= count);
     m_up->setEnabled(row > 1 && row <= count);
     m_down->setEnabled(row >= 1 && row < count);
+}
+
+bool KeywordGrid::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    const bool isKey = isOverride || event->type() == QEvent::KeyPress;
+    if (!isKey || !editor().is(watched) || !isRowKey(*static_cast<QKeyEvent *>(event)))
+        return GridView::eventFilter(watched, event);
+    const bool isForList = qobject_cast<QComboBox *>(watched) && opensList(*static_cast<QKeyEvent *>(event));
+    if (isOverride && isForList)
+        event->accept();  // in an open editor with a list the key is the list's, as in any other
+    else if (!isOverride && !isForList)
+        commitEdit();  // the row can go no further
+    return !isOverride && !isForList;
+}
+
+void KeywordGrid::keyPressEvent(QKeyEvent *event)
+{
+    if (isRowKey(*event))
+        event->accept();
+    else
+        GridView::keyPressEvent(event);
 }
 
 void KeywordGrid::contextMenuEvent(QContextMenuEvent *event)

@@ -12,8 +12,8 @@ class QMenu;
 namespace penwright {
 
 /// The grid of the keyword lines. Ctrl++ inserts an empty row before the current one, Ctrl+- deletes the selected rows,
-/// Ctrl+Shift+Up and Ctrl+Shift+Down move them; the context menu, `mnuRows`, does the same. An open editor is committed
-/// first.
+/// Alt+Up and Alt+Down move them; the context menu, `mnuRows`, does the same. An open editor is committed first. The
+/// list of keywords opens with F4, and with Alt+Down once a keyword is being edited.
 class KeywordGrid : public GridView {
     Q_OBJECT
 
@@ -32,6 +32,8 @@ signals:
 
 protected:
     bool edit(const QModelIndex &index, EditTrigger trigger, QEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void changeEvent(QEvent *event) override;
 
