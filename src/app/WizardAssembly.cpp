@@ -45,8 +45,8 @@ void letEventsRunWhileLocked(const Services &services)
 void printMissingHost(std::uint32_t host)
 {
     const std::string line =
-        "PenwrightPE: window " + std::to_string(host) + " is not there; the wizard opens as a window of its own.\n";
-    std::fputs(line.c_str(), stderr);
+        "PenwrightPE: window " + std::to_string(host) + " is not there; the wizard opens as a window of its own.";
+    std::fprintf(stderr, "%s\n", line.c_str());
 }
 
 }  // namespace

@@ -9,6 +9,7 @@ namespace penwright {
 namespace {
 
 constexpr int kLookInterval = 1000;  // milliseconds
+constexpr const char *kLastLine = "PenwrightPE: nobody has wanted anything for ten minutes; the tool ends.";
 
 }  // namespace
 
@@ -33,7 +34,7 @@ void UnwantedEnd::look()
     if (!m_patience.isOver())
         return;
     m_look.stop();
-    std::fputs("PenwrightPE: nobody has wanted anything for ten minutes; the tool ends.\n", stderr);
+    std::fprintf(stderr, "%s\n", kLastLine);
     m_window.beginUnload();
 }
 

@@ -41,10 +41,14 @@ bool isOurName(std::string_view name)
            isNumber(numbers.substr(hyphen + 1));
 }
 
+struct CloseFolder {
+    void operator()(DIR *folder) const { ::closedir(folder); }
+};
+
 std::vector<std::string> ourNamesIn(const std::string &folder)
 {
     std::vector<std::string> names;
-    const std::unique_ptr<DIR, decltype(&::closedir)> entries(::opendir(folder.c_str()), &::closedir);
+    const std::unique_ptr<DIR, CloseFolder> entries(::opendir(folder.c_str()));
     while (const dirent *entry = entries ? ::readdir(entries.get()) : nullptr)
         if (isOurName(entry->d_name))
             names.emplace_back(entry->d_name);
