@@ -90,6 +90,11 @@ PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { noteField(now); });
 }
 
+PageFrame::~PageFrame()
+{
+    disconnect(qApp, nullptr, this, nullptr);  // the focus leaves its fields once more while they end
+}
+
 QString PageFrame::caption() const
 {
     return toQString(rowOf(m_index).caption);

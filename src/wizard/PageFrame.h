@@ -57,6 +57,7 @@ public:
     using Handler = std::function<void()>;
 
     PageFrame(int index, const PageContext &context);
+    ~PageFrame() override;
 
     int index() const { return m_index; }
     QString caption() const;

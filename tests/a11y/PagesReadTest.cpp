@@ -126,7 +126,7 @@ TEST_F(ReadRun, focusIsToldWhereverItGoes)
     EXPECT_TRUE(tells("cell \"IESNA:LM-63-2002\""));
     typeKeys({"Down"});
     EXPECT_TRUE(tells("cell \"[TEST]\""));
-    typeKeys({"alt+Down"});
+    typeKeys({"F4"});
     EXPECT_TRUE(tells("list item \"[TEST]\" (Test report number)"));
     typeKeys({"Escape"});
     EXPECT_TRUE(tells("combo box \"[TEST]\" (Row 2, Keyword)"));

@@ -58,6 +58,7 @@ TEST_F(GridEditor, textEditedBackToWhatItWasIsNoNewValue)
         if (byMouse) {
             clickCell(1, 0);
             QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, centre(1, 0));
+            QTest::mouseRelease(grid->viewport(), Qt::LeftButton, {}, centre(1, 0));
         } else {
             press(Qt::Key_F2);
         }

@@ -86,6 +86,7 @@ TEST_F(Grid, doubleClickEdits)
 {
     clickCell(2, 1);
     QTest::mouseDClick(grid->viewport(), Qt::LeftButton, {}, centre(2, 1));
+    QTest::mouseRelease(grid->viewport(), Qt::LeftButton, {}, centre(2, 1));
     ASSERT_EQ(focus(), "editor");
     type("5");
     press(Qt::Key_Return);
