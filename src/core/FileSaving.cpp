@@ -25,14 +25,15 @@ std::optional<RunTimeError> errorOf(const std::function<void()> &step)
 
 /// A text that gets the line end of its last line when it is first written: memory may lack for that, too.
 struct FileText {
-    std::string text;
+    std::string_view lineEnd;
+    std::string text{};
     bool isEnded = false;
 };
 
 void end(FileText &file)
 {
     if (!file.isEnded)
-        file.text += "\r\n";
+        file.text += file.lineEnd;
     file.isEnded = true;
 }
 
@@ -47,10 +48,11 @@ std::optional<RunTimeError> errorOfWriting(const std::string &path, FileText &fi
 
 }  // namespace
 
-bool saveFile(std::string_view path, const TextMaker &make, TextFiles &files, Dialogs &dialogs)
+bool saveFile(std::string_view path, const TextMaker &make, std::string_view lineEnd, TextFiles &files,
+              Dialogs &dialogs)
 {
     const std::string kept(path);  // a host command may replace what the path belongs to while the message is shown
-    FileText file;
+    FileText file{lineEnd};
     std::optional<RunTimeError> error = errorOf([&] { make(file.text); });
     if (!error)
         error = errorOfWriting(kept, file, files);

@@ -9,8 +9,6 @@
 namespace penwright {
 namespace {
 
-constexpr std::string_view kLineEnd = "\r\n";
-
 struct FoldRow {
     std::string_view firstLine;
     std::int16_t width;
@@ -57,7 +55,7 @@ private:
 
 void IesFile::AppendIesPiece(std::string_view piece)
 {
-    const std::size_t lineEnd = piece.rfind(kLineEnd);
+    const std::size_t lineEnd = piece.rfind(kIesLineEnd);
     const std::int16_t together = narrowed(piece.size() + static_cast<std::size_t>(IesLineLength));
     if (lineEnd != std::string_view::npos) {
         IesText += piece;
@@ -65,7 +63,7 @@ void IesFile::AppendIesPiece(std::string_view piece)
         // visible character less than the width. Readers of these files know them so.
         IesLineLength = narrowed(piece.size() - lineEnd - 1);
     } else if (together > IesLineWidth) {
-        IesText += kLineEnd;
+        IesText += kIesLineEnd;
         IesText += piece;
         IesLineLength = narrowed(piece.size() + 1);
     } else {
@@ -144,7 +142,7 @@ std::string iesFileText(const PhotometricRecord &record)
 {
     std::string text;
     appendIesText(text, record);
-    return text.append(kLineEnd);
+    return text.append(kIesLineEnd);
 }
 
 }  // namespace penwright

@@ -8,6 +8,9 @@
 
 namespace penwright {
 
+/// Ends every line of an IES file.
+inline constexpr std::string_view kIesLineEnd = "\r\n";
+
 /// The folded line width of a header: 256 characters for the 2002 format line alone, 132 for any other first line.
 /// The comparison is exact: "IESNA:LM-63-2002 " with a trailing blank, as the keyword page stores it, counts as any
 /// other.

@@ -86,16 +86,6 @@ public:
         m_columns = columns;
     }
 
-    /// Changes both sizes and keeps every element whose subscripts still exist; new elements get their default.
-    void resizeKeeping(int rows, int columns)
-    {
-        OneBasedTable other(rows, columns);
-        for (int row = 1; row <= std::min(rows, m_rows); ++row)
-            for (int column = 1; column <= std::min(columns, m_columns); ++column)
-                other(row, column) = std::move((*this)(row, column));
-        *this = std::move(other);
-    }
-
     bool operator==(const OneBasedTable &) const = default;
 
 private:

@@ -74,7 +74,7 @@ bool FinishAndSave::saveUnderChosenName()
 bool FinishAndSave::WriteIesFile(const PhotometricRecord &record)
 {
     const TextMaker make = [&record](std::string &text) { appendIesText(text, record); };
-    return saveFile(record.Filename, make, m_files, m_dialogs);
+    return saveFile(record.Filename, make, kIesLineEnd, m_files, m_dialogs);
 }
 
 FinishEnd FinishAndSave::handOver(std::string_view word)

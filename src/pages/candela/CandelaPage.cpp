@@ -165,13 +165,13 @@ void CandelaPage::cmdNext50_Click()
     if (!dlgWarn().Clean())
         return showWarnings();
     storeCandela(m_table->CandelaCells(), record);
-    navigator().ShowPage(kFinishPage);
+    navigator().ShowPage(index() + 1);
 }
 
 void CandelaPage::cmdBack50_Click()
 {
     m_form->cdaGridCd->commitEditIfValid();
-    navigator().ShowPage(kDistributionPage);
+    navigator().ShowPage(index() - 1);
 }
 
 void CandelaPage::focusFault(const FaultPlace &place)

@@ -91,14 +91,14 @@ void DistributionPage::cmdNext30_Click()
         return showWarnings();
     storeDistribution(fields, state().PhotFiles(1));
     m_lsbStart();
-    navigator().ShowPage(kCandelaPage);
+    navigator().ShowPage(index() + 1);
 }
 
 void DistributionPage::cmdBack30_Click()
 {
     m_form->phoGridVert->commitEditIfValid();
     m_form->phoGridHorz->commitEditIfValid();
-    navigator().ShowPage(kKeywordPage);
+    navigator().ShowPage(index() - 1);
 }
 
 std::int16_t DistributionPage::photometricType() const

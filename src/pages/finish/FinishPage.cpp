@@ -41,7 +41,7 @@ void FinishPage::cmdSaveAs_Click()
 
 void FinishPage::cmdBack80_Click()
 {
-    navigator().ShowPage(kCandelaPage);
+    navigator().ShowPage(index() - 1);
 }
 
 void FinishPage::finish(bool saveAs)

@@ -55,7 +55,7 @@ void KeywordPage::cmdNext20_Click()
     if (!dlgWarn().Clean())
         return showWarnings();
     storeKeywordLines(m_rows->rows(), state().PhotFiles(1));
-    navigator().ShowPage(kDistributionPage);
+    navigator().ShowPage(index() + 1);
 }
 
 void KeywordPage::cmdBack20_Click()

@@ -43,13 +43,13 @@ void TiltPage::cmdNext15_Click()
     if (!dlgWarn().Clean())
         return showWarnings();
     storeTiltFields(fields, state().PhotFiles(1));
-    navigator().ShowPage(kKeywordPage);
+    navigator().ShowPage(index() + 1);
 }
 
 void TiltPage::cmdBack15_Click()
 {
     m_form->lmpGridTiltMultiplier->commitEditIfValid();
-    navigator().ShowPage(kLampPage);
+    navigator().ShowPage(index() - 1);
 }
 
 TiltFields TiltPage::readFields() const

@@ -47,19 +47,6 @@ TEST(OneBasedTable, countsBothSubscriptsFromOne)
     EXPECT_EQ(errorOf([&] { table.reset(-1, 2); }), 9);
 }
 
-TEST(OneBasedTable, resizeKeepsWhatStillExists)
-{
-    OneBasedTable<int> table(2, 2);
-    table(1, 1) = 11;
-    table(1, 2) = 12;
-    table(2, 1) = 21;
-    table.resizeKeeping(1, 3);
-    EXPECT_EQ(table(1, 1), 11);
-    EXPECT_EQ(table(1, 2), 12);
-    EXPECT_EQ(table(1, 3), 0);
-    EXPECT_EQ(table.rows(), 1);
-}
-
 TEST(Record, copiesAreByValue)
 {
     PhotometricRecord first;

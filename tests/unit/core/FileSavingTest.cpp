@@ -23,7 +23,7 @@ protected:
                 throw *makingError;
             text += second;
         };
-        return saveFile(path, make, files, dialogs);
+        return saveFile(path, make, "\r\n", files, dialogs);
     }
 
     test::FakeTextFiles files;
@@ -120,7 +120,7 @@ TEST_F(Narrow, lackOfMemoryForTheLastLineEndIsToldAndMendedByTheRetry)
         text.assign(text.capacity(), 'x');
     };
     dialogs.onShow = [this](const MessageBox &) { limit.reset(); };
-    EXPECT_TRUE(saveFile(path, make, files, dialogs));
+    EXPECT_TRUE(saveFile(path, make, "\r\n", files, dialogs));
     ASSERT_EQ(files.written.size(), 1u);
     EXPECT_EQ(files.written[0].second, std::string(40'000, 'x') + "\r\n");
     EXPECT_EQ(dialogs.transcript, kOutOfMemory);
@@ -134,7 +134,7 @@ TEST_F(Narrow, lackOfMemoryOnTheRetryReachesTheCaller)
     };
     dialogs.answers = {Answer::Ok};
     try {
-        saveFile(path, make, files, dialogs);
+        saveFile(path, make, "\r\n", files, dialogs);
         ADD_FAILURE() << "no error";
     } catch (const RunTimeError &error) {
         EXPECT_EQ(error.number(), 31001);

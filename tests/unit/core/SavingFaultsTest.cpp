@@ -40,7 +40,7 @@ protected:
     bool save(const std::string &path)
     {
         const auto make = [](std::string &text) { appendIesText(text, test::smallRecord()); };
-        return saveFile(path, make, files, dialogs);
+        return saveFile(path, make, "\r\n", files, dialogs);
     }
 
     test::FakeDialogs dialogs;
