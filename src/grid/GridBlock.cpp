@@ -45,10 +45,12 @@ GridLines splitGridBlock(std::string_view text)
 {
     GridLines lines;
     PastedCells cells(text);
-    for (bool beginsLine = true; auto cell = cells.next(); beginsLine = cell->endsLine) {
+    bool beginsLine = true;
+    while (auto cell = cells.next()) {
         if (beginsLine)
             lines.emplace_back();
         lines.back().push_back(std::move(cell->text));
+        beginsLine = cell->endsLine;
     }
     return trimmed(std::move(lines));
 }
