@@ -57,6 +57,7 @@ struct NoWindow : penwright::LinkedWindow {
     void beginUnload() override {}
     bool isUnloading() const override { return false; }
     void showLog() override {}
+    void followRecord() override {}
 };
 
 /// One poll of an inbox in which nothing waits, with a record of full size beside it.
