@@ -1,47 +1,50 @@
 #include "grid/GridBlockActions.h"
 
 #include <QLineEdit>
+#include <QTableView>
 
 #include "controls/ClipboardText.h"
 #include "grid/GridCellEditor.h"
-#include "grid/GridView.h"
+#include "grid/GridModel.h"
 #include "platform/qt/QtText.h"
 
 namespace penwright {
 
 GridBlock GridBlockActions::selected() const
 {
-    const QItemSelection selection = m_grid.selectionModel()->selection();
-    if (selection.isEmpty())
-        return {m_grid.currentRow(), m_grid.currentColumn(), m_grid.currentRow(), m_grid.currentColumn()};
+    const QItemSelection selection = m_view.selectionModel()->selection();
+    if (selection.isEmpty()) {
+        const GridCell cell = cellOf(m_view.currentIndex());
+        return {cell.row, cell.column, cell.row, cell.column};
+    }
     const QItemSelectionRange &range = selection.first();  // the one that a contiguous selection has
     return {range.top() + 1, range.left(), range.bottom() + 1, range.right()};
 }
 
 void GridBlockActions::copy() const
 {
-    if (const auto text = m_grid.source().copy(selected()))
+    if (const auto text = m_model.source().copy(selected()))
         writeClipboardText(*text);
 }
 
 void GridBlockActions::paste() const
 {
-    const std::string title = m_grid.window()->windowTitle().toStdString();
+    const std::string title = m_view.window()->windowTitle().toStdString();
     try {
         const std::string text = readClipboardText();  // once: its owner may take long to answer
-        if (m_grid.editor().isOpen())
+        if (m_editor.isOpen())
             if (const auto cell = textOfOneCell(text))
-                return m_grid.editor().line()->insert(toQString(*cell));
-        m_grid.dropEdit();
-        m_grid.apply(m_grid.source().paste(selected(), text, title));
+                return m_editor.line()->insert(toQString(*cell));
+        m_editor.drop();
+        m_model.apply(m_model.source().paste(selected(), text, title));
     } catch (const std::exception &error) {
-        m_grid.apply({.name = "Paste", .refused = RefusedEdit{.box = {.text = error.what(), .title = title}}});
+        m_model.apply({.name = "Paste", .refused = RefusedEdit{.box = {.text = error.what(), .title = title}}});
     }
 }
 
 void GridBlockActions::clear() const
 {
-    m_grid.apply(clearingEdit(m_grid.source(), selected()));
+    m_model.apply(clearingEdit(m_model.source(), selected()));
 }
 
 }  // namespace penwright

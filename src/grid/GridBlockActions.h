@@ -2,14 +2,21 @@
 
 #include "grid/GridBlock.h"
 
+class QTableView;
+
 namespace penwright {
 
-class GridView;
+class GridCellEditor;
+class GridModel;
 
 /// What a grid does with its selected block of cells.
 class GridBlockActions {
 public:
-    explicit GridBlockActions(GridView &grid) : m_grid(grid) {}
+    /// All three outlive it.
+    GridBlockActions(const QTableView &view, GridModel &model, GridCellEditor &editor)
+        : m_view(view), m_model(model), m_editor(editor)
+    {
+    }
 
     /// Puts on the clipboard what the source makes of the block.
     void copy() const;
@@ -24,7 +31,9 @@ public:
 private:
     GridBlock selected() const;
 
-    GridView &m_grid;
+    const QTableView &m_view;
+    GridModel &m_model;
+    GridCellEditor &m_editor;
 };
 
 }  // namespace penwright

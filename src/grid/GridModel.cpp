@@ -1,5 +1,6 @@
 #include "grid/GridModel.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace penwright {
@@ -137,6 +138,11 @@ Qt::ItemFlags GridModel::flags(const QModelIndex &index) const
 {
     const Qt::ItemFlags shown = QAbstractTableModel::flags(index) | Qt::ItemNeverHasChildren;
     return index.isValid() && !isReadOnly(index.column()) ? shown | Qt::ItemIsEditable : shown;
+}
+
+GridCell cellOf(const QModelIndex &index)
+{
+    return {index.row() + 1, std::max(0, index.column())};
 }
 
 }  // namespace penwright

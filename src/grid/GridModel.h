@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "grid/GridSource.h"
+#include "grid/GridWalk.h"
 
 namespace penwright {
 
@@ -29,6 +30,9 @@ public:
 
     bool isReadOnly(int column) const { return m_source->isReadOnly(column); }
     std::vector<GridChoice> choices(const QModelIndex &cell) const;
+
+    /// The toolkit's index of a cell; an invalid one where it is not there.
+    QModelIndex indexOf(const GridCell &cell) const { return index(cell.row - 1, cell.column); }
 
     /// The name of a cell, of its row and its column: "Row 2, Factor".
     QString cellName(const QModelIndex &cell) const;
@@ -64,5 +68,8 @@ private:
     int m_rows = 0;  ///< as the toolkit knows them: the source grows before it is told
     int m_columns = 0;
 };
+
+/// The cell of an index of the toolkit, row 0 and column 0 of an invalid one.
+GridCell cellOf(const QModelIndex &index);
 
 }  // namespace penwright

@@ -5,7 +5,6 @@
 #include <QFocusEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QScopedValueRollback>
 #include <utility>
 
 #include "controls/InView.h"
@@ -24,7 +23,8 @@ GridView::GridView(QWidget *parent)
       m_model(new GridModel(this)),
       m_delegate(new GridDelegate(this)),
       m_refusal(new GridRefusal(this)),
-      m_editor(std::make_unique<GridCellEditor>(*this, *m_delegate, *m_refusal))
+      m_editor(std::make_unique<GridCellEditor>(*this, *m_delegate, *m_refusal)),
+      m_steering(*this, *m_model, *m_editor)
 {
     auto *lines = new GridLinesStyle;
     lines->setParent(this);
@@ -47,7 +47,7 @@ GridView::GridView(QWidget *parent)
     connect(m_model, &GridModel::refused, this, &GridView::tellRefusal);
     connect(m_model, &GridModel::modelAboutToBeReset, this, [this] {
         dropEdit();
-        m_before = currentCell();
+        m_before = cellOf(currentIndex());
     });
     connect(m_model, &GridModel::modelReset, this, &GridView::showRebuilt);
     connect(m_refusal, &GridRefusal::told, this, &GridView::showRefused);
@@ -78,7 +78,7 @@ bool GridView::apply(GridEdit edit)
 
 void GridView::showRebuilt()
 {
-    moveTo(m_before);
+    m_steering.moveTo(m_before);
     announceCurrent();
     emit rebuilt();
 }
@@ -87,14 +87,14 @@ void GridView::tellRefusal(const RefusedEdit &refused)
 {
     // A press on a header commits too, though it moves no focus.
     const bool isPressed = m_editor->wasLeftByMouse() || QApplication::mouseButtons() != Qt::NoButton;
-    const GridCell cell = refused.row > 0 ? GridCell{refused.row, refused.column} : currentCell();
+    const GridCell cell = refused.row > 0 ? GridCell{refused.row, refused.column} : cellOf(currentIndex());
     m_refusal->tell(cell.row, cell.column, refused.box, isPressed);
 }
 
 /// Goes to a cell, with what stands around it in sight: a paste may have ended there.
 void GridView::showRefused(int row, int column)
 {
-    const QModelIndex cell = m_model->index(row - 1, column);
+    const QModelIndex cell = m_model->indexOf({row, column});
     const bool wasSeen = viewport()->rect().contains(visualRect(cell));
     goTo(row, column);
     if (!wasSeen && cell.isValid())
@@ -103,10 +103,10 @@ void GridView::showRefused(int row, int column)
 
 void GridView::goTo(int row, int column)
 {
-    const QModelIndex cell = m_model->index(row - 1, column);
+    const QModelIndex cell = m_model->indexOf({row, column});
     if (!cell.isValid())
         return;
-    moveTo({row, column});
+    m_steering.moveTo({row, column});
     scrollTo(cell);
     setFocus(Qt::OtherFocusReason);
     bringIntoView(*this);
@@ -114,26 +114,17 @@ void GridView::goTo(int row, int column)
 
 int GridView::currentRow() const
 {
-    return currentIndex().row() + 1;
+    return cellOf(currentIndex()).row;
 }
 
 int GridView::currentColumn() const
 {
-    return std::max(0, currentIndex().column());
-}
-
-void GridView::moveTo(const GridCell &cell)
-{
-    const QModelIndex index = m_model->index(cell.row - 1, cell.column);
-    if (!index.isValid())
-        return;
-    const QScopedValueRollback<bool> own(m_movesItself, true);
-    setCurrentIndex(index);
+    return cellOf(currentIndex()).column;
 }
 
 QItemSelectionModel::SelectionFlags GridView::selectionCommand(const QModelIndex &index, const QEvent *event) const
 {
-    if (m_movesItself)  // the toolkit would look at the keyboard, and Shift+Tab would select a block
+    if (m_steering.isMoving())  // the toolkit would look at the keyboard, and Shift+Tab would select a block
         return QItemSelectionModel::ClearAndSelect;
     const bool isKey = event && event->type() == QEvent::KeyPress;
     return isKey && selectsToEnd(*static_cast<const QKeyEvent *>(event)) ? QItemSelectionModel::SelectCurrent
@@ -149,7 +140,7 @@ void GridView::currentChanged(const QModelIndex &current, const QModelIndex &pre
 
 void GridView::announceCurrent()
 {
-    const GridCell now = currentCell();
+    const GridCell now = cellOf(currentIndex());
     if (now == m_announced)
         return;
     m_announced = now;
@@ -199,16 +190,17 @@ void GridView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint h
 
 bool GridView::eventFilter(QObject *watched, QEvent *event)
 {
-    if (m_editor->is(watched) && event->type() == QEvent::KeyPress && editorKey(*static_cast<QKeyEvent *>(event)))
-        return true;
-    return QTableView::eventFilter(watched, event);
+    if (!m_editor->is(watched) || event->type() != QEvent::KeyPress)
+        return QTableView::eventFilter(watched, event);
+    auto &key = *static_cast<QKeyEvent *>(event);
+    return follow(m_steering.editorKey(key), key) || QTableView::eventFilter(watched, event);
 }
 
 void GridView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)
         event->ignore();  // the window asks the cancel question
-    else if (gridKey(*event))
+    else if (follow(m_steering.gridKey(*event), *event))
         event->accept();
     else
         QTableView::keyPressEvent(event);
@@ -225,68 +217,26 @@ QModelIndex GridView::moveCursor(CursorAction action, Qt::KeyboardModifiers modi
     return QTableView::moveCursor(action, modifiers);
 }
 
-bool GridView::gridKey(const QKeyEvent &event)
+/// Does what is left to the view of a key; whether the key was the grid's.
+bool GridView::follow(KeyUse use, QKeyEvent &event)
 {
-    if (event.matches(QKeySequence::Copy))
-        m_block.copy();
-    else if (event.matches(QKeySequence::Paste))
-        m_block.paste();
-    else if (event.key() == Qt::Key_Delete && !(event.modifiers() & ~Qt::KeypadModifier))
-        m_block.clear();
-    else if (isEnter(event))
-        walk(GridKey::Enter, isForward(event));
-    else if (isTab(event))  // with Ctrl held: without it the key comes as a change of focus
-        walkOrLeave(GridKey::CtrlTab, isForward(event));
-    else
-        return opensList(event) && openList();
-    return true;
-}
-
-bool GridView::editorKey(QKeyEvent &event)
-{
-    if (event.key() == Qt::Key_Escape) {
-        dropEdit();
-    } else if (isEnter(event)) {
-        if (commitEdit())
-            walk(GridKey::Enter, isForward(event));
-    } else if (isTab(event)) {
-        if (commitEdit())
-            walkOrLeave(event.modifiers() & Qt::ControlModifier ? GridKey::CtrlTab : GridKey::Tab, isForward(event));
-    } else if (movesRows(event)) {
-        if (commitEdit())
-            QTableView::keyPressEvent(&event);
-    } else if (event.matches(QKeySequence::Paste)) {
-        m_block.paste();
-    } else {
-        return false;
-    }
-    return true;
-}
-
-bool GridView::walk(GridKey key, bool forward)
-{
-    const auto cell = nextCell(source(), currentCell(), key, forward, m_tabWay);
-    if (cell)
-        moveTo(*cell);
-    return cell.has_value();
-}
-
-void GridView::walkOrLeave(GridKey key, bool forward)
-{
-    if (!walk(key, forward))
-        QTableView::focusNextPrevChild(forward);
+    if (use == KeyUse::Leaves)
+        QTableView::focusNextPrevChild(isForward(event));
+    else if (use == KeyUse::MovesRows)
+        QTableView::keyPressEvent(&event);
+    return use != KeyUse::None;
 }
 
 bool GridView::focusNextPrevChild(bool next)
 {
     const bool isHere = hasFocus() && isEnabled() && isVisible();
-    return (isHere && walk(GridKey::Tab, next)) || QTableView::focusNextPrevChild(next);
+    return (isHere && m_steering.walkOn(next)) || QTableView::focusNextPrevChild(next);
 }
 
 void GridView::focusInEvent(QFocusEvent *event)
 {
     if (!currentIndex().isValid() && event->reason() != Qt::MouseFocusReason)
-        moveTo(nextCell(source(), {}, GridKey::Tab, true, TabWay::AlongRow).value_or(GridCell()));
+        m_steering.goToFirst();
     QTableView::focusInEvent(event);
     tellCurrentItem(*this);
 }
@@ -308,43 +258,22 @@ void GridView::changeEvent(QEvent *event)
         setHeaderSizes();
 }
 
-bool GridView::openList()
-{
-    const QModelIndex cell = currentIndex();
-    if (m_model->choices(cell).empty())
-        return false;
-    QTableView::edit(cell);
-    m_editor->openList();
-    return true;
-}
-
-bool GridView::isOnArrow(const QMouseEvent &event) const
-{
-    const QModelIndex cell = currentIndex();
-    return cell.isValid() && GridDelegate::arrowRect(visualRect(cell)).contains(event.position().toPoint()) &&
-           !m_model->choices(cell).empty();
-}
-
 void GridView::mousePressEvent(QMouseEvent *event)
 {
-    m_pressedArrow = event->button() == Qt::LeftButton && isOnArrow(*event);
-    if (!m_pressedArrow)
+    if (!m_steering.pressArrow(*event))
         QTableView::mousePressEvent(event);
 }
 
 void GridView::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    m_pressedArrow = event->button() == Qt::LeftButton && isOnArrow(*event);
-    if (!m_pressedArrow)
+    if (!m_steering.pressArrow(*event))
         QTableView::mouseDoubleClickEvent(event);
 }
 
 void GridView::mouseReleaseEvent(QMouseEvent *event)
 {
-    if (!std::exchange(m_pressedArrow, false))
+    if (!m_steering.releaseArrow(*event))
         QTableView::mouseReleaseEvent(event);
-    else if (isOnArrow(*event))
-        openList();
 }
 
 void GridView::setHeaderSizes()

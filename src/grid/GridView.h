@@ -4,9 +4,8 @@
 
 #include <memory>
 
-#include "grid/GridBlockActions.h"
 #include "grid/GridSource.h"
-#include "grid/GridWalk.h"
+#include "grid/GridSteering.h"
 #include "platform/Dialogs.h"
 
 namespace penwright {
@@ -36,7 +35,7 @@ public:
 
     GridSource &source() const;
 
-    void setTabWay(TabWay way) { m_tabWay = way; }
+    void setTabWay(TabWay way) { m_steering.setTabWay(way); }
 
     /// How the cells' texts stand, in editors too; left unless told.
     void setTextAlignment(Qt::Alignment alignment);
@@ -103,30 +102,20 @@ protected slots:
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
 
 private:
-    GridCell currentCell() const { return {currentRow(), currentColumn()}; }
-    bool gridKey(const QKeyEvent &event);
-    bool editorKey(QKeyEvent &event);
-    bool walk(GridKey key, bool forward);
-    void walkOrLeave(GridKey key, bool forward);
-    void moveTo(const GridCell &cell);
+    bool follow(KeyUse use, QKeyEvent &event);
     void announceCurrent();
     void showRebuilt();
     void showRefused(int row, int column);
     void tellRefusal(const RefusedEdit &refused);
-    bool openList();
-    bool isOnArrow(const QMouseEvent &event) const;
     void setHeaderSizes();
 
     GridModel *m_model;
     GridDelegate *m_delegate;
     GridRefusal *m_refusal;
     std::unique_ptr<GridCellEditor> m_editor;
-    GridBlockActions m_block{*this};
-    TabWay m_tabWay = TabWay::AlongRow;
+    GridSteering m_steering;
     GridCell m_before;            ///< the current cell while rows and columns are read anew
     GridCell m_announced{0, -1};  ///< what currentCellChanged told last
-    bool m_movesItself = false;   ///< a move of the grid's own selects one cell, whatever is held
-    bool m_pressedArrow = false;
 };
 
 }  // namespace penwright
