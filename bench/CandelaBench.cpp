@@ -14,15 +14,8 @@
 #include "pages/candela/CandelaGrid.h"
 #include "pages/candela/CandelaPage.h"
 #include "pages/candela/CandelaTable.h"
-#include "platform/posix/PosixTextFiles.h"
 #include "platform/qt/Closing.h"
-#include "platform/qt/OwnerWindow.h"
-#include "platform/qt/QtEventWait.h"
-#include "platform/sqlite/SqliteSettingsStore.h"
 #include "support/FakeDialogs.h"
-#include "support/FakeEmbedding.h"
-#include "support/FakeHelp.h"
-#include "support/TempFolder.h"
 #include "wizard/WarningDialog.h"
 
 namespace {
@@ -92,22 +85,14 @@ public:
     CandelaGrid *grid() { return page.findChild<CandelaGrid *>("cdaGridCd"); }
 
 private:
-    test::TempFolder m_folder;
     ToolState m_state;
     Closing m_closing;
-    OwnerWindow m_owner;
-    SqliteSettingsStore m_store{m_folder.file("settings.sqlite3")};
-    PosixTextFiles m_files;
     test::FakeDialogs m_dialogs;
-    QtEventWait m_wait{m_closing, m_owner};
-    test::FakeEmbedding m_embedding;
-    test::FakeHelp m_help;
-    Services m_services{m_store, m_files, m_dialogs, m_wait, m_embedding, m_help};
     Nowhere m_navigator;
     WarningDialog m_dlgWarn{m_closing, nullptr};
 
 public:
-    CandelaPage page{PageContext{m_state, m_services, m_navigator, m_dlgWarn}};
+    CandelaPage page{PageContext{m_state, m_dialogs, m_navigator, m_dlgWarn}};
 };
 
 void opensBlank(benchmark::State &state)

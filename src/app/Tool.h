@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "app/PlatformChoice.h"
-#include "core/Services.h"
+#include "app/Services.h"
 #include "core/ToolState.h"
 #include "help/window/QtHelpViewer.h"
 #include "platform/posix/PosixTextFiles.h"

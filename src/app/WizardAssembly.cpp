@@ -22,16 +22,16 @@ namespace {
 
 using namespace std::chrono_literals;
 
-void addPages(WizardWindow &window)
+void addPages(WizardWindow &window, const Services &services)
 {
     const PageContext context = window.pageContext();
     auto *candelaPage = new CandelaPage(context);
-    window.addPage(new LampPage(context));
+    window.addPage(new LampPage(context, services.store));
     window.addPage(new TiltPage(context));
-    window.addPage(new KeywordPage(context));
+    window.addPage(new KeywordPage(context, services.store));
     window.addPage(new DistributionPage(context, [candelaPage] { candelaPage->lsbStart(); }));
     window.addPage(candelaPage);
-    window.addPage(new FinishPage(context));
+    window.addPage(new FinishPage(context, services.store, services.files, services.wait));
 }
 
 // Once there is a window, a store that another process keeps locked must not stop it from painting, nor hold up the end
@@ -54,8 +54,9 @@ void printMissingHost(std::uint32_t host)
 std::unique_ptr<WizardWindow> assembleWizard(ToolState &state, const Services &services, Closing &closing,
                                              OwnerWindow &owner)
 {
-    auto window = std::make_unique<WizardWindow>(state, services, closing);
-    addPages(*window);
+    const WindowServices forWindow{services.store, services.dialogs, services.wait, services.embedding, services.help};
+    auto window = std::make_unique<WizardWindow>(state, forWindow, closing);
+    addPages(*window, services);
     owner.widget = window.get();
     services.embedding.adopt(window->winId());
     window->load();

@@ -3,7 +3,7 @@
 #include <chrono>
 #include <memory>
 
-#include "core/Services.h"
+#include "app/Services.h"
 #include "core/ToolState.h"
 #include "hostlink/Patience.h"
 #include "wizard/WizardWindow.h"

@@ -185,7 +185,7 @@ QPushButton *PageFrame::addButton(const QString &name, const QString &text, cons
 
 void PageFrame::pressNext(const Handler &next)
 {
-    if (!guardHandler(services().dialogs, caption().toStdString(), next))
+    if (!guardHandler(dialogs(), caption().toStdString(), next))
         focusFirstFault();
 }
 
@@ -209,7 +209,7 @@ void PageFrame::onClick(QAbstractButton *button, const Handler &handler)
 {
     connect(button, &QAbstractButton::clicked, this, [this, handler] {
         if (!navigator().isBusy())
-            guardHandler(services().dialogs, caption().toStdString(), handler);
+            guardHandler(dialogs(), caption().toStdString(), handler);
     });
 }
 

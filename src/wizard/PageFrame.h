@@ -5,7 +5,6 @@
 
 #include <functional>
 
-#include "core/Services.h"
 #include "core/ToolState.h"
 #include "wizard/PageTable.h"
 
@@ -15,6 +14,7 @@ class QPushButton;
 
 namespace penwright {
 
+class Dialogs;
 class WarningDialog;
 struct FaultPlace;
 
@@ -44,7 +44,7 @@ public:
 /// What every page works with. What it refers to outlives the page.
 struct PageContext {
     ToolState &state;
-    const Services &services;
+    Dialogs &dialogs;
     Navigator &navigator;
     WarningDialog &dlgWarn;
 };
@@ -111,7 +111,7 @@ protected:
 
     WarningDialog &dlgWarn() const { return m_context.dlgWarn; }
     ToolState &state() const { return m_context.state; }
-    const Services &services() const { return m_context.services; }
+    Dialogs &dialogs() const { return m_context.dialogs; }
     Navigator &navigator() const { return m_context.navigator; }
 
     /// Enter presses Next wherever it has no use of its own, as it has in grids, open lists and on buttons that are

@@ -33,7 +33,7 @@ constexpr const char *kNewDataNote = "The host has sent new data; the candela ta
 
 }  // namespace
 
-WizardWindow::WizardWindow(ToolState &state, const Services &services, Closing &closing)
+WizardWindow::WizardWindow(ToolState &state, const WindowServices &services, Closing &closing)
     : m_state(state),
       m_services(services),
       m_closing(closing),

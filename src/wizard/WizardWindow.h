@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <functional>
 
-#include "core/Services.h"
 #include "core/ToolState.h"
 #include "hostlink/CommandLink.h"
 #include "hostlink/HostOperations.h"
@@ -20,7 +19,21 @@ class QTimer;
 namespace penwright {
 
 class Closing;
+class Dialogs;
+class EventWait;
+class HelpViewer;
+class HostEmbedding;
+class SettingsStore;
 class WarningDialog;
+
+/// What the wizard window uses of the platform.
+struct WindowServices {
+    SettingsStore &store;
+    Dialogs &dialogs;
+    EventWait &wait;
+    HostEmbedding &embedding;
+    HelpViewer &help;
+};
 
 /// The wizard's one window `frmSample`: the page frames on top of each other, at most one of them shown, and the hidden
 /// boxes and timers of the host link.
@@ -28,9 +41,9 @@ class WizardWindow : public QWidget, public Navigator, public LinkedWindow {
     Q_OBJECT
 
 public:
-    WizardWindow(ToolState &state, const Services &services, Closing &closing);
+    WizardWindow(ToolState &state, const WindowServices &services, Closing &closing);
 
-    PageContext pageContext() { return {m_state, m_services, *this, *m_dlgWarn}; }
+    PageContext pageContext() { return {m_state, m_services.dialogs, *this, *m_dlgWarn}; }
 
     /// Owns `page` from here on, and shows it under the index that it carries. Each row of the page table has one
     /// before the window loads.
@@ -98,7 +111,7 @@ private:
     void guarded(const std::function<void()> &body);
 
     ToolState &m_state;
-    Services m_services;
+    WindowServices m_services;
     Closing &m_closing;
     CommandLink m_link;
     HostOperations m_operations;

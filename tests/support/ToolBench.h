@@ -4,7 +4,6 @@
 #include <string_view>
 #include <vector>
 
-#include "core/Services.h"
 #include "core/ToolState.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "support/FakeDialogs.h"

@@ -192,8 +192,7 @@ protected:
 TEST_F(DistributionBuild, everyAcceptedNextBuildsThePageThatFollows)
 {
     startWizard();
-    const Services given = services();
-    DistributionPage page({state, given, *this, window->dlgWarn()},
+    DistributionPage page({state, dialogs, *this, window->dlgWarn()},
                           [this] { noted += "build " + std::to_string(state.PhotFiles(1).NumVertAngles) + "\n"; });
     page.show();
     QTest::mouseClick(page.findChild<QRadioButton *>("rdoC"), Qt::LeftButton);
@@ -207,8 +206,7 @@ TEST_F(DistributionBuild, everyAcceptedNextBuildsThePageThatFollows)
 TEST_F(DistributionBuild, failedBuildLeavesThePage)
 {
     startWizard();
-    const Services given = services();
-    DistributionPage page({state, given, *this, window->dlgWarn()}, [] { throw overflow(); });
+    DistributionPage page({state, dialogs, *this, window->dlgWarn()}, [] { throw overflow(); });
     page.show();
     QTest::mouseClick(page.findChild<QRadioButton *>("rdoC"), Qt::LeftButton);
     for (const char *name : {"phoCmbVert", "phoCmbHorz"})

@@ -36,7 +36,7 @@ CandelaPage::CandelaPage(const PageContext &context)
     m_form->setupUi(formArea());
     m_form->planeKey->setColour(kPaperLook.plane);
     m_form->coneKey->setColour(kPaperLook.cone);
-    m_form->cdaGridCd->setTable(m_table, services().dialogs);
+    m_form->cdaGridCd->setTable(m_table, dialogs());
     m_form->cdaHint->follow(*m_form->cdaGridCd);
     connectGrid();
     addButtons([this] { cmdNext50_Click(); }, [this] { cmdBack50_Click(); });
@@ -151,7 +151,7 @@ void CandelaPage::refreshPlot()
 // Once the event is over: the pass may run in a mouse press or in a change of the focus.
 void CandelaPage::tellPlotError()
 {
-    const auto tell = [this] { services().dialogs.show({.text = "err in paintCda"}); };
+    const auto tell = [this] { dialogs().show({.text = "err in paintCda"}); };
     QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 

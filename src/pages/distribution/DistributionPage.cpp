@@ -16,8 +16,8 @@ DistributionPage::DistributionPage(const PageContext &context, std::function<voi
       m_lsbStart(std::move(lsbStart))
 {
     m_form->setupUi(formArea());
-    m_form->phoGridVert->setSource(m_vertical, services().dialogs);
-    m_form->phoGridHorz->setSource(m_horizontal, services().dialogs);
+    m_form->phoGridVert->setSource(m_vertical, dialogs());
+    m_form->phoGridHorz->setSource(m_horizontal, dialogs());
     m_form->phoHintVert->follow(*m_form->phoGridVert);
     m_form->phoHintHorz->follow(*m_form->phoGridHorz);
     m_form->fraAngles->hide();

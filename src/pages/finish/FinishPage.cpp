@@ -7,11 +7,10 @@
 
 namespace penwright {
 
-FinishPage::FinishPage(const PageContext &context)
+FinishPage::FinishPage(const PageContext &context, SettingsStore &store, TextFiles &files, EventWait &wait)
     : PageFrame(kFinishPage, context),
       m_form(std::make_unique<Ui::FinishPage>()),
-      m_finish(context.state, context.services.store, context.services.files, context.services.dialogs,
-               context.services.wait)
+      m_finish(state(), store, files, dialogs(), wait)
 {
     m_form->setupUi(formArea());
     for (QLabel *label : {m_form->Label3, m_form->Label4}) {

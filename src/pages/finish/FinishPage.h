@@ -17,7 +17,7 @@ class FinishPage : public PageFrame {
     Q_OBJECT
 
 public:
-    explicit FinishPage(const PageContext &context);
+    FinishPage(const PageContext &context, SettingsStore &store, TextFiles &files, EventWait &wait);
     ~FinishPage() override;
 
 protected:

@@ -9,11 +9,11 @@
 
 namespace penwright {
 
-KeywordPage::KeywordPage(const PageContext &context)
-    : PageFrame(kKeywordPage, context), m_form(std::make_unique<Ui::KeywordPage>())
+KeywordPage::KeywordPage(const PageContext &context, SettingsStore &store)
+    : PageFrame(kKeywordPage, context), m_form(std::make_unique<Ui::KeywordPage>()), m_store(store)
 {
     m_form->setupUi(formArea());
-    m_form->keyGrid->setRows(m_rows, services().dialogs);
+    m_form->keyGrid->setRows(m_rows, dialogs());
     connect(m_form->keyGrid, &KeywordGrid::lineChanged, this, &KeywordPage::showLine);
     connect(m_form->keyGrid, &KeywordGrid::hinted, this, &KeywordPage::showHint);
     onClick(m_form->cmdDefaultLoad, [this] { cmdDefaultLoad_Click(); });
@@ -33,17 +33,17 @@ void KeywordPage::enter()
 
 void KeywordPage::cmdDefaultLoad_Click()
 {
-    m_form->keyGrid->apply(m_rows->loadRows(gsbKeyDefaultLoad(services().store)));
+    m_form->keyGrid->apply(m_rows->loadRows(gsbKeyDefaultLoad(m_store)));
 }
 
 void KeywordPage::cmdSaveDefaults_Click()
 {
-    const Answer answer = services().dialogs.show(
+    const Answer answer = dialogs().show(
         {.text = "This will save all current keys and values as defaults. Leave individual descriptions empty that you "
                  "want to fill in later."});
     if (answer == Answer::Dismissed || !m_form->keyGrid->commitEdit())
         return;
-    gsbKeyDefaultSave(services().store, m_rows->rows());
+    gsbKeyDefaultSave(m_store, m_rows->rows());
 }
 
 void KeywordPage::cmdNext20_Click()

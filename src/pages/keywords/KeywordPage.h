@@ -11,13 +11,15 @@ class KeywordPage;
 
 namespace penwright {
 
+class SettingsStore;
+
 /// Page 3: the keyword lines, the version line first. They begin with the user's defaults when the page is first shown;
 /// later visits keep them. Back leads over the tilt page only when tilt is included.
 class KeywordPage : public PageFrame {
     Q_OBJECT
 
 public:
-    explicit KeywordPage(const PageContext &context);
+    KeywordPage(const PageContext &context, SettingsStore &store);
     ~KeywordPage() override;
 
     /// Loads the defaults, the first time; raises the errors of the store.
@@ -36,6 +38,7 @@ private:
     void showHint(const QString &hint);
 
     std::unique_ptr<Ui::KeywordPage> m_form;
+    SettingsStore &m_store;
     const std::shared_ptr<KeywordRows> m_rows = std::make_shared<KeywordRows>();
     bool m_hasRows = false;
 };

@@ -24,7 +24,8 @@ void apply(const DimensionLook &look, QLabel &label, QLineEdit &box)
 
 }  // namespace
 
-LampPage::LampPage(const PageContext &context) : PageFrame(kLampPage, context), m_form(std::make_unique<Ui::LampPage>())
+LampPage::LampPage(const PageContext &context, SettingsStore &store)
+    : PageFrame(kLampPage, context), m_form(std::make_unique<Ui::LampPage>()), m_store(store)
 {
     m_form->setupUi(formArea());
     connect(m_form->lmpCmbShape, &QComboBox::currentIndexChanged, this, &LampPage::lmpCmbShape_Click);
@@ -36,7 +37,7 @@ LampPage::~LampPage() = default;
 
 void LampPage::load()
 {
-    const bool feet = inputUnitsAreFeet(services().store);
+    const bool feet = inputUnitsAreFeet(m_store);
     m_form->rdoFeet->setChecked(feet);
     m_form->rdoMeters->setChecked(!feet);
     tellUnits();

@@ -13,6 +13,7 @@ class LampPage;
 
 namespace penwright {
 
+class SettingsStore;
 class TextBox;
 
 /// Page 1: lamp and power, the luminous opening, and whether tilt data is included, which decides the next page.
@@ -20,7 +21,7 @@ class LampPage : public PageFrame {
     Q_OBJECT
 
 public:
-    explicit LampPage(const PageContext &context);
+    LampPage(const PageContext &context, SettingsStore &store);
     ~LampPage() override;
 
     void load() override;
@@ -44,6 +45,7 @@ private:
     std::array<TextBox *, kLampFieldCount> boxes() const;
 
     std::unique_ptr<Ui::LampPage> m_form;
+    SettingsStore &m_store;
 };
 
 }  // namespace penwright

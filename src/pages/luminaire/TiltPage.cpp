@@ -15,7 +15,7 @@ TiltPage::TiltPage(const PageContext &context)
 {
     m_form->setupUi(formArea());
     GridView &grid = *m_form->lmpGridTiltMultiplier;
-    grid.setSource(m_table, services().dialogs);
+    grid.setSource(m_table, dialogs());
     grid.setTabWay(TabWay::DownColumn);
     grid.setTextAlignment(Qt::AlignRight);
     grid.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);

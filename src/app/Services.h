@@ -9,7 +9,7 @@ class HostEmbedding;
 class SettingsStore;
 class TextFiles;
 
-/// What the platform does for the program, made once at start-up and passed on by reference.
+/// What the platform does for the program, made once at start-up. Each class is handed those of them that it uses.
 struct Services {
     SettingsStore &store;
     TextFiles &files;
