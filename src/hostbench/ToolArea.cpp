@@ -6,7 +6,7 @@
 #include <QPainter>
 
 #include "controls/MixedColour.h"
-#include "platform/x11/Reply.h"
+#include "platform/Freed.h"
 
 namespace penwright {
 
@@ -24,7 +24,7 @@ QSize ToolArea::pixels() const
     if (QGuiApplication::platformName() != "xcb")
         return size() * devicePixelRatioF();
     xcb_connection_t *display = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
-    const auto reply = x11::held(xcb_get_geometry_reply(display, xcb_get_geometry(display, windowNumber()), nullptr));
+    const auto reply = freed(xcb_get_geometry_reply(display, xcb_get_geometry(display, windowNumber()), nullptr));
     return reply ? QSize(reply->width, reply->height) : size() * devicePixelRatioF();
 }
 

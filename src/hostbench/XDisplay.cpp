@@ -2,13 +2,10 @@
 
 #include <xcb/xtest.h>
 
-#include "platform/x11/Reply.h"
+#include "platform/Freed.h"
 
 namespace penwright {
-
 namespace {
-
-using x11::Reply;
 
 std::uint32_t symbolOf(char32_t character)
 {
@@ -23,12 +20,12 @@ XDisplay::XDisplay() : m_display(xcb_connect(nullptr, nullptr))
 {
     if (xcb_connection_has_error(m_display))
         return;
-    const Reply<xcb_test_get_version_reply_t> version(
+    const Freed<xcb_test_get_version_reply_t> version(
         xcb_test_get_version_reply(m_display, xcb_test_get_version(m_display, 2, 2), nullptr));
     const xcb_setup_t *setup = xcb_get_setup(m_display);
     m_firstKey = setup->min_keycode;
     const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
-    const Reply<xcb_get_keyboard_mapping_reply_t> mapping(
+    const Freed<xcb_get_keyboard_mapping_reply_t> mapping(
         xcb_get_keyboard_mapping_reply(m_display, xcb_get_keyboard_mapping(m_display, m_firstKey, count), nullptr));
     if (!version || !mapping)
         return;
@@ -45,7 +42,7 @@ XDisplay::~XDisplay()
 
 std::vector<xcb_window_t> XDisplay::children(xcb_window_t window) const
 {
-    const Reply<xcb_query_tree_reply_t> tree(
+    const Freed<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(m_display, xcb_query_tree(m_display, window), nullptr));
     if (!tree)
         return {};
@@ -55,7 +52,7 @@ std::vector<xcb_window_t> XDisplay::children(xcb_window_t window) const
 
 xcb_window_t XDisplay::parent(xcb_window_t window) const
 {
-    const Reply<xcb_query_tree_reply_t> tree(
+    const Freed<xcb_query_tree_reply_t> tree(
         xcb_query_tree_reply(m_display, xcb_query_tree(m_display, window), nullptr));
     return tree ? tree->parent : xcb_window_t(XCB_WINDOW_NONE);
 }
@@ -64,11 +61,11 @@ QString XDisplay::title(xcb_window_t window) const
 {
     constexpr std::uint32_t kMostWords = 256;
     const char name[] = "_NET_WM_NAME";
-    const Reply<xcb_intern_atom_reply_t> atom(
+    const Freed<xcb_intern_atom_reply_t> atom(
         xcb_intern_atom_reply(m_display, xcb_intern_atom(m_display, 1, sizeof name - 1, name), nullptr));
     if (!atom)
         return {};
-    const Reply<xcb_get_property_reply_t> property(xcb_get_property_reply(
+    const Freed<xcb_get_property_reply_t> property(xcb_get_property_reply(
         m_display, xcb_get_property(m_display, 0, window, atom->atom, XCB_ATOM_ANY, 0, kMostWords), nullptr));
     if (!property)
         return {};
@@ -78,14 +75,14 @@ QString XDisplay::title(xcb_window_t window) const
 
 QSize XDisplay::size(xcb_window_t window) const
 {
-    const Reply<xcb_get_geometry_reply_t> geometry(
+    const Freed<xcb_get_geometry_reply_t> geometry(
         xcb_get_geometry_reply(m_display, xcb_get_geometry(m_display, window), nullptr));
     return geometry ? QSize(geometry->width, geometry->height) : QSize();
 }
 
 QString XDisplay::focusedTitle() const
 {
-    const Reply<xcb_get_input_focus_reply_t> focus(
+    const Freed<xcb_get_input_focus_reply_t> focus(
         xcb_get_input_focus_reply(m_display, xcb_get_input_focus(m_display), nullptr));
     xcb_window_t window = focus ? focus->focus : xcb_window_t(XCB_WINDOW_NONE);
     while (window > XCB_INPUT_FOCUS_POINTER_ROOT) {

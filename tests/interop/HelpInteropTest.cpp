@@ -8,7 +8,7 @@
 #include <xcb/xcb.h>
 
 #include "mkchm/HelpProject.h"
-#include "platform/x11/Reply.h"
+#include "platform/Freed.h"
 #include "support/Process.h"
 #include "support/TempFolder.h"
 
@@ -24,7 +24,7 @@ std::map<std::uint32_t, int> coloursOnScreen()
     const xcb_screen_t *screen = xcb_setup_roots_iterator(xcb_get_setup(connection)).data;
     const auto cookie = xcb_get_image(connection, XCB_IMAGE_FORMAT_Z_PIXMAP, screen->root, 0, 0,
                                       screen->width_in_pixels, screen->height_in_pixels, ~0U);
-    const auto image = x11::held(xcb_get_image_reply(connection, cookie, nullptr));
+    const auto image = freed(xcb_get_image_reply(connection, cookie, nullptr));
     std::map<std::uint32_t, int> colours;
     if (image) {
         const auto *pixels = reinterpret_cast<const std::uint32_t *>(xcb_get_image_data(image.get()));

@@ -4,7 +4,7 @@
 
 #include <memory>
 
-#include "platform/x11/Reply.h"
+#include "platform/Freed.h"
 #include "widgets/GridViewTest.h"
 
 namespace penwright::test {
@@ -21,11 +21,11 @@ public:
         xcb_create_window(display, 0, window, screen->root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY,
                           XCB_COPY_FROM_PARENT, 0, nullptr);
         const std::string name = "CLIPBOARD";
-        const auto atom = x11::held(xcb_intern_atom_reply(
+        const auto atom = freed(xcb_intern_atom_reply(
             display, xcb_intern_atom(display, 0, static_cast<std::uint16_t>(name.size()), name.c_str()), nullptr));
         xcb_set_selection_owner(display, window, atom->atom, XCB_CURRENT_TIME);
         const auto owner =
-            x11::held(xcb_get_selection_owner_reply(display, xcb_get_selection_owner(display, atom->atom), nullptr));
+            freed(xcb_get_selection_owner_reply(display, xcb_get_selection_owner(display, atom->atom), nullptr));
         m_owns = owner->owner == window;
     }
 

@@ -7,7 +7,7 @@
 
 #include <xcb/xcb.h>
 
-#include "platform/x11/Reply.h"
+#include "platform/Freed.h"
 
 namespace penwright::test {
 
@@ -35,14 +35,14 @@ public:
 
     std::uint32_t parentOf(std::uint32_t window) const
     {
-        const auto reply = x11::held(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
+        const auto reply = freed(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
         return reply ? reply->parent : 0;
     }
 
     /// The children of a window from the lowest to the topmost.
     std::vector<std::uint32_t> childrenOf(std::uint32_t window) const
     {
-        const auto reply = x11::held(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
+        const auto reply = freed(xcb_query_tree_reply(m_connection, xcb_query_tree(m_connection, window), nullptr));
         if (!reply)
             return {};
         const auto *first = xcb_query_tree_children(reply.get());
@@ -52,8 +52,7 @@ public:
     /// Place in the parent, and size, in pixels.
     Rectangle geometryOf(std::uint32_t window) const
     {
-        const auto reply =
-            x11::held(xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));
+        const auto reply = freed(xcb_get_geometry_reply(m_connection, xcb_get_geometry(m_connection, window), nullptr));
         return reply ? Rectangle{reply->x, reply->y, reply->width, reply->height} : Rectangle{};
     }
 
@@ -62,15 +61,14 @@ public:
 
     std::uint32_t focus() const
     {
-        const auto reply =
-            x11::held(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
+        const auto reply = freed(xcb_get_input_focus_reply(m_connection, xcb_get_input_focus(m_connection), nullptr));
         return reply ? reply->focus : 0;
     }
 
     std::uint32_t transientFor(std::uint32_t window) const
     {
         const auto cookie = xcb_get_property(m_connection, 0, window, XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW, 0, 1);
-        const auto reply = x11::held(xcb_get_property_reply(m_connection, cookie, nullptr));
+        const auto reply = freed(xcb_get_property_reply(m_connection, cookie, nullptr));
         if (!reply || xcb_get_property_value_length(reply.get()) != 4)
             return 0;
         return *static_cast<std::uint32_t *>(xcb_get_property_value(reply.get()));
@@ -79,7 +77,7 @@ public:
 private:
     int mapStateOf(std::uint32_t window) const
     {
-        const auto reply = x11::held(
+        const auto reply = freed(
             xcb_get_window_attributes_reply(m_connection, xcb_get_window_attributes(m_connection, window), nullptr));
         return reply ? static_cast<int>(reply->map_state) : 0;
     }

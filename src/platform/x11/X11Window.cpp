@@ -6,7 +6,7 @@
 
 #include <xcb/xcb.h>
 
-#include "platform/x11/Reply.h"
+#include "platform/Freed.h"
 
 namespace penwright::x11 {
 namespace {
@@ -17,16 +17,16 @@ xcb_connection_t *connection()
     return native ? native->connection() : nullptr;
 }
 
-Reply<xcb_query_tree_reply_t> treeOf(WindowId window)
+Freed<xcb_query_tree_reply_t> treeOf(WindowId window)
 {
     xcb_connection_t *c = connection();
-    return Reply<xcb_query_tree_reply_t>(c ? xcb_query_tree_reply(c, xcb_query_tree(c, window), nullptr) : nullptr);
+    return Freed<xcb_query_tree_reply_t>(c ? xcb_query_tree_reply(c, xcb_query_tree(c, window), nullptr) : nullptr);
 }
 
 xcb_atom_t atom(const char *name)
 {
     const auto length = static_cast<std::uint16_t>(std::strlen(name));
-    const Reply<xcb_intern_atom_reply_t> reply(
+    const Freed<xcb_intern_atom_reply_t> reply(
         xcb_intern_atom_reply(connection(), xcb_intern_atom(connection(), 1, length, name), nullptr));
     return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
@@ -34,7 +34,7 @@ xcb_atom_t atom(const char *name)
 bool hasProperty(WindowId window, xcb_atom_t property)
 {
     const auto cookie = xcb_get_property(connection(), 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0, 0);
-    const Reply<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection(), cookie, nullptr));
+    const Freed<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection(), cookie, nullptr));
     return reply && reply->type != XCB_ATOM_NONE;
 }
 
@@ -90,7 +90,7 @@ bool watch(WindowId window)
         return false;
     const std::uint32_t mask = XCB_EVENT_MASK_STRUCTURE_NOTIFY | XCB_EVENT_MASK_FOCUS_CHANGE;
     const auto cookie = xcb_change_window_attributes_checked(c, window, XCB_CW_EVENT_MASK, &mask);
-    return Reply<xcb_generic_error_t>(xcb_request_check(c, cookie)) == nullptr;
+    return Freed<xcb_generic_error_t>(xcb_request_check(c, cookie)) == nullptr;
 }
 
 void place(WindowId window, int x, int y, PixelSize size)
@@ -110,7 +110,7 @@ std::optional<PixelSize> sizeOf(WindowId window)
     xcb_connection_t *c = connection();
     if (!c)
         return std::nullopt;
-    const Reply<xcb_get_geometry_reply_t> reply(xcb_get_geometry_reply(c, xcb_get_geometry(c, window), nullptr));
+    const Freed<xcb_get_geometry_reply_t> reply(xcb_get_geometry_reply(c, xcb_get_geometry(c, window), nullptr));
     return reply ? std::optional(PixelSize{reply->width, reply->height}) : std::nullopt;
 }
 
@@ -127,7 +127,7 @@ bool isViewable(WindowId window)
     xcb_connection_t *c = connection();
     if (!c)
         return false;
-    const Reply<xcb_get_window_attributes_reply_t> reply(
+    const Freed<xcb_get_window_attributes_reply_t> reply(
         xcb_get_window_attributes_reply(c, xcb_get_window_attributes(c, window), nullptr));
     return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
@@ -145,7 +145,7 @@ WindowId focused()
     xcb_connection_t *c = connection();
     if (!c)
         return 0;
-    const Reply<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
+    const Freed<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
     return reply && reply->focus != XCB_INPUT_FOCUS_POINTER_ROOT ? reply->focus : 0;
 }
 
@@ -155,7 +155,7 @@ bool isButtonHeld()
     if (!c)
         return false;
     const auto root = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
-    const Reply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(c, xcb_query_pointer(c, root), nullptr));
+    const Freed<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(c, xcb_query_pointer(c, root), nullptr));
     return reply && (reply->mask & (XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3)) != 0;
 }
 
