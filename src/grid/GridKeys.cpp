@@ -4,11 +4,6 @@
 
 namespace penwright {
 
-bool isEnter(const QKeyEvent &event)
-{
-    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
-}
-
 bool isTab(const QKeyEvent &event)
 {
     return (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) && !(event.modifiers() & Qt::AltModifier);

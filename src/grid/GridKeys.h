@@ -4,8 +4,7 @@ class QKeyEvent;
 
 namespace penwright {
 
-/// Which of a grid's own keys a key press is.
-bool isEnter(const QKeyEvent &event);
+/// Whether a key is a Tab that is the grid's, forward or back.
 bool isTab(const QKeyEvent &event);
 
 /// Whether an Enter or a Tab goes on; with Shift it goes back.

@@ -5,6 +5,7 @@
 #include <QTableView>
 #include <utility>
 
+#include "controls/EnterKey.h"
 #include "grid/GridCellEditor.h"
 #include "grid/GridDelegate.h"
 #include "grid/GridKeys.h"

@@ -2,6 +2,8 @@
 
 #include <xcb/xtest.h>
 
+#include <algorithm>
+
 #include "platform/Freed.h"
 
 namespace penwright {

@@ -9,6 +9,7 @@
 #include <QShortcut>
 #include <QVBoxLayout>
 
+#include "controls/EnterKey.h"
 #include "controls/FieldFocus.h"
 #include "controls/InView.h"
 #include "controls/QuietLabel.h"
@@ -53,11 +54,6 @@ QWidget *makeLine()
     line->setBackgroundRole(QPalette::Mid);
     line->setAutoFillBackground(true);
     return line;
-}
-
-bool isEnter(const QKeyEvent &key)
-{
-    return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
 }
 
 bool takesFocus(const QWidget &widget, const QWidget &page)

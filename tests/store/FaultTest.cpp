@@ -1,5 +1,6 @@
 #include <sys/resource.h>
 
+#include <algorithm>
 #include <cerrno>
 
 #include "store/InjectedCall.h"

@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <utility>
 
+#include "controls/EnterKey.h"
 #include "controls/OneLine.h"
 #include "pages/distribution/PredefinedAngles.h"
 #include "platform/qt/QtText.h"
@@ -129,7 +130,7 @@ void AngleListBox::tellPick()
 
 void AngleListBox::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (isEnter(*event))
         event->ignore();  // the page presses Next; the toolkit would pick the entry that equals the text
     else
         DropDownList::keyPressEvent(event);

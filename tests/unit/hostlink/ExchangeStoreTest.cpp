@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "hostlink/RecordText.h"
 #include "support/RandomRecord.h"
 #include "support/ToolBench.h"
