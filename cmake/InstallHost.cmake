@@ -12,6 +12,7 @@ install(EXPORT PenwrightHostTargets NAMESPACE PenwrightHost:: DESTINATION ${host
 
 write_basic_package_version_file(${CMAKE_CURRENT_BINARY_DIR}/PenwrightHostConfigVersion.cmake
   COMPATIBILITY SameMinorVersion)
-install(FILES ${PROJECT_SOURCE_DIR}/cmake/PenwrightHostConfig.cmake
+configure_file(${PROJECT_SOURCE_DIR}/cmake/PenwrightHostConfig.cmake.in PenwrightHostConfig.cmake @ONLY)
+install(FILES ${CMAKE_CURRENT_BINARY_DIR}/PenwrightHostConfig.cmake
               ${CMAKE_CURRENT_BINARY_DIR}/PenwrightHostConfigVersion.cmake
   DESTINATION ${host_package_folder} COMPONENT host)
