@@ -1,8 +1,7 @@
 // What a screen reader is told of each page, by rule and by table.
 #include <set>
-#include <sstream>
 
-#include "widgets/WizardTest.h"
+#include "widgets/AccessibilityTest.h"
 
 namespace penwright::test {
 namespace {
@@ -11,11 +10,6 @@ std::string roleOf(const QAccessibleInterface &object)
 {
     const char *key = QMetaEnum::fromType<QAccessible::Role>().valueToKey(object.role());
     return key ? key : "?";
-}
-
-std::string nameOf(const QAccessibleInterface &object)
-{
-    return object.text(QAccessible::Name).toStdString();
 }
 
 /// The labels that are said with an object, without the group that holds it, which is said on entering.
@@ -59,13 +53,11 @@ void PrintTo(const PageCase &page, std::ostream *out)
     *out << "page " << page.index + 1;
 }
 
-class ReadPage : public WizardTest, public testing::WithParamInterface<PageCase> {
+class ReadPage : public ReadWizard, public testing::WithParamInterface<PageCase> {
 protected:
     void SetUp() override
     {
-        startWizard();
-        fillPageTwo();
-        fillPageFour();
+        ReadWizard::SetUp();
         if (GetParam().index == kCandelaPage)
             find<QAbstractButton>("cmdNext30")->click();
         else
@@ -203,216 +195,6 @@ TEST_P(ReadPage, hasNoOtherPageAndNoHiddenBox)
     for (int index = 0; index < kPageCount; ++index)
         EXPECT_EQ(QAccessible::queryAccessibleInterface(find("nfra" + std::to_string(index)))->state().invisible,
                   index != GetParam().index);
-}
-
-/// The name of a cell's header, which the toolkit makes anew and leaves to whoever asks.
-std::string takeName(const QList<QAccessibleInterface *> &headers)
-{
-    for (QAccessibleInterface *header : headers)
-        QAccessible::registerAccessibleInterface(header);
-    return headers.isEmpty() ? "no header" : nameOf(*headers.first());
-}
-
-/// "row | column | cell" for each of the grid's cells from a first one on.
-std::string cellsOf(QWidget *grid, int rows, int columns)
-{
-    QAccessibleTableInterface *table = QAccessible::queryAccessibleInterface(grid)->tableInterface();
-    std::ostringstream text;
-    for (int row = 0; row < rows; ++row)
-        for (int column = 0; column < columns; ++column) {
-            QAccessibleInterface *cell = table->cellAt(row, column);
-            const std::string description = cell->text(QAccessible::Description).toStdString();
-            text << takeName(cell->tableCellInterface()->rowHeaderCells()) << " | "
-                 << takeName(cell->tableCellInterface()->columnHeaderCells()) << " | " << nameOf(*cell)
-                 << (description.empty() ? "" : " (" + description + ")") << "\n";
-        }
-    return text.str();
-}
-
-class ReadGrid : public WizardTest {
-protected:
-    void SetUp() override
-    {
-        startWizard();
-        fillPageTwo();
-        fillPageFour();
-    }
-};
-
-TEST_F(ReadGrid, cellsOfTiltAreToldByRowAndColumn)
-{
-    EXPECT_EQ(cellsOf(find("lmpGridTiltMultiplier"), 2, 2),
-              "Row 1 | Angle | 0\nRow 1 | Factor | 0\nRow 2 | Angle | 90\nRow 2 | Factor | 0\n");
-}
-
-TEST_F(ReadGrid, cellsOfKeywordsAreToldByRowAndColumn)
-{
-    window->ShowPage(kKeywordPage);
-    EXPECT_EQ(cellsOf(find("keyGrid"), 1, 2), "Row 1 | Keyword | IESNA:LM-63-2002\nRow 1 | Description | \n");
-    QAccessibleTableInterface *table = QAccessible::queryAccessibleInterface(find("keyGrid"))->tableInterface();
-    EXPECT_EQ(takeName(table->cellAt(9, 0)->tableCellInterface()->rowHeaderCells()), "New row");
-}
-
-TEST_F(ReadGrid, cellsOfAnglesAreToldByAxisAndNumber)
-{
-    EXPECT_EQ(cellsOf(find("phoGridVert"), 1, 2), "Vertical angle | 1 | 0\nVertical angle | 2 | 10\n");
-    EXPECT_EQ(cellsOf(find("phoGridHorz"), 1, 1), "Horizontal angle | 1 | 0\n");
-}
-
-TEST_F(ReadGrid, cellsOfCandelasAreToldByTheirAngles)
-{
-    find<QAbstractButton>("cmdNext30")->click();
-    fillPageFive();
-    EXPECT_EQ(cellsOf(find("cdaGridCd"), 2, 2),
-              "V 0 | Vertical angle | 0 (Read-only)\nV 0 | H 0 | 9\n"
-              "V 10 | Vertical angle | 10 (Read-only)\nV 10 | H 0 | 8\n");
-    find<GridView>("cdaGridCd")->goTo(2, 1);
-    typeText("5");
-    EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "V 10, H 0");
-}
-
-TEST_F(ReadGrid, editorWithAListIsNamedToo)
-{
-    window->ShowPage(kKeywordPage);
-    find<GridView>("keyGrid")->goTo(2, 0);
-    press(Qt::Key_F2);
-    auto *box = find("keyGrid")->findChild<QComboBox *>();
-    ASSERT_TRUE(box);
-    EXPECT_EQ(box->accessibleName(), "Row 2, Keyword");
-    EXPECT_EQ(box->lineEdit()->accessibleName(), "Row 2, Keyword");
-    EXPECT_EQ(box->itemData(0, Qt::AccessibleDescriptionRole).toString(), "Test report number");
-}
-
-class ReadHint : public WizardTest {
-protected:
-    void SetUp() override { startWizard(); }
-    std::string description(const std::string &name) { return find(name)->accessibleDescription().toStdString(); }
-};
-
-TEST_F(ReadHint, keywordIsExplainedWithItsGrid)
-{
-    window->ShowPage(kKeywordPage);
-    EXPECT_EQ(description("keyGrid"), "Version line of the format of 2002");
-    press(Qt::Key_Down);
-    EXPECT_EQ(description("keyGrid"), "Test report number");
-    press(Qt::Key_End, Qt::ControlModifier);
-    EXPECT_EQ(description("keyGrid"), "Type here to add line 10.");
-}
-
-TEST_F(ReadHint, lineThatIsTooLongAndEmptyRowsAreToldWithTheGrid)
-{
-    window->ShowPage(kKeywordPage);
-    find<GridView>("keyGrid")->goTo(2, 1);
-    press(Qt::Key_F2);
-    auto *line = find("keyGrid")->findChild<QLineEdit *>();
-    line->setText(QString(248, 'a'));  // with "[TEST]" all that a line may have
-    EXPECT_EQ(description("keyGrid"), "Test report number");
-    typeText("b");
-    EXPECT_EQ(description("keyGrid"), "Test report number. The line is too long: more than 254 characters.");
-    press(Qt::Key_Escape);
-    press(Qt::Key_Plus, Qt::ControlModifier);
-    EXPECT_EQ(description("keyGrid"), "Row 2 is empty: it is written to the file as an empty line.");
-}
-
-TEST_F(ReadHint, unitsAreToldWithTheDimensions)
-{
-    EXPECT_EQ(description("txtWidth"), "Feet");
-    find<QAbstractButton>("rdoMeters")->click();
-    for (const std::string box : {"txtWidth", "txtLength", "txtHeight"})
-        EXPECT_EQ(description(box), "Meters");
-}
-
-TEST_F(ReadHint, postThatNobodyTakesIsToldWithTheButtons)
-{
-    window->ShowPage(kFinishPage);
-    click("cmdUnname");
-    const std::string status = find<QLabel>("labStatus")->text().toStdString();
-    ASSERT_NE(status, "");
-    EXPECT_EQ(description("cmdUnname"), status);
-    EXPECT_EQ(description("cmdSaveAs"), status);
-}
-
-class ReadWindow : public WizardTest {};
-
-TEST_F(ReadWindow, isFoundInsideTheWindowOfAnotherProcess)
-{
-    startWizard();
-    const auto index = [this] {
-        const QAccessibleInterface *program = QAccessible::queryAccessibleInterface(qApp);
-        QAccessibleInterface *frame = QAccessible::queryAccessibleInterface(window.get());
-        const int found = program->indexOfChild(frame);
-        EXPECT_EQ(program->child(found), frame);
-        EXPECT_LT(found, program->childCount());
-        return found;
-    };
-    EXPECT_GE(index(), 0);
-    QWindow host;
-    host.create();
-    window->windowHandle()->setParent(&host);
-    EXPECT_EQ(index(), 0);
-    window->windowHandle()->setParent(nullptr);
-    EXPECT_GE(index(), 0);
-}
-
-TEST_F(ReadWindow, warningsAreToldWithTheirDialog)
-{
-    startWizard();
-    warningsOf([this] { click("cmdNext10"); });
-    EXPECT_EQ(window->dlgWarn().accessibleDescription().toStdString(),
-              "Number of Lamps is empty.\nLumens per Lamp is empty.\nCandela Multiplier is empty.\n"
-              "Ballast Factor is empty.\nWatts is empty.\nWidth is empty.\nLength is empty.\nHeight is empty.");
-}
-
-TEST_F(ReadWindow, ofALongListTheBeginningIsTold)
-{
-    startWizard();
-    for (int i = 1; i <= 11; ++i)
-        window->dlgWarn().Add("line " + std::to_string(i));
-    warningsOf([this] { window->dlgWarn().showModal(); });
-    const QString told = window->dlgWarn().accessibleDescription();
-    EXPECT_TRUE(told.startsWith("line 1\nline 2\n") && told.endsWith("line 10\nand more")) << qPrintable(told);
-}
-
-struct SeenHint {
-    int page;
-    std::string field;
-    std::string label;
-};
-
-void PrintTo(const SeenHint &hint, std::ostream *out)
-{
-    *out << hint.field;
-}
-
-class HintOfAField : public WizardTest, public testing::WithParamInterface<SeenHint> {};
-
-INSTANTIATE_TEST_SUITE_P(Pages, HintOfAField,
-                         testing::Values(SeenHint{kLampPage, "txtLumPerLamp", "labLumens"},
-                                         SeenHint{kTiltPage, "lmpTxtNumAngles", "labCount"},
-                                         SeenHint{kTiltPage, "lmpGridTiltMultiplier", "labTable"},
-                                         SeenHint{kDistributionPage, "phoGridVert", "labVertAngles"},
-                                         SeenHint{kDistributionPage, "phoGridHorz", "labHorzAngles"}));
-
-TEST_P(HintOfAField, isSeenBelowItAsWellAsHeard)
-{
-    startWizard();
-    window->ShowPage(GetParam().page);
-    fillPageFour();
-    const auto *label = find<QLabel>(GetParam().label);
-    const QWidget *field = find(GetParam().field);
-    EXPECT_TRUE(label->isVisible());
-    EXPECT_FALSE(label->text().isEmpty());
-    EXPECT_TRUE(field->accessibleDescription().contains(label->text())) << label->text().toStdString();
-    EXPECT_GE(label->mapToGlobal(QPoint()).y(), field->mapToGlobal(QPoint(0, field->height())).y());
-}
-
-TEST_F(ReadHint, keyOfAButtonIsSeenAsWellAsHeard)
-{
-    loadWindow();
-    for (const char *button : {"cmdCancel", "cmdHelp15", "cmdNext20", "cmdBack30"}) {
-        EXPECT_EQ(find(button)->toolTip(), find(button)->accessibleDescription()) << button;
-        EXPECT_FALSE(find(button)->toolTip().isEmpty()) << button;
-    }
 }
 
 }  // namespace
