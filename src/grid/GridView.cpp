@@ -106,10 +106,15 @@ void GridView::goTo(int row, int column)
     const QModelIndex cell = m_model->indexOf({row, column});
     if (!cell.isValid())
         return;
-    m_steering.moveTo({row, column});
+    makeCurrent(row, column);
     scrollTo(cell);
     setFocus(Qt::OtherFocusReason);
     bringIntoView(*this);
+}
+
+void GridView::makeCurrent(int row, int column)
+{
+    m_steering.moveTo({row, column});
 }
 
 int GridView::currentRow() const

@@ -58,6 +58,9 @@ public:
     /// Makes a cell (row from 1, column from 0) the current one, scrolls to it and takes the focus.
     void goTo(int row, int column);
 
+    /// Makes a cell the current one and selects it alone; the focus stays where it is.
+    void makeCurrent(int row, int column);
+
     /// The current cell, row from 1; row 0 when there is none.
     int currentRow() const;
     int currentColumn() const;

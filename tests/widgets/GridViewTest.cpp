@@ -250,6 +250,21 @@ TEST_F(Grid, refreshReadsAnewAndKeepsTheCellThatIsStillThere)
     EXPECT_EQ(visited, "A0 ");
 }
 
+TEST_F(Grid, cellMadeTheCurrentOneIsSelectedAloneAndTakesNoFocus)
+{
+    grid->goTo(1, 0);
+    press(Qt::Key_Down, Qt::ShiftModifier);
+    before->setFocus();
+    QTest::keyPress(before, Qt::Key_Shift, Qt::ShiftModifier);  // a block would be selected by it
+    grid->makeCurrent(3, 1);
+    QTest::keyRelease(before, Qt::Key_Shift);
+    EXPECT_EQ(current(), "B3");
+    EXPECT_EQ(grid->selectionModel()->selectedIndexes().size(), 1);
+    EXPECT_EQ(focus(), "before");
+    grid->makeCurrent(9, 1);
+    EXPECT_EQ(current(), "B3");
+}
+
 TEST_F(Grid, becomesEmptyAndStaysUsable)
 {
     table.cells.clear();

@@ -86,8 +86,7 @@ bool CandelaPage::followRecord()
         m_form->cdaGridCd->commitEditIfValid();
     }
     buildTable();
-    QAbstractItemModel &cells = *m_form->cdaGridCd->model();
-    m_form->cdaGridCd->setCurrentIndex(cells.index(0, 1));  // the focus stays: another page may be shown
+    m_form->cdaGridCd->makeCurrent(1, 1);  // another page may be shown, and has the focus
     showCurrentCell();
     return true;
 }
