@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "grid/GridSource.h"
 #include "grid/PastedCells.h"
 
 namespace penwright {
@@ -61,25 +60,6 @@ std::size_t widestLine(const GridLines &lines)
     for (const auto &line : lines)
         widest = std::max(widest, line.size());
     return widest;
-}
-
-std::optional<std::string> blockText(const GridSource &source, const GridBlock &block)
-{
-    const int first = std::max(1, block.firstRow);
-    const int last = std::min(block.lastRow, source.rowCount());
-    if (first > last)
-        return std::nullopt;
-    std::string text;
-    for (int row = first; row <= last; ++row) {
-        if (row > first)
-            text += '\n';
-        for (int column = block.firstColumn; column <= block.lastColumn; ++column) {
-            if (column > block.firstColumn)
-                text += '\t';
-            text += source.read(row, column);
-        }
-    }
-    return text;
 }
 
 }  // namespace penwright

@@ -7,8 +7,6 @@
 
 namespace penwright {
 
-class GridSource;
-
 /// A block of cells, rows from 1 and columns from 0, both ends included; row 0 where there is none.
 struct GridBlock {
     int firstRow = 0;
@@ -31,8 +29,5 @@ GridLines splitGridBlock(std::string_view text);
 
 /// The number of texts in the longest line.
 std::size_t widestLine(const GridLines &lines);
-
-/// The texts of a block, a line for each row that the source has, tabs between them; nothing without such a row.
-std::optional<std::string> blockText(const GridSource &source, const GridBlock &block);
 
 }  // namespace penwright

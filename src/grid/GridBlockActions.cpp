@@ -6,6 +6,7 @@
 #include "controls/ClipboardText.h"
 #include "grid/GridCellEditor.h"
 #include "grid/GridModel.h"
+#include "grid/SourceEdits.h"
 #include "platform/qt/QtText.h"
 
 namespace penwright {

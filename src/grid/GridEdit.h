@@ -58,25 +58,4 @@ struct GridEdit {
     std::string hint{};                      ///< what is said of it under the grid, with no message
 };
 
-class GridSource;
-
-/// The change that a text typed into a cell is, in one line. Nothing, in the row to append, where nothing of it would
-/// be kept.
-GridEdit typedEdit(const GridSource &source, int row, int column, std::string_view text);
-
-/// Delete over a block: empties the cells that can be edited, but for those that refuse it.
-GridEdit clearingEdit(const GridSource &source, const GridBlock &block);
-
-/// A block of texts pasted from the first cell of `block` on: all of it or, where a text is refused, nothing. Rows are
-/// appended where they can be, up to the last one of which something would be kept. `title` is what messages about its
-/// size are titled with.
-GridEdit pastedEdit(const GridSource &source, const GridBlock &block, std::string_view text, const std::string &title);
-
-/// What a paste is while there is no cell to paste from on: no change, and a hint that says what is missing.
-GridEdit pasteWithoutCell(const GridSource &source);
-
-/// Checks the texts of an edit, each once, and gives it its content; none when nothing is to change.
-/// What was refused: of a whole edit, for the first cell of its block.
-std::optional<RefusedEdit> prepareEdit(GridEdit &edit, GridSource &source);
-
 }  // namespace penwright

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "grid/SourceEdits.h"
+
 namespace penwright {
 namespace {
 

@@ -58,13 +58,16 @@ public:
     virtual std::unique_ptr<GridContent> contentAfter(const GridEdit &edit) = 0;
 
     /// The change that a pasted text is, `block` being what is selected; what goes where is for the source to say.
-    /// Messages that name no title of their own have `title`. Changes nothing yet.
+    /// Messages that name no title of their own have `title`. Changes nothing yet. Here a block of texts goes from the
+    /// first cell of `block` on: all of it or, where a text is refused, nothing. Rows are appended where they can be,
+    /// up to the last one of which something would be kept.
     virtual GridEdit paste(const GridBlock &block, std::string_view text, const std::string &title);
 
     /// What the user is to do before there are cells, in a sentence; "" where there always are.
     virtual std::string stepBeforeCells() const { return {}; }
 
-    /// What copying a block puts on the clipboard; nothing when the clipboard stays as it is.
+    /// What copying a block puts on the clipboard; nothing when the clipboard stays as it is. Here its texts, a line
+    /// for each row that there is, tabs between them; nothing without such a row.
     virtual std::optional<std::string> copy(const GridBlock &block) const;
 
     /// Whether the grid shows one empty row more, which becomes a row when a text is committed in it.
@@ -76,6 +79,10 @@ public:
     /// The entries of the drop-down list of a row's and a column's cell, whose free text stays possible; none for a
     /// plain text cell.
     virtual std::vector<GridChoice> choices(int, int) const { return {}; }
+
+protected:
+    /// What a paste is while there is no cell to paste from on: no change, and a hint that says what is missing.
+    GridEdit pasteWithoutCell() const;
 };
 
 }  // namespace penwright

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <utility>
 
-#include "grid/GridSource.h"
+#include "grid/SourceEdits.h"
 
 namespace penwright::test {
 

@@ -133,7 +133,7 @@ GridEdit AngleList::paste(const GridBlock &block, std::string_view text, const s
     if (text.empty())
         return edit;
     if (block.firstRow < 1)
-        return pasteWithoutCell(*this);
+        return pasteWithoutCell();
     for (int column = block.firstColumn; auto &line : splitGridBlock(text))
         for (std::string &cell : line)
             edit.texts.push_back({1, column++, std::move(cell)});

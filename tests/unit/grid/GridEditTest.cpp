@@ -1,4 +1,4 @@
-#include "grid/GridEdit.h"
+#include "grid/SourceEdits.h"
 
 #include <gtest/gtest.h>
 

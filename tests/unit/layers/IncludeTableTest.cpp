@@ -235,6 +235,36 @@ TEST(IncludeTable, librariesAreWrappedWithoutTheToolkit)
             EXPECT_FALSE(includesQt(file)) << file;
 }
 
+/// A header and the .cpp of its name as one part, written from src/ without an ending.
+std::string partOf(const fs::path &file)
+{
+    return fs::relative(file, kSource).replace_extension().generic_string();
+}
+
+// Inside a room too: of two parts of the program one at most knows the other, by whatever way round.
+TEST(IncludeTable, noTwoPartsKnowEachOther)
+{
+    std::map<std::string, std::set<std::string>> known;
+    for (const fs::path &file : sources())
+        for (const std::string &name : ownIncludesOf(file))
+            known[partOf(file)].insert(partOf(targetOf(name)));
+    const auto whatIsReachedFrom = [&](const std::string &part) {
+        std::set<std::string> reached;
+        std::vector<std::string> open{part};
+        while (!open.empty()) {
+            const std::string next = open.back();
+            open.pop_back();
+            for (const std::string &to : known[next])
+                if (to != next && reached.insert(to).second)
+                    open.push_back(to);
+        }
+        return reached;
+    };
+    ASSERT_GT(known.size(), 100U);
+    for (const fs::path &file : sources())
+        EXPECT_EQ(whatIsReachedFrom(partOf(file)).count(partOf(file)), 0U) << file << " is part of a circle";
+}
+
 // The reading of rooms itself, on files whose room is beyond doubt.
 TEST(IncludeTable, roomsAreToldApart)
 {
