@@ -51,7 +51,9 @@ public:
         else if (word == "unmap")
             xcb_unmap_window(m_connection, m_top);
         else if (word == "takefocus")
-            xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_top, XCB_CURRENT_TIME);
+            xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_top, first);  // 0 is the current time
+        else if (word == "leavefocus")
+            xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, XCB_INPUT_FOCUS_POINTER_ROOT, XCB_CURRENT_TIME);
         else if (word == "destroy")
             xcb_destroy_window(m_connection, m_top);
         sync();

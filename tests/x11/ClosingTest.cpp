@@ -100,6 +100,14 @@ TEST(ChosenPlatform, isKept)
     EXPECT_EQ(probe.waitForEnd(), 2);
 }
 
+// A host's window takes in a window of X11 alone, whatever is exported for all programs of a desktop.
+TEST(ChosenPlatform, isX11WhereWaylandIsExportedAndThereIsADisplay)
+{
+    Process probe({CLOSING_PROBE}, {{"QT_QPA_PLATFORM", "wayland"}, {"DISPLAY", ":98765"}}, Process::Errors::Joined);
+    EXPECT_EQ(probe.readAll(), "PenwrightPE: cannot open the X display \":98765\".\n");
+    EXPECT_EQ(probe.waitForEnd(), 1);
+}
+
 }  // namespace
 }  // namespace penwright::test
 

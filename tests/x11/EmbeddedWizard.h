@@ -135,6 +135,20 @@ protected:
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get(), 10000));
     }
 
+    /// Moves the pointer to a place of the host's window where the wizard is not.
+    void pointBeside()
+    {
+        const Rectangle frame =
+            display.geometryOf(hasManager() ? display.parentOf(host.topWindow()) : host.topWindow());
+        xdotool({"mousemove", std::to_string(frame.x + 60), std::to_string(frame.y + frame.height - 40)});
+    }
+
+    void clickBeside()
+    {
+        pointBeside();
+        xdotool({"click", "1"});
+    }
+
     /// Lets all that the display told of the window, and what the program made of it, go by.
     void settle()
     {

@@ -40,6 +40,24 @@ protected:
     QWidget another;
 };
 
+/// When a widget was pressed last, in the display's time.
+class PressTime : public QObject {
+public:
+    explicit PressTime(QWidget &widget) { widget.installEventFilter(this); }
+    quint64 time() const { return m_time; }
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::MouseButtonPress)
+            m_time = static_cast<QMouseEvent *>(event)->timestamp();
+        return false;
+    }
+
+private:
+    quint64 m_time = 0;
+};
+
 class NestedHost : public EmbeddedWizard {
 protected:
     NestedHost() : EmbeddedWizard(HostProcess::Shape::Nested) {}
@@ -111,6 +129,73 @@ TEST_F(Focus, isTakenOnceTheHostIsOnTheScreen)
     host.obey("map");
     ASSERT_TRUE(spinUntil([this] { return display.focus() == id(); }));
     typeAndExpect(*first, "abc");
+}
+
+TEST_F(Focus, isLetGoWhenTheRestOfTheHostIsPressed)
+{
+    embedAndShow();
+    clickBeside();
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+    movePointerAway();
+    xdotool({"type", "7"});
+    settle();
+    EXPECT_EQ(first->text().toStdString(), "");
+    clickAt(*first);
+    typeAndExpect(*first, "12");
+}
+
+TEST_F(NestedHost, isLetGoWhenTheRestOfTheTopLevelWindowIsPressed)
+{
+    embedAndShow();
+    clickBeside();
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+}
+
+TEST_F(Focus, isKeptWhenTheDesktopIsPressed)
+{
+    embedAndShow();
+    movePointerAway();
+    if (!hasManager())  // which takes the keyboard to itself
+        xdotool({"click", "1"});
+    settle();
+    EXPECT_EQ(display.focus(), id());
+}
+
+TEST_F(Focus, staysWithADialogWhileTheHostIsPressed)
+{
+    embedAndShow();
+    whenDialogIsUp([this](QDialog &box) {
+        ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow() && display.focus() == idOf(box); }));
+        box.move(900, 600);
+        clickBeside();
+        settle();
+        EXPECT_TRUE(spinUntil([&] { return display.focus() == idOf(box); }));
+        box.reject();
+    });
+    dialogs.show(kQuestion);
+}
+
+TEST_F(Focus, goesToTheHostAtTheEnd)
+{
+    embedAndShow();
+    embedding.giveBack(0);
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+}
+
+TEST_F(NestedHost, theFocusGoesToTheTopLevelWindowAtTheEnd)
+{
+    embedAndShow();
+    embedding.giveBack(0);
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+}
+
+TEST_F(Focus, ofAnotherWindowIsLeftAtTheEnd)
+{
+    embedAndShow();
+    openAnotherWindow();
+    embedding.giveBack(0);
+    settle();
+    EXPECT_EQ(display.focus(), idOf(another));
 }
 
 TEST_F(Focus, comesBackAfterAMessageBox)
@@ -269,8 +354,7 @@ TEST_F(WithManager, aDialogStaysAboveAClickedHost)
     embedAndShow();
     whenDialogIsUp([this](QDialog &box) {
         ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow(); }));
-        const Rectangle frame = display.geometryOf(display.parentOf(host.topWindow()));
-        xdotool({"mousemove", std::to_string(frame.x + 60), std::to_string(frame.y + frame.height - 40), "click", "1"});
+        clickBeside();
         ASSERT_TRUE(spinUntil([&] { return display.focus() == idOf(box); }));
         EXPECT_GT(stackingOf(idOf(box)), stackingOf(host.topWindow()));
         box.reject();
@@ -281,8 +365,7 @@ TEST_F(WithManager, aDialogStaysAboveAClickedHost)
 TEST_F(WithManager, aClickOnTheHostTakesTheFocusAway)
 {
     embedAndShow();
-    const Rectangle frame = display.geometryOf(display.parentOf(host.topWindow()));
-    xdotool({"mousemove", std::to_string(frame.x + 60), std::to_string(frame.y + frame.height - 40), "click", "1"});
+    clickBeside();
     EXPECT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
 }
 
@@ -329,6 +412,58 @@ TEST_F(WithManagerAndAnotherProgram, theFocusStaysWithAHostThatHadIt)
     goAndComeBack();
     ASSERT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
     settle();
+    EXPECT_EQ(display.focus(), host.topWindow());
+}
+
+// As window managers do that let go of another program's window before they turn to the host's.
+TEST_F(AnotherProgram, theFocusComesBackThoughThePointerIsOverTheHost)
+{
+    embedAndShow();
+    other.obey("move 700 720");
+    pointBeside();
+    other.obey("takefocus");
+    ASSERT_TRUE(spinUntil([this] { return !window->isActiveWindow(); }));
+    other.obey("leavefocus");
+    settle();
+    host.obey("takefocus");
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+}
+
+TEST_F(WithManagerAndAnotherProgram, theEndOfADialogTakesNothingFromAnotherProgram)
+{
+    embedAndShow();
+    whenDialogIsUp([this](QDialog &box) {
+        ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow() && display.focus() == idOf(box); }));
+        activate(other);
+        ASSERT_TRUE(spinUntil([this] { return display.focus() == other.topWindow(); }));
+        box.reject();
+    });
+    dialogs.show(kQuestion);
+    settle();
+    EXPECT_EQ(display.focus(), other.topWindow());
+}
+
+// As a window manager does that is ignored, and leaves the keyboard where it is.
+TEST_F(Focus, goesToADialogThatNobodyGivesItTo)
+{
+    embedAndShow();
+    whenDialogIsUp([this](QDialog &box) {
+        x11::focus(id());
+        EXPECT_TRUE(spinUntil([&] { return display.focus() == idOf(box); }));
+        box.reject();
+    });
+    dialogs.show(kQuestion);
+}
+
+// What a window manager does about a press, with the time of that press, is not ignored as older.
+TEST_F(Focus, isTakenAtTheTimeOfThePress)
+{
+    embedAndShow();
+    giveFocusToHost();
+    PressTime pressed(*second);
+    clickAt(*second);
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+    host.obey("takefocus " + std::to_string(pressed.time()));
     EXPECT_EQ(display.focus(), host.topWindow());
 }
 

@@ -12,7 +12,9 @@ namespace penwright {
 
 Display::Display()
 {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+    const QByteArray asked = qgetenv("QT_QPA_PLATFORM");
+    const bool isWayland = asked.startsWith("wayland") && !qEnvironmentVariableIsEmpty("DISPLAY");
+    if (asked.isEmpty() || isWayland)
         qputenv("QT_QPA_PLATFORM", "xcb");
     installMessageFilter();
     if (!qgetenv("QT_QPA_PLATFORM").startsWith("xcb"))

@@ -4,8 +4,9 @@ struct xcb_connection_t;
 
 namespace penwright {
 
-/// To be made before QApplication, and to outlive it. Chooses Qt's `xcb` platform unless QT_QPA_PLATFORM is set,
-/// because only X11 lets a window live inside another process's window, and sees to it that a platform that cannot be
+/// To be made before QApplication, and to outlive it. Chooses Qt's `xcb` platform unless QT_QPA_PLATFORM names another,
+/// because only X11 lets a window live inside another process's window; so a Wayland platform, which many export for
+/// all their programs, counts only where there is no X display. It sees to it that a platform that cannot be
 /// loaded ends the program with one line on stderr and status 1 instead of an abort. It stays connected: a display
 /// whose only client goes may start anew and refuse the next one for a moment.
 class Display {

@@ -124,6 +124,8 @@ void X11Embedding::giveBack(std::uint32_t parent)
 {
     if (!d->window)
         return;
+    if (d->focus && !d->isHostGone)
+        d->focus->letGo();
     d->window->hide();
     if (d->host && !d->isHostGone)
         SetParent(x11::exists(parent) ? parent : 0);

@@ -13,6 +13,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// How long a window manager is given to turn to a new dialog.
+constexpr auto kManagersTime = 200ms;
+
 void activateModal()
 {
     QWidget *modal = QApplication::activeModalWidget();
@@ -37,7 +40,8 @@ QWindow *ForeignWindows::of(x11::WindowId window)
     return foreign.get();
 }
 
-X11Focus::X11Focus(QWidget &window, ForeignWindows &foreign) : m_window(&window), m_foreign(foreign)
+X11Focus::X11Focus(QWidget &window, ForeignWindows &foreign)
+    : m_window(&window), m_foreign(foreign), m_presses([this] { onPress(); })
 {
     qApp->installEventFilter(this);
     qApp->installNativeEventFilter(this);
@@ -67,10 +71,54 @@ void X11Focus::take()
     // Taken again it would count as taken later than a key that is on its way, and what that key opens would not get
     // it.
     if (x11::focused() != self)
-        x11::focus(self);
+        takeInTime(self);
     // Where the X focus never left the wizard, the display reports nothing that would tell the toolkit so.
     if (!m_takeWhenExposed)
         m_window->activateWindow();
+}
+
+// With the time of the press that asked for it: after a later one, what a window manager does about that press or an
+// earlier one would be ignored. The display ignores a request that is itself too old, as one is where nobody pressed
+// anything.
+void X11Focus::takeInTime(x11::WindowId self)
+{
+    const x11::Time time = x11::laterOf(m_presses.time(), x11::userTimeOf(m_hostTop));
+    if (time != x11::kNoTime)
+        x11::focus(self, time);
+    if (x11::focused() != self)
+        x11::focus(self);
+}
+
+void X11Focus::takeUnlessElsewhere()
+{
+    if (!hasAnotherProgramTakenIt())
+        take();
+}
+
+bool X11Focus::hasIt() const
+{
+    return m_host && m_window && x11::focused() == static_cast<x11::WindowId>(m_window->winId());
+}
+
+bool X11Focus::hasAnotherProgramTakenIt() const
+{
+    const x11::WindowId holder = x11::focusedManaged();
+    return holder != 0 && holder != m_hostTop && !QWidget::find(holder);
+}
+
+void X11Focus::letGo()
+{
+    if (hasIt())
+        x11::focus(m_hostTop, x11::laterOf(m_presses.time(), x11::userTimeOf(m_hostTop)));
+    if (hasIt())
+        x11::focus(m_hostTop);
+}
+
+// A host that does not see to it itself would have its user's next keys go to the wizard.
+void X11Focus::onPress()
+{
+    if (hasIt() && x11::isPointerOver(m_hostTop, static_cast<x11::WindowId>(m_window->winId())))
+        letGo();
 }
 
 bool X11Focus::eventFilter(QObject *object, QEvent *event)
@@ -111,11 +159,14 @@ void X11Focus::onOtherWindow(QWidget &other, QEvent::Type type)
 
 void X11Focus::onDialog(QWidget &dialog, QEvent::Type type)
 {
-    if (type == QEvent::Show) {
-        dialog.windowHandle()->setTransientParent(m_foreign.of(x11::topLevelOf(m_host)));
-        return;
-    }
-    takeBack();
+    if (type == QEvent::Hide)
+        return takeBack();
+    dialog.windowHandle()->setTransientParent(m_foreign.of(x11::topLevelOf(m_host)));
+    // A window manager that counts by its own last press may find itself ignored.
+    QTimer::singleShot(kManagersTime, &dialog, [this, &dialog] {
+        if (dialog.isVisible() && hasIt())
+            x11::focus(static_cast<x11::WindowId>(dialog.winId()));
+    });
 }
 
 void X11Focus::takeBack()
@@ -123,7 +174,7 @@ void X11Focus::takeBack()
     m_contested.setRemainingTime(2s);
     QTimer::singleShot(0, this, [this] {
         activateModal();
-        take();
+        takeUnlessElsewhere();
     });
 }
 
@@ -148,8 +199,10 @@ bool X11Focus::nativeEventFilter(const QByteArray &eventType, void *message, qin
     const auto *event = static_cast<const xcb_focus_in_event_t *>(message);
     const int type = event->response_type & 0x7f;
     const bool isFocus = type == XCB_FOCUS_IN || type == XCB_FOCUS_OUT;
-    if (isFocus && event->event == m_hostTop && event->mode != XCB_NOTIFY_MODE_GRAB &&
-        event->mode != XCB_NOTIFY_MODE_UNGRAB)
+    const bool isOfGrab = event->mode == XCB_NOTIFY_MODE_GRAB || event->mode == XCB_NOTIFY_MODE_UNGRAB;
+    // Where no window has the focus, those under the pointer are told that keys come to them: nobody gave it to them.
+    const bool isOfPointer = event->detail == XCB_NOTIFY_DETAIL_POINTER;
+    if (isFocus && event->event == m_hostTop && !isOfGrab && !isOfPointer)
         onHostFocus(type == XCB_FOCUS_IN, event->detail);
     return false;
 }
@@ -160,11 +213,11 @@ void X11Focus::onHostFocus(bool gets, int detail)
     const bool isBetweenBoth = detail == XCB_NOTIFY_DETAIL_INFERIOR;
     const bool isHostsOwn = detail == XCB_NOTIFY_DETAIL_NONLINEAR || detail == XCB_NOTIFY_DETAIL_ANCESTOR;
     if (gets ? !isBetweenBoth && !isHostsOwn : isBetweenBoth)  // something in the host's window gets it
-        m_heldIt = m_window && x11::focused() == static_cast<x11::WindowId>(m_window->winId());
+        m_heldIt = hasIt();
     else if (gets ? isBetweenBoth : isHostsOwn)  // the host takes it from the wizard, or loses what was its own
         m_heldIt = false;
     else if (gets && m_heldIt && !x11::isButtonHeld())
-        QTimer::singleShot(0, this, &X11Focus::take);
+        QTimer::singleShot(0, this, &X11Focus::takeUnlessElsewhere);
 }
 
 // A user who clicks on the host means it, and still holds the button when the focus goes.

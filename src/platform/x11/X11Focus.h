@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 
+#include "platform/x11/PressWatch.h"
 #include "platform/x11/X11Window.h"
 
 namespace penwright {
@@ -30,7 +31,8 @@ private:
 /// Keyboard focus, stacking and palette of a window that is embedded in another process's. For such a window the
 /// toolkit only believes that it is active: the X focus is moved here, on a mouse press, when the window is shown, when
 /// a dialog or the help window ends, and when the host's window gets the focus back from another program that got it
-/// from the wizard. Dialogs get the host's top-level window as their transient parent, so that they stay above it.
+/// from the wizard. A press on the rest of the host's window, and the wizard's end, give it to the host. Dialogs get
+/// the host's top-level window as their transient parent, so that they stay above it.
 class X11Focus : public QObject, public QAbstractNativeEventFilter {
 public:
     X11Focus(QWidget &window, ForeignWindows &foreign);
@@ -44,6 +46,9 @@ public:
     /// takes it once it is.
     void take();
 
+    /// Gives the focus to the host's window if the wizard has it.
+    void letGo();
+
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
@@ -52,12 +57,18 @@ private:
     void onOtherWindow(QWidget &other, QEvent::Type type);
     void onDialog(QWidget &dialog, QEvent::Type type);
     void takeBack();
+    void takeInTime(x11::WindowId self);
+    void takeUnlessElsewhere();
+    bool hasIt() const;
+    bool hasAnotherProgramTakenIt() const;
+    void onPress();
     void onHostFocus(bool gets, int detail);
     void onFocusWindow(QWindow *focused);
     bool hasHostTakenIt() const;
 
     QPointer<QWidget> m_window;  ///< events still pass through here while it is being destroyed
     ForeignWindows &m_foreign;
+    PressWatch m_presses;
     x11::WindowId m_host = 0;
     x11::WindowId m_hostTop = 0;
     bool m_heldIt = false;            ///< whether the wizard, not the host itself, had the focus last of the two

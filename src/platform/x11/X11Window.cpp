@@ -7,15 +7,10 @@
 #include <xcb/xcb.h>
 
 #include "platform/Freed.h"
+#include "platform/x11/Connection.h"
 
 namespace penwright::x11 {
 namespace {
-
-xcb_connection_t *connection()
-{
-    const auto *native = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
-    return native ? native->connection() : nullptr;
-}
 
 Freed<xcb_query_tree_reply_t> treeOf(WindowId window)
 {
@@ -38,11 +33,18 @@ bool hasProperty(WindowId window, xcb_atom_t property)
     return reply && reply->type != XCB_ATOM_NONE;
 }
 
-// A window may be gone before a request about it arrives; the toolkit would print the error.
-void sendIgnoringErrors(xcb_void_cookie_t cookie)
+/// A number that a property holds; 0 where there is none.
+std::uint32_t numberIn(WindowId window, const char *property)
 {
-    xcb_discard_reply(connection(), cookie.sequence);
-    xcb_flush(connection());
+    const xcb_atom_t name = atom(property);
+    if (name == XCB_ATOM_NONE)
+        return 0;
+    const auto cookie = xcb_get_property(connection(), 0, window, name, XCB_GET_PROPERTY_TYPE_ANY, 0, 1);
+    const Freed<xcb_get_property_reply_t> reply(xcb_get_property_reply(connection(), cookie, nullptr));
+    std::uint32_t number = 0;
+    if (reply && reply->format == 32 && xcb_get_property_value_length(reply.get()) == sizeof number)
+        std::memcpy(&number, xcb_get_property_value(reply.get()), sizeof number);
+    return number;
 }
 
 }  // namespace
@@ -69,18 +71,30 @@ bool isRoot(WindowId window)
     return tree && tree->root == window;
 }
 
+namespace {
+
+struct TopLevel {
+    WindowId window = 0;
+    bool isManaged = false;
+};
+
+TopLevel climbFrom(WindowId window)
+{
+    const xcb_atom_t managed = atom("WM_STATE");
+    TopLevel top{window};
+    for (WindowId climbed = window; climbed != 0 && !isRoot(climbed); climbed = parentOf(climbed)) {
+        top.window = climbed;
+        if (managed != XCB_ATOM_NONE && hasProperty(climbed, managed))
+            return {climbed, true};
+    }
+    return top;
+}
+
+}  // namespace
+
 WindowId topLevelOf(WindowId window)
 {
-    if (!available())
-        return 0;
-    const xcb_atom_t managed = atom("WM_STATE");
-    WindowId belowRoot = window;
-    for (WindowId climbed = window; climbed != 0 && !isRoot(climbed); climbed = parentOf(climbed)) {
-        if (managed != XCB_ATOM_NONE && hasProperty(climbed, managed))
-            return climbed;
-        belowRoot = climbed;
-    }
-    return belowRoot;
+    return available() ? climbFrom(window).window : 0;
 }
 
 bool watch(WindowId window)
@@ -132,12 +146,12 @@ bool isViewable(WindowId window)
     return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
-void focus(WindowId window)
+void focus(WindowId window, Time time)
 {
     if (!available())
         return;
-    const auto cookie = xcb_set_input_focus_checked(connection(), XCB_INPUT_FOCUS_PARENT, window, XCB_CURRENT_TIME);
-    sendIgnoringErrors(cookie);
+    const xcb_timestamp_t asked = time == kNoTime ? XCB_CURRENT_TIME : time;
+    sendIgnoringErrors(xcb_set_input_focus_checked(connection(), XCB_INPUT_FOCUS_PARENT, window, asked));
 }
 
 WindowId focused()
@@ -147,6 +161,37 @@ WindowId focused()
         return 0;
     const Freed<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(c, xcb_get_input_focus(c), nullptr));
     return reply && reply->focus != XCB_INPUT_FOCUS_POINTER_ROOT ? reply->focus : 0;
+}
+
+WindowId focusedManaged()
+{
+    const WindowId holder = focused();
+    const TopLevel top = holder ? climbFrom(holder) : TopLevel{};
+    return top.isManaged ? top.window : 0;
+}
+
+Time userTimeOf(WindowId topLevel)
+{
+    if (!available())
+        return kNoTime;
+    // Some toolkits keep it apart, so that the window manager is not woken by every change of the window's own.
+    const WindowId keeper = numberIn(topLevel, "_NET_WM_USER_TIME_WINDOW");
+    return numberIn(keeper ? keeper : topLevel, "_NET_WM_USER_TIME");
+}
+
+bool isPointerOver(WindowId window, WindowId but)
+{
+    xcb_connection_t *c = connection();
+    if (!c)
+        return false;
+    bool isOver = false;
+    WindowId deeper = xcb_setup_roots_iterator(xcb_get_setup(c)).data->root;
+    while (deeper != 0 && deeper != but) {
+        isOver = isOver || deeper == window;
+        const Freed<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(c, xcb_query_pointer(c, deeper), nullptr));
+        deeper = reply ? reply->child : 0;
+    }
+    return isOver && deeper != but;
 }
 
 bool isButtonHeld()
