@@ -5,6 +5,12 @@
 
 namespace penwright {
 
+/// Whether Tab stops at a widget of `page`.
+inline bool isTabStop(const QWidget &widget, const QWidget &page)
+{
+    return (widget.focusPolicy() & Qt::TabFocus) && widget.isEnabled() && widget.isVisibleTo(&page);
+}
+
 /// Gives a field the focus by other means than Tab, with its whole text selected, so that a key replaces it.
 inline void focusField(QWidget &field)
 {

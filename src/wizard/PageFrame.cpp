@@ -56,11 +56,6 @@ QWidget *makeLine()
     return line;
 }
 
-bool takesFocus(const QWidget &widget, const QWidget &page)
-{
-    return (widget.focusPolicy() & Qt::TabFocus) && widget.isEnabled() && widget.isVisibleTo(&page);
-}
-
 }  // namespace
 
 PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_context(context)
@@ -106,7 +101,7 @@ void PageFrame::showNote(const QString &text)
 void PageFrame::focusFirstField()
 {
     QWidget *widget = m_formArea->nextInFocusChain();
-    while (widget != m_formArea && !(m_formArea->isAncestorOf(widget) && takesFocus(*widget, *this)))
+    while (widget != m_formArea && !(m_formArea->isAncestorOf(widget) && isTabStop(*widget, *this)))
         widget = widget->nextInFocusChain();
     if (widget == m_formArea)
         widget = m_next;
@@ -116,7 +111,7 @@ void PageFrame::focusFirstField()
 void PageFrame::focusLastField()
 {
     QWidget *field = fieldOnReturn(m_lastField);
-    if (field && takesFocus(*field, *this))
+    if (field && isTabStop(*field, *this))
         goToField(*field);
     else
         focusFirstField();

@@ -12,6 +12,7 @@
 #include <QTimer>
 #include <utility>
 
+#include "controls/FieldFocus.h"
 #include "controls/ScreenReader.h"
 #include "hostlink/HostPost.h"
 #include "platform/Dialogs.h"
@@ -237,6 +238,21 @@ void WizardWindow::keyPressEvent(QKeyEvent *event)
         guarded([this] { ShowHelp(kPages[static_cast<std::size_t>(m_shownPage)].helpId); });
     else
         QWidget::keyPressEvent(event);
+}
+
+bool WizardWindow::focusNextPrevChild(bool next)
+{
+    QWidget *const from = focusWidget() ? focusWidget() : this;
+    QWidget *field = from;
+    bool wraps = false;
+    do {
+        field = next ? field->nextInFocusChain() : field->previousInFocusChain();
+        wraps = wraps || field == this;
+    } while (field != from && !isTabStop(*field, *this));
+    if (!wraps)
+        return QWidget::focusNextPrevChild(next);
+    field->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
 }
 
 void WizardWindow::changeEvent(QEvent *event)

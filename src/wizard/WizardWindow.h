@@ -94,6 +94,10 @@ protected:
 
     void changeEvent(QEvent *event) override;
 
+    /// From the last field to the first and back, also in a host's window, which the toolkit would hand the focus on
+    /// to.
+    bool focusNextPrevChild(bool next) override;
+
     /// The window's own close button asks the cancel question.
     void closeEvent(QCloseEvent *event) override;
 
