@@ -13,6 +13,7 @@
 
 #include "hostbench/CommandBar.h"
 #include "hostbench/FileView.h"
+#include "hostbench/HostKeyboard.h"
 #include "hostbench/HostStyle.h"
 #include "hostbench/LogPanel.h"
 #include "hostlib/RecordBridge.h"
@@ -56,6 +57,8 @@ HostWindow::HostWindow(HostStore &store, QString toolProgram, QWidget *parent)
     layout->addWidget(m_bar);
     layout->addWidget(makeCentre(), 1);
     setCentralWidget(whole);
+    m_keyboard = new HostKeyboard(*this);
+    m_tabs->tabBar()->installEventFilter(this);
     followPalette();
     connectButtons();
     enableButtons();
@@ -208,6 +211,7 @@ void HostWindow::removeTool(ToolTab *tab)
 {
     emit toolEnded(tab);
     m_tools.removeOne(tab);
+    m_keyboard->takeFrom(tab->area().windowNumber());
     m_tabs->removeTab(m_tabs->indexOf(tab));
     tab->deleteLater();
     enableButtons();
@@ -222,6 +226,16 @@ bool HostWindow::event(QEvent *event)
     if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange)
         followPalette();
     return isDone;
+}
+
+bool HostWindow::eventFilter(QObject *object, QEvent *event)
+{
+    // Who has clicked on a tool's tab types into its wizard next. At the release: the wizard lets go at a press
+    // outside.
+    if (object == m_tabs->tabBar() && event->type() == QEvent::MouseButtonRelease)
+        if (ToolTab *tab = shownTool())
+            HostKeyboard::giveToWizardIn(tab->area().windowNumber());
+    return QMainWindow::eventFilter(object, event);
 }
 
 void HostWindow::followPalette()

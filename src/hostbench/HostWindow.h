@@ -12,6 +12,7 @@ namespace penwright {
 
 class CommandBar;
 class FileView;
+class HostKeyboard;
 class LogPanel;
 
 /// The stand-in host's window: the files it holds, text and picture of the one selected, a tab for each tool that runs,
@@ -49,6 +50,7 @@ signals:
 
 protected:
     bool event(QEvent *event) override;
+    bool eventFilter(QObject *object, QEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
@@ -78,6 +80,7 @@ private:
     bool m_wasNarrow = false;
     bool m_isClosing = false;
 
+    HostKeyboard *m_keyboard = nullptr;
     FilePanel *m_panel = nullptr;
     QTabWidget *m_tabs = nullptr;
     FileView *m_view = nullptr;

@@ -1,6 +1,7 @@
 #include <xcb/xcb.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <memory>
 #include <QApplication>
@@ -60,6 +61,25 @@ std::shared_ptr<xcb_connection_t> openDisplay()
     return {xcb_connect(nullptr, nullptr), xcb_disconnect};
 }
 
+// Windows of other programs can be taken in on X11 alone, whatever is exported for all programs of a desktop.
+void choosePlatform()
+{
+    const QByteArray asked = qgetenv("QT_QPA_PLATFORM");
+    if (asked.isEmpty() || (asked.startsWith("wayland") && !qEnvironmentVariableIsEmpty("DISPLAY")))
+        qputenv("QT_QPA_PLATFORM", "xcb");
+}
+
+// The toolkit aborts where a platform cannot be loaded.
+void failInsteadOfAborting(QtMsgType type, const QMessageLogContext &, const QString &text)
+{
+    if (type != QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+        return;
+    }
+    fail(text.section('\n', 0, 0));
+    std::_Exit(1);
+}
+
 int walk(penwright::HostWindow &window, const QString &folder)
 {
     if (QGuiApplication::platformName() != "xcb")
@@ -96,8 +116,8 @@ int main(int argc, char **argv)
         std::fputs(kUsage, stderr);
         return 1;
     }
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "xcb");
+    choosePlatform();
+    qInstallMessageHandler(failInsteadOfAborting);
     const auto display = openDisplay();
     if (display && xcb_connection_has_error(display.get()))
         return fail(QStringLiteral("cannot open the X display \"%1\"").arg(qEnvironmentVariable("DISPLAY")));

@@ -208,6 +208,32 @@ TEST(HostBench, withoutADisplayItSaysSo)
     EXPECT_FALSE(fs::exists(home.path() / "left"));
 }
 
+/// The environment with another platform asked for.
+Process::Environment onPlatform(const std::string &platform, Process::Environment rest)
+{
+    for (auto &[name, value] : rest)
+        if (name == "QT_QPA_PLATFORM")
+            value = platform;
+    return rest;
+}
+
+TEST(HostBench, runsOnX11WhereWaylandIsExported)
+{
+    const test::TempFolder home;
+    Process host({HOSTBENCH}, onPlatform("wayland", environment(":no-display", home.path())), Process::Errors::Joined);
+    EXPECT_EQ(host.readAll(), "hostbench: cannot open the X display \":no-display\"\n");
+    EXPECT_EQ(host.waitForEnd(), 1);
+}
+
+TEST(HostBench, aPlatformThatCannotBeLoadedIsSaidWithoutAnAbort)
+{
+    const test::TempFolder home;
+    Process host({HOSTBENCH}, onPlatform("nonesuch", environment(":no-display", home.path())), Process::Errors::Joined);
+    const std::string said = host.readAll();
+    EXPECT_NE(said.find("hostbench: This application failed to start"), std::string::npos) << said;
+    EXPECT_EQ(host.waitForEnd(), 1);
+}
+
 TEST(HostBench, unknownOptionsGetTheUsage)
 {
     const test::TempFolder home;

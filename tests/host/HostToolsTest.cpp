@@ -5,6 +5,8 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QPushButton>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
 #include <QTreeWidget>
 
@@ -12,12 +14,14 @@
 #include "hostbench/LuminaireTyper.h"
 #include "hostbench/SampleLuminaire.h"
 #include "hostbench/XDisplay.h"
+#include "support/Process.h"
 #include "support/Xvfb.h"
 
 namespace penwright {
 namespace {
 
 const QString kFirstPage = "New Photometric file: (1 of 6) General Info";
+const QString kWarnings = "Data incomplete!";
 const QString kLastPage = "New Photometric file: (6 of 6) Complete!";
 
 class HostToolsTest : public testing::Test {
@@ -44,6 +48,24 @@ protected:
         ToolTab *tab = m_window.startTool();
         EXPECT_TRUE(waitFor([&] { return m_display.focusedTitle() == kFirstPage && shows(tab, kFirstPage); }));
         return tab;
+    }
+
+    /// Clicks as a user does, through the display.
+    static void clickAt(const QWidget &widget, const QPoint &place)
+    {
+        const QPoint point = (QPointF(widget.mapToGlobal(place)) * widget.devicePixelRatioF()).toPoint();
+        test::Process click(
+            {"xdotool", "mousemove", std::to_string(point.x()), std::to_string(point.y()), "click", "1"});
+        EXPECT_TRUE(waitFor([&] { return click.hasEnded(); }));
+    }
+
+    /// On the host's own ground, left of all that it shows.
+    void clickOnTheHost() { clickAt(*m_window.centralWidget(), {4, m_window.centralWidget()->height() / 2}); }
+
+    void clickOnTheLastTab()
+    {
+        const QTabBar &bar = *m_window.findChild<QTabWidget *>("tabs")->tabBar();
+        clickAt(bar, bar.tabRect(bar.count() - 1).center());
     }
 
     /// Gives page 1 of the wizard that has the focus values that pass its checks; its first shape is a point.
@@ -119,6 +141,53 @@ TEST_F(HostToolsTest, twoToolsRunSideBySideAndEndByThemselves)
     EXPECT_TRUE(shows(one, kFirstPage));
     one->run().tool().sendClose();
     EXPECT_TRUE(waitForToolCount(0));
+}
+
+TEST_F(HostToolsTest, aPressOnItsOwnControlsTakesTheKeyboard)
+{
+    startAndShow();
+    clickOnTheHost();
+    EXPECT_TRUE(waitFor([&] { return m_display.focusedTitle() == m_window.windowTitle(); }));
+}
+
+TEST_F(HostToolsTest, aClickOnAToolsTabGivesItsWizardTheKeyboard)
+{
+    startAndShow();
+    clickOnTheHost();
+    ASSERT_TRUE(waitFor([&] { return m_display.focusedTitle() == m_window.windowTitle(); }));
+    clickOnTheLastTab();
+    EXPECT_TRUE(waitFor([&] { return m_display.focusedTitle() == kFirstPage; }));
+}
+
+TEST_F(HostToolsTest, tabGoesRoundInTheEmbeddedWizard)
+{
+    startAndShow();
+    m_display.pressKey(kKeyTab, kKeyShift);
+    m_display.pressKey(kKeySpace);  // a blank in the first field, the press of a button
+    EXPECT_TRUE(waitFor([&] { return m_display.focusedTitle() == kWarnings; }));
+    m_display.pressKey(kKeyReturn);
+    ASSERT_TRUE(waitFor([&] { return m_display.focusedTitle() == kFirstPage; }));
+    m_display.pressKey(kKeyTab, kKeyShift);
+    m_display.pressKey(kKeyTab);
+    m_display.pressKey('7');
+    m_display.pressKey('n', kKeyAlt);
+    EXPECT_TRUE(waitFor([&] { return m_display.focusedTitle() == kWarnings; }));
+}
+
+TEST_F(HostToolsTest, theKeyboardComesBackWhenAToolEndsAsked)
+{
+    ToolTab *tab = startAndShow();
+    tab->run().tool().sendClose();
+    ASSERT_TRUE(waitFor([&] { return m_window.toolCount() == 0; }));
+    EXPECT_TRUE(waitFor([&] { return m_display.focusedTitle() == m_window.windowTitle(); }));
+}
+
+TEST_F(HostToolsTest, theKeyboardComesBackWhenAToolIsKilled)
+{
+    ToolTab *tab = startAndShow();
+    tab->run().kill();
+    ASSERT_TRUE(waitFor([&] { return m_window.toolCount() == 0; }));
+    EXPECT_TRUE(waitFor([&] { return m_display.focusedTitle() == m_window.windowTitle(); }));
 }
 
 TEST_F(HostToolsTest, anUnnamedFileComesBackAndIsHeld)
