@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <initializer_list>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -74,6 +75,15 @@ public:
 
     T &operator()(int row, int column) { return m_elements[place(row, column)]; }
     const T &operator()(int row, int column) const { return m_elements[place(row, column)]; }
+
+    /// A row's elements in the order of the columns, for those who walk along them; error 9 for a row that is not
+    /// there.
+    std::span<const T> row(int row) const
+    {
+        const std::size_t count = static_cast<std::size_t>(m_columns);
+        return count == 0 && row >= 1 && row <= m_rows ? std::span<const T>()
+                                                       : std::span(&m_elements[place(row, 1)], count);
+    }
 
     /// Changes both sizes and sets every element to its default; a negative size raises error 9.
     void reset(int rows, int columns)

@@ -47,6 +47,18 @@ TEST(OneBasedTable, countsBothSubscriptsFromOne)
     EXPECT_EQ(errorOf([&] { table.reset(-1, 2); }), 9);
 }
 
+TEST(OneBasedTable, handsOutARow)
+{
+    OneBasedTable<int> table(2, 3);
+    table(2, 1) = 4;
+    table(2, 3) = 6;
+    const auto row = table.row(2);
+    EXPECT_EQ(std::vector<int>(row.begin(), row.end()), (std::vector<int>{4, 0, 6}));
+    EXPECT_TRUE(OneBasedTable<int>(2, 0).row(2).empty());
+    for (const int missing : {0, 3})
+        EXPECT_EQ(errorOf([&] { table.row(missing); }), 9) << missing;
+}
+
 TEST(Record, copiesAreByValue)
 {
     PhotometricRecord first;
