@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
 
 #include "plot/PlotRuns.h"
 #include "plot/PlotSymmetry.h"
+#include "review/Profile.h"
 #include "review/TableFault.h"
 
 namespace penwright {
@@ -12,19 +14,6 @@ namespace {
 
 constexpr double kBeamShare = 0.5;
 constexpr double kFieldShare = 0.1;
-
-/// A value of a plane: where it points to, degrees along the plane, and the index that it has in its list.
-struct ProfilePoint {
-    double degrees = 0;
-    double candela = 0;
-    int index = 0;
-};
-
-/// Neighbours along a plane, in rising directions.
-struct Profile {
-    std::vector<ProfilePoint> points;
-    bool isClosed = false;  ///< once around: the last point is the first one again
-};
 
 /// Where an angle stands in a rising list: two neighbours and the share of the way between them.
 struct Between {
@@ -58,93 +47,6 @@ std::vector<ProfilePoint> halfPlane(const PhotometricRecord &record, const Betwe
     return points;
 }
 
-double largestOf(const std::vector<ProfilePoint> &points)
-{
-    double largest = 0;
-    for (const ProfilePoint &point : points)
-        largest = std::max(largest, point.candela);
-    return largest;
-}
-
-/// Both halves of a type C plane as one run of directions: through 0 where both have it, else through 180.
-Profile joined(std::vector<ProfilePoint> right, std::vector<ProfilePoint> left)
-{
-    const bool meetBelow = right.front().degrees == 0;
-    const bool meetAbove = right.back().degrees == 180;
-    std::reverse(left.begin(), left.end());
-    Profile profile;
-    if (meetBelow) {
-        profile.isClosed = meetAbove;
-        profile.points = std::move(left);
-        profile.points.insert(profile.points.end(), right.begin() + 1, right.end());
-    } else if (meetAbove) {
-        profile.points = std::move(right);
-        for (auto point = left.begin() + 1; point != left.end(); ++point)
-            profile.points.push_back({point->degrees + 360, point->candela, point->index});
-    } else {
-        profile.points = largestOf(left) > largestOf(right) ? std::move(left) : std::move(right);
-    }
-    return profile;
-}
-
-/// The run of directions that a list from 0 stands for, its mirror image before it.
-Profile mirrored(const std::vector<ProfilePoint> &points)
-{
-    Profile profile;
-    if (points.front().degrees == 0)
-        for (auto point = points.rbegin(); point + 1 != points.rend(); ++point)
-            profile.points.push_back({-point->degrees, point->candela, point->index});
-    profile.points.insert(profile.points.end(), points.begin(), points.end());
-    return profile;
-}
-
-std::size_t largestPlace(const Profile &profile)
-{
-    const auto less = [](const ProfilePoint &a, const ProfilePoint &b) { return a.candela < b.candela; };
-    return static_cast<std::size_t>(std::max_element(profile.points.begin(), profile.points.end(), less) -
-                                    profile.points.begin());
-}
-
-/// How far the light goes on from a place of the run in one direction until it has fallen to a level, degrees; nothing
-/// when it never does, once around.
-std::optional<double> reach(const Profile &profile, std::size_t from, double level, bool forward)
-{
-    const std::vector<ProfilePoint> &points = profile.points;
-    const std::size_t steps = points.size() - 1;
-    double degrees = 0;
-    std::size_t at = from;
-    for (std::size_t step = 0; step < steps; ++step) {
-        const std::size_t end = forward ? steps : 0;
-        if (at == end && !profile.isClosed)
-            return degrees;
-        if (at == end)
-            at = steps - end;
-        const ProfilePoint &here = points[at];
-        const ProfilePoint &next = points[forward ? at + 1 : at - 1];
-        const double width = forward ? next.degrees - here.degrees : here.degrees - next.degrees;
-        if (next.candela < level)
-            return degrees + width * (here.candela - level) / (here.candela - next.candela);
-        degrees += width;
-        at = forward ? at + 1 : at - 1;
-    }
-    return profile.isClosed ? std::nullopt : std::optional(degrees);
-}
-
-Measure widthAt(const Profile &profile, double share)
-{
-    const std::size_t largest = largestPlace(profile);
-    const double candela = profile.points[largest].candela;
-    if (!(candela > 0))
-        return Measure::unknown("No value of this plane is above 0.");
-    if (profile.points.size() < 2)
-        return Measure::unknown("This plane has one value only.");
-    const auto back = reach(profile, largest, share * candela, false);
-    const auto ahead = reach(profile, largest, share * candela, true);
-    if (!back || !ahead)
-        return Measure::unknown("The light falls that far nowhere in this plane.");
-    return Measure(*back + *ahead);
-}
-
 BeamWidth widthOf(std::string_view plane, const Profile &profile)
 {
     return {plane, widthAt(profile, kBeamShare), widthAt(profile, kFieldShare)};
@@ -165,7 +67,7 @@ BeamWidth withSteps(BeamWidth width, const Profile &profile, const PhotometricRe
     return width;
 }
 
-const std::string kPlaneNotListed = "The lists do not hold this plane.";
+constexpr const char *kPlaneNotListed = "The lists do not hold this plane.";
 
 BeamWidth typeCPlane(const PhotometricRecord &record, std::string_view plane, double direction)
 {

@@ -6,11 +6,10 @@
 #include "plot/PlotSymmetry.h"
 #include "review/ShownNumber.h"
 #include "review/TableFault.h"
+#include "review/Units.h"
 
 namespace penwright {
 namespace {
-
-constexpr double kMetersPerFoot = 0.3048;
 
 Figure missing(std::string name, std::string reason)
 {

@@ -1,0 +1,7 @@
+#pragma once
+
+namespace penwright {
+
+inline constexpr double kMetersPerFoot = 0.3048;
+
+}  // namespace penwright

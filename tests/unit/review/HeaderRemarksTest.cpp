@@ -1,0 +1,258 @@
+#include "RemarkTest.h"
+
+namespace penwright::test {
+namespace {
+
+class HeaderRemarks : public testing::TestWithParam<RuleCase> {};
+
+TEST_P(HeaderRemarks, areThese)
+{
+    expectRemarks(GetParam());
+}
+
+const std::string kVersion2002 = "IESNA:LM-63-2002 ";
+const std::string kVersion1995 = "IESNA:LM-63-1995 ";
+const std::string kVersion1991 = "IESNA91 ";
+
+Change dimensions(const std::string &version, float width, float length, float height, std::int16_t units = kMeters)
+{
+    return [=](PhotometricRecord &record) {
+        record.Keywords(1) = version;
+        record.Width = width;
+        record.Length = length;
+        record.Height = height;
+        record.UnitsType = units;
+    };
+}
+
+Change lines(const OneBased<std::string> &keywords)
+{
+    return [=](PhotometricRecord &record) { record.Keywords = keywords; };
+}
+
+RuleCase refused(const std::string &version, float w, float l, float h, const std::string &numbers)
+{
+    const std::string cure = version == kVersion2002 ? "use another shape or a rectangle."
+                                                     : "use the 2002 version, another shape or a rectangle.";
+    return {version + numbers,
+            RemarkRule::RefusedShape,
+            dimensions(version, w, l, h),
+            {{"Some programs refuse the dimensions " + numbers + ": " + cure, {RecordField::Width}}}};
+}
+
+RuleCase passed(const std::string &version, float w, float l, float h)
+{
+    return {version + std::to_string(w), RemarkRule::RefusedShape, dimensions(version, w, l, h), {}};
+}
+
+INSTANTIATE_TEST_SUITE_P(Shapes, HeaderRemarks,
+                         testing::ValuesIn(std::vector<RuleCase>{
+                             passed(kVersion2002, 0, 0, 0),
+                             passed(kVersion2002, 0.6F, 1.2F, 0),
+                             passed(kVersion2002, 0.6F, 1.2F, 0.1F),
+                             passed(kVersion2002, -2, -2, 0),
+                             passed(kVersion2002, -2, -3, 1),
+                             passed(kVersion2002, -2, -2, -2),
+                             passed(kVersion2002, -2, 3, -2),
+                             passed(kVersion2002, 3, -2, -2),
+                             passed(kVersion2002, -2, 0, -3),
+                             passed(kVersion2002, -2, -2, -0.0F),
+                             refused(kVersion2002, 2, 0, 0, "2 x 0 x 0"),
+                             refused(kVersion2002, 0, -3, -0.5F, "0 x -3 x -0.5"),
+                             refused(kVersion2002, -2, 0, 0, "-2 x 0 x 0"),
+                             refused(kVersion2002, 0, 3, -0.2F, "0 x 3 x -0.2"),
+                             refused(kVersion1995, -2, -2, 0, "-2 x -2 x 0"),
+                             refused(kVersion1991, -2, -2, 3, "-2 x -2 x 3"),
+                             refused(kVersion1991, -2, -2, -2, "-2 x -2 x -2"),
+                             passed(kVersion1995, -2, 0, 0),
+                             passed(kVersion1995, -2, 0, 3),
+                             passed(kVersion1991, -2, 0, -2),
+                             passed(kVersion1991, 0.6F, 1.2F, 0),
+                             passed("IES:LM-63-2019", -2, -2, 0),
+                             refused("[TEST] of 1986", -2, -2, 0, "-2 x -2 x 0"),
+                         }));
+
+INSTANTIATE_TEST_SUITE_P(
+    TurnedTable, HeaderRemarks,
+    testing::ValuesIn(std::vector<RuleCase>{
+        {"turned",
+         RemarkRule::TurnedTable,
+         dimensions(kVersion2002, 1.2F, 0.6F, 0),
+         {{"The long side, 1.2 m, lies along 90: is this table turned by 90 degrees?", {RecordField::Width}}}},
+        {"in feet",
+         RemarkRule::TurnedTable,
+         dimensions(kVersion2002, 4, 2, 0, kFeet),
+         {{"The long side, 4 ft, lies along 90: is this table turned by 90 degrees?", {RecordField::Width}}}},
+        {"round",
+         RemarkRule::TurnedTable,
+         dimensions(kVersion2002, -4, -2, 0),
+         {{"The long side, 4 m, lies along 90: is this table turned by 90 degrees?", {RecordField::Width}}}},
+        {"nearly square", RemarkRule::TurnedTable, dimensions(kVersion2002, 0.75F, 0.5F, 0), {}},
+        {"without length", RemarkRule::TurnedTable, dimensions(kVersion2002, -2, 0, -2), {}},
+        {"one plane",
+         RemarkRule::TurnedTable,
+         [](PhotometricRecord &record) {
+             record = withTable(record, kTypeC, {0}, {0, 90}, [](double, double v) { return 100 - v; });
+             record.Width = 3;
+         },
+         {}},
+        {"type B",
+         RemarkRule::TurnedTable,
+         [](PhotometricRecord &record) {
+             record.PhotometricType = kTypeB;
+             record.Width = 3;
+         },
+         {}},
+    }));
+
+INSTANTIATE_TEST_SUITE_P(
+    OddDimensions, HeaderRemarks,
+    testing::ValuesIn(std::vector<RuleCase>{
+        {"millimeters",
+         RemarkRule::OddDimensions,
+         dimensions(kVersion2002, 600, 1200, 5),
+         {{"Width 600 m: millimeters?", {RecordField::Width}},
+          {"Length 1,200 m: millimeters?", {RecordField::Length}}}},
+        {"round",
+         RemarkRule::OddDimensions,
+         dimensions(kVersion2002, -2, -2, -5.01F),
+         {{"Height 5.01 m: millimeters?", {RecordField::Height}}}},
+        {"just not too large", RemarkRule::OddDimensions, dimensions(kVersion2002, 5, 5, 5), {}},
+        {"inches",
+         RemarkRule::OddDimensions,
+         dimensions(kVersion2002, 24, 16.41F, 0, kFeet),
+         {{"Width 24 ft: inches?", {RecordField::Width}}, {"Length 16.41 ft: inches?", {RecordField::Length}}}},
+        {"large in feet", RemarkRule::OddDimensions, dimensions(kVersion2002, 16.4F, 16.4F, 0, kFeet), {}},
+        {"none",
+         RemarkRule::OddDimensions,
+         dimensions(kVersion2002, 0, 0, -0.0F),
+         {{"Without dimensions glare cannot be calculated.", {RecordField::Width}}}},
+        {"one", RemarkRule::OddDimensions, dimensions(kVersion2002, 0, 0, 0.1F), {}},
+    }));
+
+constexpr RecordPlace kNoRow{RecordField::Keywords};
+constexpr RecordPlace row(int i)
+{
+    return {RecordField::Keywords, i};
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Keywords, HeaderRemarks,
+    testing::ValuesIn(std::vector<RuleCase>{
+        {"2002, empty and missing",
+         RemarkRule::Keywords,
+         lines({kVersion2002, "[TEST] 1", "[TESTLAB]  ", "[MANUFAC] M"}),
+         {{"[TESTLAB] is empty; the 2002 format requires it.", row(3)},
+          {"[ISSUEDATE] is missing; the 2002 format requires it.", kNoRow}}},
+        {"filled in the second time",
+         RemarkRule::Keywords,
+         lines({kVersion2002, "[TEST] ", "[TEST] 1", "[TESTLAB] L", "[ISSUEDATE] D", "[MANUFAC] M"}),
+         {}},
+        {"2002, of older versions",
+         RemarkRule::Keywords,
+         lines({kVersion2002, "[TEST] 1", "[TESTLAB] L", "[ISSUEDATE] D", "[MANUFAC] M", "[DATE] D"}),
+         {{"[DATE] is unknown to the 2002 format.", row(6)}}},
+        {"1995 requires none", RemarkRule::Keywords, lines({kVersion1995, "[OTHER] text"}), {}},
+        {"1995, of later versions",
+         RemarkRule::Keywords,
+         lines({kVersion1995, "[TESTLAB] L", "[ISSUEDATE] D"}),
+         {{"[TESTLAB] is unknown to the 1995 format.", row(2)},
+          {"[ISSUEDATE] is unknown to the 1995 format.", row(3)}}},
+        {"1991",
+         RemarkRule::Keywords,
+         lines({kVersion1991, "[TEST] 1", "[SEARCH] office", "[_OWN] text"}),
+         {{"[MANUFAC] is missing; the 1991 format requires it.", kNoRow},
+          {"[SEARCH] is unknown to the 1991 format.", row(3)}}},
+        {"1991, complete", RemarkRule::Keywords, lines({kVersion1991, "[TEST] 1", "[MANUFAC] M"}), {}},
+        {"a later version", RemarkRule::Keywords, lines({"IES:LM-63-2019 ", "[DATE] D"}), {}},
+        {"no version", RemarkRule::Keywords, lines({"Recessed luminaire"}), {}},
+        {"no lines", RemarkRule::Keywords, lines({}), {}},
+        {"text in another's brackets",
+         RemarkRule::Keywords,
+         lines({kVersion1991, "[OTHERS] x", "no [OTHER] x", "[OTHER", "[TEST] 1", "[MANUFAC] M"}),
+         {}},
+    }));
+
+std::string lineOf(int characters)
+{
+    return "[OTHER] " + std::string(static_cast<std::size_t>(characters) - 8, 'x');
+}
+
+INSTANTIATE_TEST_SUITE_P(KeywordText, HeaderRemarks,
+                         testing::ValuesIn(std::vector<RuleCase>{
+                             {"TILT",
+                              RemarkRule::KeywordText,
+                              lines({kVersion2002, "[OTHER] TILTED lamp", "[OTHER] tilted lamp"}),
+                              {{"Row 2 contains TILT; some programs stop there.", row(2)}}},
+                             {"letters",
+                              RemarkRule::KeywordText,
+                              lines({kVersion2002, "[MANUFAC] Caf\u00e9", "[OTHER] ~"}),
+                              {{"Row 2 has letters beyond ASCII; some programs garble them.", row(2)}}},
+                             {"empty",
+                              RemarkRule::KeywordText,
+                              lines({kVersion2002, "", "[OTHER] text", "  "}),
+                              {{"Row 2 is empty; some programs stop there.", row(2)},
+                               {"Row 4 is empty; some programs stop there.", row(4)}}},
+                             {"long in 2002",
+                              RemarkRule::KeywordText,
+                              lines({kVersion2002, lineOf(253), lineOf(254)}),
+                              {{"Row 3 has 254 characters; some programs take only 253.", row(3)}}},
+                             {"long in 1995",
+                              RemarkRule::KeywordText,
+                              lines({kVersion1995, lineOf(80), lineOf(81)}),
+                              {{"Row 3 has 81 characters; some programs take only 80.", row(3)}}},
+                             {"long in 1991",
+                              RemarkRule::KeywordText,
+                              lines({kVersion1991, lineOf(80), lineOf(81)}),
+                              {{"Row 3 has 81 characters; some programs take only 80.", row(3)}}},
+                             {"counted as characters",
+                              RemarkRule::KeywordText,
+                              lines({kVersion1991, lineOf(79) + "\u00e9"}),
+                              {{"Row 2 has letters beyond ASCII; some programs garble them.", row(2)}}},
+                             {"all at once",
+                              RemarkRule::KeywordText,
+                              lines({kVersion1991, lineOf(90) + "TILT \u00e9"}),
+                              {{"Row 2 contains TILT; some programs stop there.", row(2)},
+                               {"Row 2 has letters beyond ASCII; some programs garble them.", row(2)},
+                               {"Row 2 has 96 characters; some programs take only 80.", row(2)}}},
+                         }));
+
+Change tilt(const OneBased<float> &angles, const OneBased<float> &factors, bool isIncluded = true)
+{
+    return [=](PhotometricRecord &record) {
+        record.TiltIncl = isIncluded;
+        record.NumTiltAngles = 3;
+        record.TiltAngles = angles;
+        record.TiltMultipliers = factors;
+    };
+}
+
+constexpr RecordPlace factor(int i)
+{
+    return {RecordField::TiltMultipliers, i};
+}
+
+const RuleCase kPlainTilt{"", RemarkRule::TiltData, {}, {{"Many programs refuse tilt data.", {RecordField::TiltIncl}}}};
+
+INSTANTIATE_TEST_SUITE_P(
+    TiltData, HeaderRemarks,
+    testing::ValuesIn(std::vector<RuleCase>{
+        {"included", RemarkRule::TiltData, tilt({0, 30, 60}, {1, 1.5F, 0.5F}), kPlainTilt.remarks},
+        {"a factor of 0",
+         RemarkRule::TiltData,
+         tilt({0, 30, 60}, {1, 0, 0.5F}),
+         {{"Many programs refuse tilt data; the factor at 30 degrees is 0.", factor(2)}}},
+        {"a large factor",
+         RemarkRule::TiltData,
+         tilt({0, 30, 60}, {1, 0.9F, 1.51F}),
+         {{"Many programs refuse tilt data; the factor at 60 degrees is 1.51.", factor(3)}}},
+        {"another first factor",
+         RemarkRule::TiltData,
+         tilt({0, 30, 60}, {0.95F, 1, 1}),
+         {{"Many programs refuse tilt data; the factor at 0 degrees is 0.95, the first one should be 1.", factor(1)}}},
+        {"not included", RemarkRule::TiltData, tilt({0, 30, 60}, {0.95F, 0, 2}, false), {}},
+        {"fewer than counted", RemarkRule::TiltData, tilt({0, 30}, {1}), kPlainTilt.remarks},
+    }));
+
+}  // namespace
+}  // namespace penwright::test
