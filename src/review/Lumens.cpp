@@ -4,7 +4,6 @@
 #include <cmath>
 #include <functional>
 #include <numbers>
-#include <numeric>
 #include <vector>
 
 #include "review/TableFault.h"
@@ -108,13 +107,30 @@ Weights verticalWeights(const PhotometricRecord &record, double highest)
                       [highest](double v) { return -2 * std::numbers::pi * std::cos(radians(std::min(v, highest))); });
 }
 
-double sum(const PhotometricRecord &record, const Weights &horizontal, const Weights &vertical)
-{
+/// One look at the values for both sums: a table may have a million.
+struct Sums {
     double all = 0;
-    for (int h = 1; h <= record.NumHorzAngles; ++h)
-        all += horizontal[static_cast<std::size_t>(h) - 1] *
-               std::inner_product(vertical.begin(), vertical.end(), record.Candela.row(h).begin(), 0.0);
-    return all * candelaFactor(record);
+    double below = 0;
+};
+
+Sums sumsOf(const PhotometricRecord &record)
+{
+    const Weights horizontal = horizontalWeights(record);
+    const Weights all = verticalWeights(record, 180);
+    const Weights below = verticalWeights(record, 90);
+    Sums sums;
+    for (int h = 1; h <= record.NumHorzAngles; ++h) {
+        const auto row = record.Candela.row(h);
+        Sums plane;
+        for (std::size_t v = 0; v < all.size(); ++v) {
+            plane.all += all[v] * row[v];
+            plane.below += below[v] * row[v];
+        }
+        const double weight = horizontal[static_cast<std::size_t>(h) - 1] * candelaFactor(record);
+        sums.all += weight * plane.all;
+        sums.below += weight * plane.below;
+    }
+    return sums;
 }
 
 }  // namespace
@@ -128,11 +144,10 @@ TableLumens tableLumens(const PhotometricRecord &record, const std::string &faul
 {
     if (const std::string reason = fault.empty() ? lumensFault(record) : fault; !reason.empty())
         return {Measure::unknown(reason), Measure::unknown(reason)};
-    const Weights horizontal = horizontalWeights(record);
-    const Measure all(sum(record, horizontal, verticalWeights(record, 180)));
+    const Sums sums = sumsOf(record);
     if (record.PhotometricType == kTypeB)
-        return {all, Measure::unknown("Where type B points up and down depends on the aim.")};
-    return {all, Measure(sum(record, horizontal, verticalWeights(record, 90)))};
+        return {Measure(sums.all), Measure::unknown("Where type B points up and down depends on the aim.")};
+    return {Measure(sums.all), Measure(sums.below)};
 }
 
 }  // namespace penwright

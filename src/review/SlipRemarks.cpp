@@ -27,11 +27,10 @@ std::string placeText(const PhotometricRecord &record, int h, int v)
     return " at V " + generalText(record.VertAngles(v)) + ", H " + generalText(record.HorAngles(h));
 }
 
-std::size_t decimalsOf(double value)
+/// Whether a value is a number of thousandths, as single precision holds it.
+bool hasThreeDecimals(double value)
 {
-    const std::string text = typedText(value);
-    const std::size_t point = text.find('.');
-    return point == std::string::npos ? 0 : text.size() - point - 1;
+    return static_cast<float>(std::round(value * kThousand) / kThousand) == static_cast<float>(value);
 }
 
 /// A value of a plane that may have lost its thousands, and the neighbour that shows it.
@@ -55,7 +54,7 @@ bool isLowAlone(Plane plane, std::size_t at)
     if (at == 0 || at + 1 >= plane.size() || !(plane[at] >= 1))
         return false;
     const double lower = std::min(plane[at - 1], plane[at + 1]);
-    return lower >= kNearThousand && plane[at] < lower / 100 && decimalsOf(plane[at]) <= 3;
+    return lower >= kNearThousand && plane[at] < lower / 100 && hasThreeDecimals(plane[at]);
 }
 
 /// Whether a low value, were it thousands, would go on where a high one ends.
@@ -74,10 +73,10 @@ std::optional<LowValue> lowStretch(Plane plane, std::size_t begin, std::size_t e
         return std::nullopt;
     if ((hasLeft && !goesOn(plane[begin], plane[begin - 1])) || (hasRight && !goesOn(plane[end - 1], plane[end])))
         return std::nullopt;
-    std::size_t most = 0;
-    for (std::size_t at = begin; at < end; ++at)
-        most = std::max(most, decimalsOf(plane[at]));
-    if (most == 0 || most > 3)
+    const Plane stretch = plane.subspan(begin, end - begin);
+    const auto isWhole = [](double value) { return value == std::round(value); };
+    if (!std::all_of(stretch.begin(), stretch.end(), hasThreeDecimals) ||
+        std::all_of(stretch.begin(), stretch.end(), isWhole))
         return std::nullopt;
     return hasLeft ? LowValue{begin, plane[begin - 1]} : LowValue{end - 1, plane[end]};
 }
