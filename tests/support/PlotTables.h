@@ -9,6 +9,7 @@
 
 #include "core/CandelaCell.h"
 #include "core/PhotometricRecord.h"
+#include "support/RecordAngles.h"
 
 namespace penwright::test {
 
@@ -45,13 +46,7 @@ inline PlotTableCase plotTable(std::string name, std::int16_t type, const std::v
 {
     PlotTableCase table;
     table.name = std::move(name);
-    table.record.PhotometricType = type;
-    for (const float angle : horizontal)
-        table.record.HorAngles.append(angle);
-    for (const float angle : vertical)
-        table.record.VertAngles.append(angle);
-    table.record.NumHorzAngles = static_cast<std::int16_t>(horizontal.size());
-    table.record.NumVertAngles = static_cast<std::int16_t>(vertical.size());
+    setAngles(table.record, type, horizontal, vertical);
     table.cells.reset(table.record.NumHorzAngles, table.record.NumVertAngles);
     for (int row = 1; row <= table.cells.rows(); ++row)
         for (int column = 1; column <= table.cells.columns(); ++column)

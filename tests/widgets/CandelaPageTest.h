@@ -3,6 +3,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "support/RecordAngles.h"
 #include "widgets/WizardTest.h"
 
 namespace penwright::test {
@@ -15,16 +16,7 @@ protected:
     void giveAngles(const std::vector<float> &horizontal, const std::vector<float> &vertical,
                     std::int16_t type = kTypeC)
     {
-        PhotometricRecord &record = state.PhotFiles(1);
-        record.PhotometricType = type;
-        record.HorAngles.clear();
-        record.VertAngles.clear();
-        for (const float angle : horizontal)
-            record.HorAngles.append(angle);
-        for (const float angle : vertical)
-            record.VertAngles.append(angle);
-        record.NumHorzAngles = static_cast<std::int16_t>(horizontal.size());
-        record.NumVertAngles = static_cast<std::int16_t>(vertical.size());
+        setAngles(state.PhotFiles(1), type, horizontal, vertical);
     }
 
     /// What page 4 does when it is left by Next.

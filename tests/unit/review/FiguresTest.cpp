@@ -16,7 +16,7 @@ std::string textOf(const std::vector<Figure> &figures)
     for (const Figure &figure : figures) {
         text += figure.name + ": " + figure.text;
         if (!figure.unit.empty())
-            text += " " + std::string(figure.unit);
+            text.append(" ").append(figure.unit);
         if (!figure.reason.empty())
             text += " (" + figure.reason + ")";
         text += "\n";

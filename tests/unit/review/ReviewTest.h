@@ -8,6 +8,7 @@
 
 #include "core/PhotometricRecord.h"
 #include "support/PlotTables.h"
+#include "support/RecordAngles.h"
 
 namespace penwright::test {
 
@@ -37,15 +38,7 @@ inline PhotometricRecord plainRecord()
 inline PhotometricRecord withTable(PhotometricRecord record, std::int16_t type, const std::vector<float> &horizontal,
                                    const std::vector<float> &vertical, const Solid &solid)
 {
-    record.PhotometricType = type;
-    record.HorAngles.clear();
-    record.VertAngles.clear();
-    for (const float angle : horizontal)
-        record.HorAngles.append(angle);
-    for (const float angle : vertical)
-        record.VertAngles.append(angle);
-    record.NumHorzAngles = static_cast<std::int16_t>(horizontal.size());
-    record.NumVertAngles = static_cast<std::int16_t>(vertical.size());
+    setAngles(record, type, horizontal, vertical);
     record.Candela.reset(record.NumHorzAngles, record.NumVertAngles);
     for (int h = 1; h <= record.NumHorzAngles; ++h)
         for (int v = 1; v <= record.NumVertAngles; ++v)
