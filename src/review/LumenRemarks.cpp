@@ -32,13 +32,13 @@ void checkMoreThanLamps(const Reviewed &file, RuleRemarks &remarks)
         });
 }
 
-// A table of zeros is in no unit.
+// A table of zeros is in no unit. Below 300 lm, lamps of more than 1,500 lm fall under the second half anyway.
 void checkPerKilolumen(const Reviewed &file, RuleRemarks &remarks)
 {
     const auto lumens = lumenPair(file);
     if (!lumens || file.record.CandelaMultiplier != 1 || !(lumens->table > 0))
         return;
-    const bool isNearAThousand = lumens->table >= 300 && lumens->table <= 1010 && lumens->lamps > 1500;
+    const bool isNearAThousand = lumens->table <= 1010 && lumens->lamps > 1500;
     if (isNearAThousand || lumens->table < 0.3 * lumens->lamps)
         remarks.add({RecordField::CandelaMultiplier}, [&] {
             return "This looks like candela per kilolumen: should the multiplier be " +
