@@ -4,6 +4,8 @@
 #include <QResizeEvent>
 #include <QTextBlock>
 
+#include "controls/EnterKey.h"
+
 namespace penwright {
 namespace {
 
@@ -18,6 +20,13 @@ void joinIntoBlocks(QString &lines)
     for (QChar &character : lines)
         if (character == '\n' && ++line % kLinesOfABlock != 0)
             character = QChar::LineSeparator;
+}
+
+int lineOf(const QTextCursor &cursor)
+{
+    const auto blocksLines = static_cast<int>(cursor.block().previous().text().count(QChar(QChar::LineSeparator))) + 1;
+    const QString before = cursor.block().text().left(cursor.positionInBlock());
+    return cursor.blockNumber() * blocksLines + static_cast<int>(before.count(QChar(QChar::LineSeparator)));
 }
 
 }  // namespace
@@ -40,15 +49,18 @@ void LongTextBox::showLines(QString lines)
     countLines();
 }
 
-void LongTextBox::mousePressEvent(QMouseEvent *event)
+void LongTextBox::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    QPlainTextEdit::mousePressEvent(event);
-    QTextCursor cursor = cursorForPosition(event->position().toPoint());
-    // The third click of a row selects a block.
-    if (!m_isLong || textCursor().selectionStart() != cursor.block().position() || !textCursor().hasSelection())
-        return;
-    cursor.select(QTextCursor::LineUnderCursor);
-    setTextCursor(cursor);
+    if (event->button() == Qt::LeftButton)
+        emit lineChosen(lineOf(cursorForPosition(event->position().toPoint())));
+}
+
+void LongTextBox::keyPressEvent(QKeyEvent *event)
+{
+    if (isEnter(*event))
+        emit lineChosen(lineOf(textCursor()));
+    else
+        QPlainTextEdit::keyPressEvent(event);
 }
 
 void LongTextBox::resizeEvent(QResizeEvent *event)

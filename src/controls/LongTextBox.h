@@ -5,7 +5,7 @@
 namespace penwright {
 
 /// A read-only box for a list of lines that stays quick with a million of them. Its text is the lines as they were
-/// given, each ended by "\n".
+/// given, each ended by "\n". A line is chosen by a double click, or by Enter where the cursor is.
 class LongTextBox : public QPlainTextEdit {
     Q_OBJECT
 
@@ -16,8 +16,13 @@ public:
     /// long one.
     void showLines(QString lines);
 
+signals:
+    /// Lines are counted from 0, whatever is wrapped.
+    void lineChosen(int line);
+
 protected:
-    void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 

@@ -177,18 +177,17 @@ QPushButton *PageFrame::addButton(const QString &name, const QString &text, cons
 void PageFrame::pressNext(const Handler &next)
 {
     if (!guardHandler(dialogs(), caption().toStdString(), next))
-        focusFirstFault();
+        goToFault(dlgWarn().list().firstFault());
 }
 
 void PageFrame::showWarnings()
 {
-    dlgWarn().showModal();
-    focusFirstFault();
+    goToFault(dlgWarn().showModal());
 }
 
-void PageFrame::focusFirstFault()
+void PageFrame::goToFault(const std::optional<FaultPlace> &place)
 {
-    if (const auto &place = dlgWarn().list().firstFault())
+    if (place)
         focusFault(*place);
     if (QWidget *focus = window()->focusWidget(); focus && isAncestorOf(focus))
         bringIntoView(*focus);

@@ -100,7 +100,8 @@ protected:
     /// Has `handler` run at each click on a button, unless the wizard is busy; its errors are told under the caption.
     void onClick(QAbstractButton *button, const Handler &handler);
 
-    /// Shows the list of warnings, then puts the focus on the first faulty field.
+    /// Shows the list of warnings, then puts the focus on the field of the line chosen in it, else on the first faulty
+    /// one.
     void showWarnings();
 
     /// The field to be given the focus when one comes back, `last` being the one that had it last, or none.
@@ -126,7 +127,7 @@ private:
     void goToField(QWidget &field);
     void keepEnterFromFields();
     void pressNext(const Handler &next);
-    void focusFirstFault();
+    void goToFault(const std::optional<FaultPlace> &place);
     QPushButton *addButton(const QString &name, const QString &text, const QString &key, const Handler &handler);
 
     int m_index;

@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 
 #include "controls/LongTextBox.h"
+#include "controls/QuietLabel.h"
 #include "controls/ScreenReader.h"
 #include "platform/qt/Closing.h"
 
@@ -40,9 +41,19 @@ WarningDialog::WarningDialog(const Closing &closing, QWidget *parent) : QDialog(
     m_ok->setDefault(true);
     m_ok->setMinimumWidth(92);
     connect(m_ok, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_text, &LongTextBox::lineChosen, this, [this](int line) {
+        if (const auto place = m_list.placeOfLine(line))
+            m_chosen = place;
+        accept();
+    });
 
+    auto *hint = new QuietLabel;
+    hint->setText("A double click on a line, or Enter, goes to its field.");
+    hint->setWordWrap(true);
+    describe(*m_text, hint->text());
     auto *buttons = new QHBoxLayout;
-    buttons->addStretch();
+    buttons->setSpacing(16);
+    buttons->addWidget(hint, 1);
     buttons->addWidget(m_ok);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 16);
@@ -51,16 +62,18 @@ WarningDialog::WarningDialog(const Closing &closing, QWidget *parent) : QDialog(
     layout->addLayout(buttons);
 }
 
-void WarningDialog::showModal()
+std::optional<FaultPlace> WarningDialog::showModal()
 {
+    m_chosen = m_list.firstFault();
     if (m_closing.isClosing())
-        return;
+        return m_chosen;
     QString lines = QString::fromStdString(m_list.text());
     lines.remove('\r');
     describe(*this, spokenBeginning(lines));
     m_text->showLines(std::move(lines));
     m_ok->setFocus();
     exec();
+    return m_chosen;
 }
 
 }  // namespace penwright

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+#include <optional>
 #include <string_view>
 
 #include "wizard/WarningList.h"
@@ -14,7 +15,7 @@ class Closing;
 class LongTextBox;
 
 /// The dialog `dlgWarn`: the list of what is missing or wrong on a page. Closing it only hides it; the list survives
-/// until the next Clear.
+/// until the next Clear. A double click on a line, or Enter, closes it too.
 class WarningDialog : public QDialog {
     Q_OBJECT
 
@@ -30,11 +31,13 @@ public:
     bool Clean() const { return m_list.Clean(); }
 
     /// Shows the whole list and returns when the user has closed it; at once, unshown, while the window unloads.
-    void showModal();
+    /// The place that the user wants to see to: that of the line it was closed by, else that of the first fault.
+    std::optional<FaultPlace> showModal();
 
 private:
     const Closing &m_closing;
     WarningList m_list;
+    std::optional<FaultPlace> m_chosen;
     LongTextBox *m_text = nullptr;
     QPushButton *m_ok = nullptr;
 };

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace penwright {
 
@@ -15,8 +16,8 @@ struct FaultPlace {
     bool operator==(const FaultPlace &) const = default;
 };
 
-/// The list of the warning dialog: the text itself is the list, each entry ended by "\r\n". Beside it stands the place
-/// of the first fault, which gets the focus once the list has been read.
+/// The list of the warning dialog: the text itself is the list, each entry ended by "\r\n". Beside it stand the places
+/// that the entries are about; that of the first fault gets the focus once the list has been read.
 class WarningList {
 public:
     void Add(std::string_view entry);
@@ -34,8 +35,20 @@ public:
     /// The place of the noted error or the first entry since the last Clear; nothing when no place was told.
     const std::optional<FaultPlace> &firstFault() const { return m_firstFault; }
 
+    /// The place of the entry that a line of the text belongs to, lines counted from 0; nothing when no place was told,
+    /// and beyond the last line.
+    std::optional<FaultPlace> placeOfLine(int line) const;
+
 private:
+    /// From a line on, entries are about a place; without one, about none.
+    struct Stretch {
+        int firstLine = 0;
+        std::optional<FaultPlace> place;
+    };
+
     std::string m_text;
+    int m_lines = 0;
+    std::vector<Stretch> m_stretches;
     std::optional<FaultPlace> m_place;
     std::optional<FaultPlace> m_firstFault;
 };

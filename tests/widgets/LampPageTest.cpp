@@ -316,5 +316,18 @@ TEST_P(PastedIntoABox, becomesOneLine)
     EXPECT_EQ(text("txtNumLamps"), GetParam().kept);
 }
 
+TEST_F(LampPageTest, aLineOfTheWarningsLeadsToItsField)
+{
+    QTimer::singleShot(0, window.get(), [&] {
+        auto *list = find<QPlainTextEdit>("Text1");
+        for (int down = 0; down < 4; ++down)
+            QTest::keyClick(list, Qt::Key_Down);
+        QTest::keyClick(list, Qt::Key_Return);
+    });
+    click("cmdNext10");
+    QApplication::setActiveWindow(window.get());  // as a window manager does when a dialog has closed
+    EXPECT_EQ(focusName(), "txtWatt");
+}
+
 }  // namespace
 }  // namespace penwright::test

@@ -25,6 +25,26 @@ protected:
         window->dlgWarn().showModal();
         return ended;
     }
+
+    /// Adds the line of a number, with the number as its place.
+    void addAt(int row)
+    {
+        window->dlgWarn().list().lookAt({.row = row});
+        window->dlgWarn().Add("line " + std::to_string(row));
+    }
+
+    /// The place that the dialog answers once it was closed by `act`.
+    std::optional<FaultPlace> placeAfter(const std::function<void()> &act)
+    {
+        QTimer::singleShot(0, window.get(), [&] {
+            QApplication::setActiveWindow(&window->dlgWarn());
+            act();
+            EXPECT_FALSE(window->dlgWarn().isVisible());
+            window->dlgWarn().reject();
+        });
+        return window->dlgWarn().showModal();
+    }
+
     QPlainTextEdit *text() { return find<QPlainTextEdit>("Text1"); }
 
     /// The text of the line at the top of the list.
@@ -94,22 +114,54 @@ TEST_F(Warning, canBeCopiedFromByKeyboardAlone)
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "Watts is empty.\nWidth is empty.\n");
 }
 
-TEST_F(Warning, tripleClickSelectsOneLineHoweverLongTheList)
+TEST_F(Warning, aDoubleClickClosesItWithThePlaceOfItsLineHoweverLongTheList)
 {
     for (const int lines : {20, 20'000}) {
         window->dlgWarn().Clear();
         for (int i = 1; i <= lines; ++i)
-            window->dlgWarn().Add("line " + std::to_string(i));
-        EXPECT_TRUE(showAnd([&](WarningDialog &open) {
-            const QPoint spot(20, text()->fontMetrics().lineSpacing() * 7 / 2);
-            QTest::mouseDClick(text()->viewport(), Qt::LeftButton, {}, spot);
-            QTest::mouseClick(text()->viewport(), Qt::LeftButton, {}, spot);
-            QString selected = text()->textCursor().selectedText();
-            selected.remove(QChar(QChar::ParagraphSeparator));
-            EXPECT_TRUE(selected == "line 3" || selected == "line 4") << selected.toStdString();
-            open.accept();
-        }));
+            addAt(i);
+        const auto place = placeAfter([&] {
+            text()->verticalScrollBar()->setValue(lines > 20 ? 12'344 : 0);
+            const QString line = firstVisibleLine();
+            EXPECT_EQ(line, lines > 20 ? "line 12345" : "line 1");
+            QTest::mouseDClick(text()->viewport(), Qt::LeftButton, {}, QPoint(20, 8));
+        });
+        EXPECT_EQ(place, (FaultPlace{.row = lines > 20 ? 12'345 : 1}));
     }
+}
+
+TEST_F(Warning, enterInTheListClosesItWithThePlaceOfTheCursorsLine)
+{
+    for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+        window->dlgWarn().Clear();
+        for (int i = 1; i <= 5; ++i)
+            addAt(i);
+        const auto place = placeAfter([&] {
+            text()->setFocus();
+            for (int down = 0; down < 3; ++down)
+                QTest::keyClick(text(), Qt::Key_Down);
+            QTest::keyClick(text(), key);
+        });
+        EXPECT_EQ(place, (FaultPlace{.row = 4}));
+    }
+}
+
+TEST_F(Warning, allOtherWaysToCloseItLeadToTheFirstPlace)
+{
+    addAt(7);
+    addAt(8);
+    EXPECT_EQ(placeAfter([&] { QTest::mouseClick(find("OKButton"), Qt::LeftButton); }), (FaultPlace{.row = 7}));
+    EXPECT_EQ(placeAfter([&] {
+                  QTest::keyClick(text(), Qt::Key_End, Qt::ControlModifier);
+                  QTest::keyClick(text(), Qt::Key_Escape);
+              }),
+              (FaultPlace{.row = 7}));
+    // Behind the last line.
+    EXPECT_EQ(placeAfter([&] {
+                  QTest::keyClick(text(), Qt::Key_End, Qt::ControlModifier);
+                  QTest::keyClick(text(), Qt::Key_Return);
+              }),
+              (FaultPlace{.row = 7}));
 }
 
 TEST_F(Warning, longListIsTheSameTextAndScrollsToItsVeryEnd)

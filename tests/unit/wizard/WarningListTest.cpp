@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+#include <vector>
+
 namespace penwright::test {
 namespace {
 
@@ -63,6 +66,27 @@ TEST(WarningList, errorHasNoEntryAndComesBeforeTheEntriesFound)
     list.lookAt({2});
     list.noteError();
     EXPECT_EQ(list.firstFault(), (FaultPlace{2}));
+}
+
+TEST(WarningList, eachLineHasThePlaceOfItsEntry)
+{
+    WarningList list;
+    list.Add("no place told");
+    list.lookAt({1});
+    list.Add("one");
+    list.Add("one more");
+    list.lookAt({2, 7, 1});
+    list.Add("two\r\nin two lines");
+    list.lookAt({3});
+    list.Add("three");
+    const std::vector<std::optional<FaultPlace>> expected{std::nullopt,        FaultPlace{1},       FaultPlace{1},
+                                                          FaultPlace{2, 7, 1}, FaultPlace{2, 7, 1}, FaultPlace{3}};
+    for (int line = 0; line < 6; ++line)
+        EXPECT_EQ(list.placeOfLine(line), expected[static_cast<std::size_t>(line)]) << line;
+    for (const int beyond : {-1, 6, 1000})
+        EXPECT_FALSE(list.placeOfLine(beyond)) << beyond;
+    list.Clear();
+    EXPECT_FALSE(list.placeOfLine(0));
 }
 
 TEST(WarningList, clearForgetsThePlaces)
