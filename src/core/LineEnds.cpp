@@ -18,6 +18,15 @@ std::string_view withoutLastLineEnd(std::string_view text)
     return text;
 }
 
+std::size_t lineNumberBehind(std::string_view text)
+{
+    std::size_t number = 1;
+    for (std::size_t at = 0; at < text.size(); ++at)
+        if (text[at] == '\n' || (text[at] == '\r' && !text.substr(at + 1).starts_with('\n')))
+            ++number;
+    return number;
+}
+
 std::string inOneLine(std::string_view text)
 {
     text = text.substr(0, text.find_last_not_of("\r\n") + 1);

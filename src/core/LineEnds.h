@@ -12,6 +12,9 @@ std::size_t lineEndLength(std::string_view text);
 /// The text without the one line end that it may end with.
 std::string_view withoutLastLineEnd(std::string_view text);
 
+/// The number of the line, counted from 1, that the end of the text stands in.
+std::size_t lineNumberBehind(std::string_view text);
+
 /// The text in one line: line ends at its end go, as spreadsheets put one behind a cell; each one before it becomes a
 /// blank.
 std::string inOneLine(std::string_view text);

@@ -22,6 +22,14 @@ TEST(LineEnds, goOnceFromTheEndOfAText)
     EXPECT_EQ(withoutLastLineEnd("\n"), "");
 }
 
+TEST(LineEnds, countTheLines)
+{
+    EXPECT_EQ(lineNumberBehind(""), 1U);
+    EXPECT_EQ(lineNumberBehind("a"), 1U);
+    EXPECT_EQ(lineNumberBehind("a\r\nb\rc\nd"), 4U);
+    EXPECT_EQ(lineNumberBehind("\n\r\r"), 4U);
+}
+
 TEST(LineEnds, insideALineAreBlanks)
 {
     EXPECT_EQ(inOneLine("a\r\nb\rc\nd\te"), "a b c d\te");
