@@ -1,0 +1,124 @@
+#include <algorithm>
+
+#include "core/IesText.h"
+#include "core/NumberText.h"
+#include "support/RandomRecord.h"
+#include "support/SampleRecords.h"
+#include "unit/core/IesReaderTest.h"
+
+namespace penwright {
+namespace {
+
+using test::contentOf;
+
+void roundAll(OneBased<float> &numbers)
+{
+    for (float &number : numbers)
+        number = toSingle(generalText(number));
+}
+
+/// A record as its file says it: singles have seven digits there and candelas fifteen, and what is not in the file is
+/// not in the record.
+PhotometricRecord asInTheFile(PhotometricRecord record)
+{
+    record.PictureFilename = record.Directory = record.Filename = record.OptionalData = "";
+    if (!record.TiltIncl) {
+        record.LampToLuminaireGeometry = record.NumTiltAngles = 0;
+        record.TiltAngles.clear();
+        record.TiltMultipliers.clear();
+    }
+    for (float *number : {&record.LumensPerLamp, &record.CandelaMultiplier, &record.Width, &record.Length,
+                          &record.Height, &record.BallastFactor, &record.InputWatts})
+        *number = toSingle(generalText(*number));
+    for (OneBased<float> *numbers :
+         {&record.TiltAngles, &record.TiltMultipliers, &record.VertAngles, &record.HorAngles})
+        roundAll(*numbers);
+    for (int h = 1; h <= record.NumHorzAngles; ++h)
+        for (int v = 1; v <= record.NumVertAngles; ++v)
+            record.Candela(h, v) = toDouble(generalText(record.Candela(h, v)));
+    return record;
+}
+
+/// The record with what a file must have to be read: angles that rise, a type, a unit, a geometry.
+PhotometricRecord madeReadable(PhotometricRecord record)
+{
+    for (OneBased<float> *angles : {&record.TiltAngles, &record.VertAngles, &record.HorAngles})
+        std::sort(angles->begin(), angles->end());
+    for (std::int16_t *code : {&record.PhotometricType, &record.UnitsType, &record.LampToLuminaireGeometry})
+        *code = std::max<std::int16_t>(*code, 1);
+    return record;
+}
+
+void expectTheSameBack(const PhotometricRecord &record)
+{
+    const std::string text = iesFileText(record);
+    const PhotometricRecord read = contentOf(text).record;
+    EXPECT_EQ(read, asInTheFile(record));
+    EXPECT_EQ(iesFileText(read), text);
+}
+
+TEST(IesReaderCircle, theSmallRecordComesBack)
+{
+    expectTheSameBack(test::smallRecord());
+}
+
+TEST(IesReaderCircle, aRecordWithTiltComesBack)
+{
+    expectTheSameBack(test::wholeRecord());
+}
+
+/// How many of the records were read; those without an angle are refused.
+int readBack(const auto &next, int records)
+{
+    int count = 0;
+    for (int i = 0; i < records && !testing::Test::HasFailure(); ++i) {
+        SCOPED_TRACE("record " + std::to_string(i));
+        const PhotometricRecord record = madeReadable(next());
+        const bool hasAngles = record.NumVertAngles > 0 && record.NumHorzAngles > 0;
+        if (hasAngles)
+            expectTheSameBack(record);
+        else
+            EXPECT_NE(test::refusalOf(iesFileText(record)).find("angles is 0; "), std::string::npos);
+        count += hasAngles ? 1 : 0;
+    }
+    return count;
+}
+
+TEST(IesReaderCircle, theWritersRandomRecordsComeBack)
+{
+    for (const unsigned seed : {63U, 7U}) {
+        test::RandomRecords random(seed);
+        EXPECT_GT(readBack([&random] { return random.next(); }, 200), 150);
+    }
+}
+
+TEST(IesReaderCircle, theStoresRandomRecordsComeBack)
+{
+    test::RandomRecord random(1);
+    const auto next = [&random] {
+        PhotometricRecord record = random.make();
+        // The writer's first line is the first keyword, without which there is no file.
+        if (record.Keywords.empty())
+            record.Keywords.append("IESNA91");
+        return record;
+    };
+    EXPECT_GT(readBack(next, 400), 240);
+}
+
+TEST(IesReaderCircle, aTableThatFoldsBetweenBlanksComesBack)
+{
+    PhotometricRecord record = test::smallRecord();
+    record.Keywords(1) = "IESNA91";
+    record.NumVertAngles = 1000;
+    record.NumHorzAngles = 30;
+    record.VertAngles.reset(1000);
+    record.HorAngles.reset(30);
+    record.Candela.reset(30, 1000);
+    for (int h = 1; h <= 30; ++h)
+        for (int v = 1; v <= 1000; ++v)
+            record.Candela(h, v) = static_cast<float>((h * v) % 997) / 8;
+    expectTheSameBack(record);
+}
+
+}  // namespace
+}  // namespace penwright
