@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <chrono>
 #include <random>
 
 #include "core/IesText.h"
+#include "Seconds.h"
 
 namespace {
 
@@ -40,14 +40,6 @@ void toChars(const PhotometricRecord &record, Form... form)
             benchmark::DoNotOptimize(end);
             benchmark::ClobberMemory();
         }
-}
-
-template <typename Work>
-double seconds(const Work &work)
-{
-    const auto start = std::chrono::steady_clock::now();
-    work();
-    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
 }
 
 /// Writer and bars in turns. The counters are the writer's best time over the best of the shortest form, which is the
