@@ -1,10 +1,8 @@
 #include "core/IesNumbers.h"
 
-#include <algorithm>
 #include <charconv>
 #include <cmath>
 
-#include "core/CodePoints.h"
 #include "core/LineEnds.h"
 #include "core/NumberText.h"
 #include "core/TextBytes.h"
@@ -13,7 +11,6 @@ namespace penwright {
 namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\r\n\v\f";
-constexpr std::size_t kShownBytes = 30;
 
 bool isWhite(char c)
 {
@@ -46,16 +43,6 @@ IesFault iesFaultAt(std::string_view file, std::size_t place, const std::string 
 {
     const std::size_t line = lineNumberBehind(file.substr(0, place));
     return {line, "Line " + std::to_string(line) + ": " + wrong};
-}
-
-std::string shownWord(std::string_view word)
-{
-    std::string shown = utf8Text(word.substr(0, 2 * kShownBytes));
-    const bool isLong = shown.size() > kShownBytes;
-    shown = withinBytes(shown, kShownBytes);
-    std::replace_if(
-        shown.begin(), shown.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
-    return '"' + shown + (isLong ? "..." : "") + '"';
 }
 
 IesNumbers::IesNumbers(std::string_view file, std::size_t place, bool commasSeparate, IesFault &fault)

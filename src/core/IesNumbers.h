@@ -18,9 +18,6 @@ struct IesFault {
 /// The fault at a place of the file: "Line 12: " and what is wrong there.
 IesFault iesFaultAt(std::string_view file, std::size_t place, const std::string &wrong);
 
-/// A word of a file as a message shows it: in quotes, in UTF-8, without control characters, and cut after 30 bytes.
-std::string shownWord(std::string_view word);
-
 /// The numbers behind the TILT line of an IES file, one by one, in whatever lines they stand. The first fault stays and
 /// ends the reading: from then on every number is 0 and every list is empty.
 class IesNumbers {

@@ -130,4 +130,14 @@ std::string utf8Text(std::string_view bytes)
     return isUtf8(bytes) ? std::string(bytes) : fromLatin1(bytes);
 }
 
+std::string shownWord(std::string_view bytes)
+{
+    constexpr std::size_t kShownBytes = 30;
+    const std::string text = utf8Text(withinBytes(bytes, 2 * kShownBytes));
+    std::string shown(withinBytes(text, kShownBytes));
+    std::replace_if(
+        shown.begin(), shown.end(), [](char c) { return static_cast<unsigned char>(c) < ' '; }, '?');
+    return '"' + shown + (text.size() > kShownBytes ? "..." : "") + '"';
+}
+
 }  // namespace penwright

@@ -19,4 +19,8 @@ std::string_view withoutUtf8Mark(std::string_view bytes);
 /// half a character of UTF-16 becomes U+FFFD, an odd last byte is left out.
 std::string utf8Text(std::string_view bytes);
 
+/// A word of a text or file as a message shows it: in quotes, in UTF-8, with "?" for control characters, and with "..."
+/// for what is beyond 30 bytes.
+std::string shownWord(std::string_view bytes);
+
 }  // namespace penwright

@@ -42,6 +42,19 @@ TEST_P(TextBytes, becomeUtf8)
     EXPECT_EQ(utf8Text(GetParam().bytes), GetParam().text);
 }
 
+TEST(ShownWord, isShortAndPlain)
+{
+    EXPECT_EQ(shownWord(""), "\"\"");
+    EXPECT_EQ(shownWord("a\tb\xB0"), "\"a?b\xC2\xB0\"");
+    EXPECT_EQ(shownWord(std::string(30, 'x')), '"' + std::string(30, 'x') + '"');
+    EXPECT_EQ(shownWord(std::string(31, 'x')), '"' + std::string(30, 'x') + "...\"");
+    std::string euros;
+    for (int i = 0; i < 40; ++i)
+        euros += "\xE2\x82\xAC";
+    EXPECT_EQ(shownWord(euros), '"' + euros.substr(0, 30) + "...\"");
+    EXPECT_EQ(shownWord("x" + euros), "\"x" + euros.substr(0, 27) + "...\"");
+}
+
 TEST(IsUtf8, knowsWhatIsNone)
 {
     for (const char *none : {"\xB0", "\xC2", "\xC2 ", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF0\x80\x80\x80",
