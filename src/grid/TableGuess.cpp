@@ -1,0 +1,50 @@
+#include <string>
+
+#include "grid/TableAxes.h"
+#include "grid/TableSample.h"
+#include "grid/TableSigns.h"
+#include "grid/TableText.h"
+
+namespace penwright {
+namespace {
+
+/// The letters, digits and strokes of a text, in small letters, so that "cd / 1.000 lm" is "cd/1000lm".
+std::string squeezed(std::string_view text)
+{
+    std::string letters;
+    for (const char c : text)
+        if (c >= 'A' && c <= 'Z')
+            letters += static_cast<char>(c - 'A' + 'a');
+        else if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '/')
+            letters += c;
+    return letters;
+}
+
+bool namesKilolumen(std::string_view text)
+{
+    static constexpr std::string_view kWords[]{"/klm",    "cdklm",      "perklm",       "proklm",    "kilolumen",
+                                               "/1000lm", "/1000lumen", "per1000lumen", "per1000lm", "pro1000lm"};
+    const std::string letters = squeezed(text);
+    for (const std::string_view word : kWords)
+        if (letters.find(word) != std::string::npos)
+            return true;
+    return false;
+}
+
+}  // namespace
+
+TableReading guessTable(std::string_view text)
+{
+    TableReading reading;
+    const std::string_view beginning = sampleText(text);
+    const TableSample sample = tableSample(beginning);
+    reading.separator = sample.separator;
+    reading.isPerKilolumen = namesKilolumen(beginning);
+    if (sample.width == 0)
+        return reading;
+    findSigns(sample, reading);
+    findAxes(sample, reading);
+    return reading;
+}
+
+}  // namespace penwright

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "grid/TableAngle.h"
+#include "grid/TableReading.h"
+
+namespace penwright {
+
+/// A table's line of angles, put over the cells of its lines of values. Places are counted from 0.
+struct TableHeading {
+    std::size_t begin = 0;             ///< cell of the line of angles that stands over the first value
+    std::vector<std::size_t> columns;  ///< cells of a line of values that have an angle over them
+    std::vector<TableAngle> angles;    ///< as many as columns
+    std::optional<std::size_t> wrong;  ///< the first cell of the line of angles that is none
+};
+
+/// Puts a line of angles over lines of `width` cells. The first of these is no value where the reading has a column of
+/// angles; nothing, or a word or several, may stand over it. Columns with nothing or with a summary's name over them
+/// hold no values.
+TableHeading tableHeading(const std::vector<std::string_view> &cells, std::size_t width, const TableReading &reading);
+
+}  // namespace penwright

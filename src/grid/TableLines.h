@@ -1,0 +1,48 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "grid/TableReading.h"
+
+namespace penwright {
+
+/// A line of a table, cut into cells without blanks around them. Refers to the text.
+struct TableLine {
+    std::size_t number = 0;  ///< of the text's lines, counted from 1
+    std::vector<std::string_view> cells;
+};
+
+/// The lines of a text with cells in them, one by one. Cells in quotes come without the outer quotes and may hold
+/// separators and line ends. Empty cells at a line's end are left out, and so are blank lines. Takes time in proportion
+/// to the text.
+class TableLines {
+public:
+    /// Refers to `text`.
+    TableLines(std::string_view text, TableSeparator separator);
+
+    /// Puts the next line into `line`; false behind the last one.
+    bool next(TableLine &line);
+
+    /// How many bytes of the text have been read.
+    std::size_t bytesRead() const { return m_at; }
+
+private:
+    std::string_view nextCell();
+    std::size_t quotedLength() const;
+    bool isSeparator(char c) const;
+    void skipBlanks();
+    bool isAtLineEnd() const;
+    void passLineEnd();
+
+    std::string_view m_text;
+    TableSeparator m_separator;
+    std::size_t m_at = 0;
+    std::size_t m_number = 1;
+};
+
+/// The cell without blanks at its ends, those that do not break among them.
+std::string_view withoutCellBlanks(std::string_view cell);
+
+}  // namespace penwright

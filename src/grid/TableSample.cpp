@@ -1,0 +1,126 @@
+#include "grid/TableSample.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <utility>
+
+#include "grid/TableAngle.h"
+#include "grid/TableLines.h"
+#include "grid/TableNumber.h"
+
+namespace penwright {
+namespace {
+
+constexpr std::size_t kSampleBytes = 40'000;
+constexpr std::size_t kSampleLines = 300;
+
+std::size_t numbersIn(const std::vector<std::string_view> &cells)
+{
+    return static_cast<std::size_t>(std::count_if(cells.begin(), cells.end(), isLikeNumber));
+}
+
+bool isFull(const std::vector<std::string_view> &cells)
+{
+    if (cells.empty() || !(cells.front().empty() || isLikeAngle(cells.front()) || isLikeNumber(cells.front())))
+        return false;
+    const bool hasNumbers = cells.size() > 1 || isLikeNumber(cells.front());
+    return hasNumbers && std::all_of(cells.begin() + 1, cells.end(), isLikeNumber);
+}
+
+/// Whether a line goes on with the table, if not without a fault.
+bool isNearlyFull(const SampleLine &line, std::size_t width)
+{
+    return line.cells.size() == width && (line.isFull || 2 * numbersIn(line.cells) >= width);
+}
+
+/// The width that has the most numbers in full lines.
+void findWidth(TableSample &sample)
+{
+    std::map<std::size_t, std::size_t> linesOfWidth;
+    for (const SampleLine &line : sample.lines)
+        if (line.isFull)
+            ++linesOfWidth[line.cells.size()];
+    for (const auto &[width, lines] : linesOfWidth)
+        if (width * lines >= sample.width * sample.fullLines) {
+            sample.width = width;
+            sample.fullLines = lines;
+        }
+}
+
+/// The first line of the longest run of lines of that width.
+void findFirst(TableSample &sample)
+{
+    std::size_t longest = 0;
+    for (std::size_t at = 0; at < sample.lines.size();) {
+        std::size_t end = at;
+        if (sample.lines[at].isFull && sample.lines[at].cells.size() == sample.width)
+            while (end < sample.lines.size() && isNearlyFull(sample.lines[end], sample.width))
+                ++end;
+        if (end - at > longest) {
+            longest = end - at;
+            sample.first = at;
+        }
+        at = std::max(end, at + 1);
+    }
+}
+
+TableSample cutAt(std::string_view text, TableSeparator separator)
+{
+    TableSample sample;
+    sample.separator = separator;
+    TableLines lines(text, separator);
+    for (TableLine line; lines.next(line);)
+        sample.lines.push_back({line.number, line.cells, isFull(line.cells)});
+    findWidth(sample);
+    if (sample.width > 0)
+        findFirst(sample);
+    return sample;
+}
+
+/// Whether the first of two columns is a list of angles, so that "0,2480" is no decimal.
+bool risesInFirstColumn(const TableSample &sample)
+{
+    TableReading whole;
+    double last = -1;
+    for (const SampleLine &line : sample.lines) {
+        if (!line.isFull || line.cells.size() != sample.width)
+            continue;
+        const auto angle = tableAngle(line.cells.front(), whole);
+        if (!angle || angle->degrees <= last)
+            return false;
+        last = angle->degrees;
+    }
+    return true;
+}
+
+}  // namespace
+
+std::string_view sampleText(std::string_view text)
+{
+    std::string_view sample = text.substr(0, kSampleBytes);
+    if (const std::size_t end = sample.find_last_of("\r\n"); sample.size() < text.size() && end != sample.npos)
+        sample = sample.substr(0, end);
+    std::size_t at = 0;
+    for (std::size_t lines = 0; lines < kSampleLines && at < sample.size(); ++lines)
+        at = std::min(sample.find_first_of("\r\n", at), sample.size() - 1) + 1;
+    return sample.substr(0, at);
+}
+
+TableSample tableSample(std::string_view sample)
+{
+    TableSample tabs = cutAt(sample, TableSeparator::Tab);
+    TableSample semicolons = cutAt(sample, TableSeparator::Semicolon);
+    TableSample commas = cutAt(sample, TableSeparator::Comma);
+    TableSample blanks = cutAt(sample, TableSeparator::Blanks);
+    const std::size_t most = std::max({tabs.fullLines, semicolons.fullLines, commas.fullLines, blanks.fullLines});
+    for (TableSample *plain : {&tabs, &semicolons})
+        if (plain->width > 1 && 2 * plain->fullLines >= most)
+            return std::move(*plain);
+    const bool isDecimals = commas.width == 2 && blanks.width == 1 && !risesInFirstColumn(commas);
+    if (commas.width > 1 && !isDecimals && commas.width * commas.fullLines > blanks.width * blanks.fullLines)
+        return commas;
+    return blanks.width > 1 ? blanks : tabs;
+}
+
+}  // namespace penwright

@@ -1,0 +1,253 @@
+#include "grid/TableText.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+#include <utility>
+
+#include "core/Counted.h"
+#include "core/NumberText.h"
+#include "core/TextBytes.h"
+#include "grid/TableAngle.h"
+#include "grid/TableHeading.h"
+#include "grid/TableLines.h"
+#include "grid/TableNumber.h"
+
+namespace penwright {
+namespace {
+
+constexpr std::size_t kMostAngles = std::numeric_limits<std::int16_t>::max();
+constexpr std::size_t kBytesBetweenQuestions = 1'000'000;
+
+/// A text while it is read. The first fault stays and ends the reading.
+class TableTextReading {
+public:
+    TableTextReading(std::string_view text, const TableReading &reading)
+        : m_text(text), m_reading(reading), m_lines(text, reading.separator)
+    {
+    }
+
+    std::variant<TableContent, TableFault> run(const std::function<bool(double)> &goOn);
+
+private:
+    void readLine(const TableLine &line);
+    void begin(const TableLine &line);
+    void readRow(const TableLine &line);
+    void readAngle(const TableLine &line);
+    bool isRemark(const TableLine &line) const;
+    std::size_t firstNoNumber(const TableLine &line) const;
+    void refuse(std::size_t line, std::size_t cell, const std::string &wrong);
+    void refuseCell(const TableLine &line, std::size_t place);
+    void refuseFall(std::size_t line, std::size_t cell, double angle, double before);
+    TableFault nothingRead() const;
+    TableContent content() const;
+
+    std::string_view m_text;
+    TableReading m_reading;
+    TableLines m_lines;
+    std::optional<TableLine> m_heading;  ///< the line of angles until the first line of values
+    std::size_t m_width = 0;             ///< cells of each line, 0 before the first line of values
+    std::vector<std::size_t> m_columns;  ///< cells with values
+    std::vector<double> m_across;
+    std::vector<double> m_down;
+    std::vector<double> m_values;  ///< line by line
+    std::size_t m_rows = 0;
+    std::optional<TableFault> m_remarkAbove;  ///< the first line without numbers above the values
+    std::optional<TableFault> m_remark;       ///< a remark behind the values, which is a fault when more values follow
+    std::optional<TableFault> m_fault;
+};
+
+std::variant<TableContent, TableFault> TableTextReading::run(const std::function<bool(double)> &goOn)
+{
+    if (m_text.find('\0') != std::string_view::npos)
+        return TableFault{"The text has characters with the code 0: it is no table.", 0, 0};
+    std::size_t asked = 0;
+    for (TableLine line; !m_fault && m_lines.next(line);) {
+        if (goOn && m_lines.bytesRead() > asked + kBytesBetweenQuestions) {
+            asked = m_lines.bytesRead();
+            if (!goOn(static_cast<double>(asked) / static_cast<double>(m_text.size())))
+                return TableFault();
+        }
+        if (line.number > static_cast<std::size_t>(std::max(m_reading.linesToSkip, 0)))
+            readLine(line);
+    }
+    if (!m_fault && m_rows == 0)
+        m_fault = nothingRead();
+    if (m_fault)
+        return *m_fault;
+    return content();
+}
+
+void TableTextReading::readLine(const TableLine &line)
+{
+    if (m_reading.hasAngleRow && !m_heading) {
+        m_heading = line;
+        return;
+    }
+    const bool isNamedSummary = m_reading.hasAngleColumn && isSummary(line.cells.front());
+    if (isNamedSummary || (m_remark && isRemark(line)))
+        return;
+    if (isRemark(line)) {
+        std::optional<TableFault> &remark = m_rows > 0 ? m_remark : m_remarkAbove;
+        if (!remark) {
+            refuseCell(line, firstNoNumber(line));
+            remark = std::exchange(m_fault, std::nullopt);
+        }
+        return;
+    }
+    if (m_remark)
+        m_fault = m_remark;
+    else
+        readRow(line);
+}
+
+/// Whether a line says something instead of holding values: it begins with a word, and has hardly a number.
+bool TableTextReading::isRemark(const TableLine &line) const
+{
+    const auto isNumber = [this](std::string_view cell) { return tableNumber(cell, m_reading).has_value(); };
+    const std::string_view first = line.cells.front();
+    const bool beginsWithAngle = m_reading.hasAngleColumn && tableAngle(first, m_reading);
+    if (!beginsWithAngle && std::none_of(line.cells.begin(), line.cells.end(), isNumber))
+        return true;
+    const bool beginsWithWord = !first.empty() && first.find_first_of("0123456789") != 0 && !isNumber(first);
+    if (beginsWithAngle || !beginsWithWord)
+        return false;
+    const auto numbers = static_cast<std::size_t>(std::count_if(line.cells.begin(), line.cells.end(), isNumber));
+    return 2 * numbers <= std::max(m_width, line.cells.size());
+}
+
+std::size_t TableTextReading::firstNoNumber(const TableLine &line) const
+{
+    const auto isNone = [this](std::string_view cell) { return !tableNumber(cell, m_reading); };
+    const auto cell = std::find_if(line.cells.begin(), line.cells.end(), isNone);
+    return static_cast<std::size_t>(cell - line.cells.begin());
+}
+
+/// Settles by the first line of values which cells hold them.
+void TableTextReading::begin(const TableLine &line)
+{
+    m_width = line.cells.size();
+    const std::size_t firstValue = m_reading.hasAngleColumn ? 1 : 0;
+    if (!m_heading) {
+        for (std::size_t i = firstValue; i < m_width; ++i)
+            m_columns.push_back(i);
+        return;
+    }
+    const TableHeading heading = tableHeading(m_heading->cells, m_width, m_reading);
+    if (heading.wrong)
+        return refuse(m_heading->number, *heading.wrong + 1,
+                      shownWord(m_heading->cells[*heading.wrong]) + " is no angle.");
+    m_columns = heading.columns;
+    for (std::size_t i = 0; i < heading.angles.size(); ++i) {
+        const double angle = heading.angles[i].degrees;
+        if (!m_across.empty() && angle < m_across.back())
+            refuseFall(m_heading->number, heading.begin + heading.columns[i] - firstValue + 1, angle, m_across.back());
+        m_across.push_back(angle);
+    }
+}
+
+void TableTextReading::readRow(const TableLine &line)
+{
+    if (m_width == 0)
+        begin(line);
+    if (line.cells.size() != m_width) {
+        const std::size_t place = firstNoNumber(line);
+        if (line.cells.size() > m_width && place < line.cells.size() && !(place == 0 && m_reading.hasAngleColumn))
+            return refuseCell(line, place);
+        return refuse(
+            line.number, 0,
+            counted(line.cells.size(), "cell") + " where the lines above have " + std::to_string(m_width) + ".");
+    }
+    if (m_reading.hasAngleColumn)
+        readAngle(line);
+    for (const std::size_t column : m_columns) {
+        const std::optional<double> value = tableNumber(line.cells[column], m_reading);
+        if (!value)
+            return refuseCell(line, column);
+        m_values.push_back(*value);
+    }
+    ++m_rows;
+    if (m_columns.empty() || m_rows > kMostAngles || m_columns.size() > kMostAngles)
+        refuse(line.number, 0, "a table has 1 to 32767 lines and columns of values.");
+}
+
+void TableTextReading::readAngle(const TableLine &line)
+{
+    const std::optional<TableAngle> angle = tableAngle(line.cells.front(), m_reading);
+    if (!angle)
+        return refuse(line.number, 1, shownWord(line.cells.front()) + " is no angle.");
+    if (!m_down.empty() && angle->degrees < m_down.back())
+        refuseFall(line.number, 1, angle->degrees, m_down.back());
+    m_down.push_back(angle->degrees);
+}
+
+void TableTextReading::refuse(std::size_t line, std::size_t cell, const std::string &wrong)
+{
+    if (m_fault)
+        return;
+    std::string text =
+        "Line " + std::to_string(line) + (cell > 0 ? ", cell " + std::to_string(cell) : "") + ": " + wrong;
+    if (m_rows > 0)
+        text += " Read before it: " + counted(m_rows, "line") + " of " + counted(m_columns.size(), "value") + ".";
+    m_fault = TableFault{text, line, cell};
+}
+
+void TableTextReading::refuseCell(const TableLine &line, std::size_t place)
+{
+    const std::string_view cell = line.cells[std::min(place, line.cells.size() - 1)];
+    refuse(line.number, place + 1,
+           cell.empty() ? "the cell is empty; a number belongs there." : shownWord(cell) + " is no number.");
+}
+
+void TableTextReading::refuseFall(std::size_t line, std::size_t cell, double angle, double before)
+{
+    refuse(line, cell, "angle " + generalText(angle) + " stands behind " + generalText(before) + "; angles must rise.");
+}
+
+TableFault TableTextReading::nothingRead() const
+{
+    TableFault fault = m_remarkAbove.value_or(TableFault());
+    const std::string needed = "No line of numbers was found; a table has one for each angle.";
+    fault.text = fault.text.empty() ? needed : needed + " " + fault.text;
+    return fault;
+}
+
+TableContent TableTextReading::content() const
+{
+    TableContent content;
+    const auto rows = static_cast<int>(m_rows);
+    const auto columns = static_cast<int>(m_columns.size());
+    OneBased<double> &down = m_reading.verticalDown ? content.vertical : content.horizontal;
+    OneBased<double> &across = m_reading.verticalDown ? content.horizontal : content.vertical;
+    for (const double angle : m_down)
+        down.append(angle);
+    for (const double angle : m_across)
+        across.append(angle);
+    content.values =
+        m_reading.verticalDown ? OneBasedTable<double>(columns, rows) : OneBasedTable<double>(rows, columns);
+    auto value = m_values.begin();
+    for (int row = 1; row <= rows; ++row)
+        for (int column = 1; column <= columns; ++column, ++value)
+            (m_reading.verticalDown ? content.values(column, row) : content.values(row, column)) = *value;
+    return content;
+}
+
+}  // namespace
+
+std::optional<std::string> tableMisfit(const TableContent &table, int vertical, int horizontal)
+{
+    const int rows = table.values.columns();
+    const int columns = table.values.rows();
+    if (rows == vertical && columns == horizontal)
+        return std::nullopt;
+    return std::to_string(rows) + " x " + std::to_string(columns) + " values read; " + std::to_string(vertical) +
+           " x " + std::to_string(horizontal) + " needed (vertical x horizontal angles).";
+}
+
+std::variant<TableContent, TableFault> readTable(std::string_view text, const TableReading &reading,
+                                                 const std::function<bool(double)> &goOn)
+{
+    return TableTextReading(text, reading).run(goOn);
+}
+
+}  // namespace penwright

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "core/OneBased.h"
+#include "grid/TableReading.h"
+
+namespace penwright {
+
+/// A table of intensities that was read, turned so that its vertical and horizontal angles are known.
+struct TableContent {
+    OneBased<double> vertical;     ///< degrees; empty when the text has none
+    OneBased<double> horizontal;   ///< degrees; empty when the text has none
+    OneBasedTable<double> values;  ///< by (horizontal index, vertical index), in the text's unit
+};
+
+/// Why a text is no table, for the user.
+struct TableFault {
+    std::string text;      ///< what stands there, what is needed, what was read before; "" when reading was stopped
+    std::size_t line = 0;  ///< of the text, counted from 1; 0 when no line is to blame
+    std::size_t cell = 0;  ///< of the line, counted from 1; 0 when no cell is to blame
+};
+
+/// How a text is probably to be read, by its first lines: takes the same time for any length. A text without a table
+/// gives the reading of a plain one.
+TableReading guessTable(std::string_view text);
+
+/// Reads the table of a UTF-8 text. Left out are blank lines, lines without any number below the line of angles (such
+/// as units), lines and columns that a word names as averages or sums, columns without an angle, and remarks behind the
+/// last line. All else that is no number is a fault, as are angles that fall and lines of unequal length.
+/// Takes time and memory in proportion to the text. `goOn` is asked now and then with the part that is read, 0 to 1;
+/// when it says no, the fault has no text.
+std::variant<TableContent, TableFault> readTable(std::string_view text, const TableReading &reading,
+                                                 const std::function<bool(double)> &goOn = {});
+
+/// What is wrong with the size of a table that is to have so many angles; nothing when it fits.
+std::optional<std::string> tableMisfit(const TableContent &table, int vertical, int horizontal);
+
+}  // namespace penwright
