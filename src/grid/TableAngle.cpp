@@ -184,8 +184,8 @@ AngleWord angleWord(std::string_view heading)
 bool isSummary(std::string_view heading)
 {
     static constexpr std::string_view kSummaries[]{
-        "average", "avg", "mean",  "mittel", "durchschnitt", "moyen", "media",    "prom",     "gemiddeld",
-        "total",   "sum", "lumen", "flux",   "lm",           "zonal", "\xC3\xB8", "\xC3\x98", "\xE2\x8C\x80"};
+        "ave",   "avg", "mean",  "mittel", "durchschnitt", "moyen", "media",    "prom",     "gemiddeld",
+        "total", "sum", "lumen", "flux",   "lm",           "zonal", "\xC3\xB8", "\xC3\x98", "\xE2\x8C\x80"};
     const std::string letters = lettersOf(heading);
     return letters.find("cd") == std::string::npos && letters.find("klm") == std::string::npos &&
            std::any_of(std::begin(kSummaries), std::end(kSummaries),
