@@ -183,13 +183,16 @@ AngleWord angleWord(std::string_view heading)
 
 bool isSummary(std::string_view heading)
 {
-    static constexpr std::string_view kSummaries[]{
-        "ave",   "avg", "mean",  "mittel", "durchschnitt", "moyen", "media",    "prom",     "gemiddeld",
-        "total", "sum", "lumen", "flux",   "lm",           "zonal", "\xC3\xB8", "\xC3\x98", "\xE2\x8C\x80"};
+    static constexpr std::string_view kMeans[]{"ave",   "avg",      "mean",     "mittel",      "durchschnitt",
+                                               "moyen", "media",    "prom",     "gemiddeld",   "total",
+                                               "sum",   "\xC3\xB8", "\xC3\x98", "\xE2\x8C\x80"};
+    static constexpr std::string_view kFluxes[]{"lumen", "flux", "lm", "zonal"};
     const std::string letters = lettersOf(heading);
-    return letters.find("cd") == std::string::npos && letters.find("klm") == std::string::npos &&
-           std::any_of(std::begin(kSummaries), std::end(kSummaries),
-                       [&letters](std::string_view s) { return letters.find(s) != std::string::npos; });
+    const auto isThere = [&letters](std::string_view word) { return letters.find(word) != std::string::npos; };
+    // The unit of intensities has lumens in it too.
+    const bool isIntensity = isThere("cd") || isThere("candela");
+    return std::any_of(std::begin(kMeans), std::end(kMeans), isThere) ||
+           (!isIntensity && std::any_of(std::begin(kFluxes), std::end(kFluxes), isThere));
 }
 
 }  // namespace penwright

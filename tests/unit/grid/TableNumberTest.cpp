@@ -94,9 +94,9 @@ TEST(TableAngle, wordsAreKnown)
     EXPECT_EQ(angleWord("C-Ebene"), AngleWord::Horizontal);
     EXPECT_EQ(angleWord("Angle"), AngleWord::Any);
     EXPECT_EQ(angleWord("Lamps"), AngleWord::None);
-    for (const char *word : {"Average", "AVG.", "Mittelwert", "Sum", "Total lm"})
+    for (const char *word : {"Average", "AVG.", "Mittelwert", "Sum", "Total lm", "Average [cd]", "Zonal lumens"})
         EXPECT_TRUE(isSummary(word)) << word;
-    for (const char *word : {"", "cd/klm", "C0", "I [cd]", "Gamma"})
+    for (const char *word : {"", "cd/klm", "candela per 1000 lm", "C0", "I [cd]", "Gamma"})
         EXPECT_FALSE(isSummary(word)) << word;
 }
 
