@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <map>
 #include <utility>
 
@@ -81,12 +82,11 @@ TableSample cutAt(std::string_view text, TableSeparator separator)
 /// Whether the first of two columns is a list of angles, so that "0,2480" is no decimal.
 bool risesInFirstColumn(const TableSample &sample)
 {
-    TableReading whole;
-    double last = -1;
+    double last = -std::numeric_limits<double>::infinity();
     for (const SampleLine &line : sample.lines) {
-        if (!line.isFull || line.cells.size() != sample.width)
+        if (!line.isFull || line.cells.size() != sample.width || line.cells.front().empty())
             continue;
-        const auto angle = tableAngle(line.cells.front(), whole);
+        const auto angle = tableAngle(line.cells.front(), TableReading());
         if (!angle || angle->degrees <= last)
             return false;
         last = angle->degrees;
