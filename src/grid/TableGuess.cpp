@@ -1,6 +1,7 @@
 #include <string>
 
 #include "grid/TableAxes.h"
+#include "grid/TableLines.h"
 #include "grid/TableSample.h"
 #include "grid/TableSigns.h"
 #include "grid/TableText.h"

@@ -8,6 +8,9 @@
 namespace penwright {
 namespace {
 
+constexpr std::size_t kSampleBytes = 40'000;
+constexpr std::size_t kSampleLines = 300;
+
 /// No cell in quotes is longer: a lone quote then costs no look at the rest of the text.
 constexpr std::size_t kLongestQuoted = 2000;
 
@@ -19,6 +22,17 @@ bool isBlank(char c)
 }
 
 }  // namespace
+
+std::string_view sampleText(std::string_view text)
+{
+    std::string_view sample = text.substr(0, kSampleBytes);
+    if (const std::size_t end = sample.find_last_of("\r\n"); sample.size() < text.size() && end != sample.npos)
+        sample = sample.substr(0, end);
+    std::size_t at = 0;
+    for (std::size_t lines = 0; lines < kSampleLines && at < sample.size(); ++lines)
+        at = std::min(sample.find_first_of("\r\n", at), sample.size() - 1) + 1;
+    return sample.substr(0, at);
+}
 
 std::string_view withoutCellBlanks(std::string_view cell)
 {
@@ -35,7 +49,10 @@ std::string_view withoutCellBlanks(std::string_view cell)
     return cell;
 }
 
-TableLines::TableLines(std::string_view text, TableSeparator separator) : m_text(text), m_separator(separator) {}
+TableLines::TableLines(std::string_view text, TableSeparator separator)
+    : m_text(text), m_separator(separator), m_blankColumns(blankColumns())
+{
+}
 
 bool TableLines::next(TableLine &line)
 {
@@ -50,6 +67,10 @@ bool TableLines::next(TableLine &line)
         while (!line.cells.empty() && line.cells.back().empty())
             line.cells.pop_back();
     }
+    line.before = 0;
+    while (line.before < std::min(m_blankColumns, line.cells.size()) && line.cells[line.before].empty())
+        ++line.before;
+    line.cells.erase(line.cells.begin(), line.cells.begin() + static_cast<std::ptrdiff_t>(line.before));
     return !line.cells.empty();
 }
 
@@ -72,6 +93,28 @@ std::string_view TableLines::nextCell()
     else if (!isAtLineEnd())
         ++m_at;
     return withoutCellBlanks(cell);
+}
+
+/// How many blank cells each of the first lines begins with.
+std::size_t TableLines::blankColumns() const
+{
+    if (m_separator == TableSeparator::Blanks)
+        return 0;
+    std::size_t least = std::string_view::npos;
+    std::size_t blank = 0;
+    bool isBlankLine = true;
+    for (const char c : sampleText(m_text)) {
+        if (c == '\n' || c == '\r') {
+            blank = 0;
+            isBlankLine = true;
+        } else if (isBlankLine && isSeparator(c)) {
+            ++blank;
+        } else if (isBlankLine && !isBlank(c)) {
+            isBlankLine = false;
+            least = std::min(least, blank);
+        }
+    }
+    return least == std::string_view::npos ? 0 : least;
 }
 
 /// The length of the cell in quotes that stands here, with them; 0 for any other cell.

@@ -11,12 +11,13 @@ namespace penwright {
 /// A line of a table, cut into cells without blanks around them. Refers to the text.
 struct TableLine {
     std::size_t number = 0;  ///< of the text's lines, counted from 1
+    std::size_t before = 0;  ///< blank cells that all lines begin with, which are left out
     std::vector<std::string_view> cells;
 };
 
 /// The lines of a text with cells in them, one by one. Cells in quotes come without the outer quotes and may hold
-/// separators and line ends. Empty cells at a line's end are left out, and so are blank lines. Takes time in proportion
-/// to the text.
+/// separators and line ends. Empty cells at a line's end are left out, and so are blank lines, and the blank columns
+/// that the first lines begin with. Takes time in proportion to the text.
 class TableLines {
 public:
     /// Refers to `text`.
@@ -31,6 +32,7 @@ public:
 private:
     std::string_view nextCell();
     std::size_t quotedLength() const;
+    std::size_t blankColumns() const;
     bool isSeparator(char c) const;
     void skipBlanks();
     bool isAtLineEnd() const;
@@ -40,7 +42,11 @@ private:
     TableSeparator m_separator;
     std::size_t m_at = 0;
     std::size_t m_number = 1;
+    std::size_t m_blankColumns;
 };
+
+/// The part of a text that a guess looks at: its first lines, of some ten thousand bytes together.
+std::string_view sampleText(std::string_view text);
 
 /// The cell without blanks at its ends, those that do not break among them.
 std::string_view withoutCellBlanks(std::string_view cell);

@@ -13,9 +13,6 @@
 namespace penwright {
 namespace {
 
-constexpr std::size_t kSampleBytes = 40'000;
-constexpr std::size_t kSampleLines = 300;
-
 std::size_t numbersIn(const std::vector<std::string_view> &cells)
 {
     return static_cast<std::size_t>(std::count_if(cells.begin(), cells.end(), isLikeNumber));
@@ -95,17 +92,6 @@ bool risesInFirstColumn(const TableSample &sample)
 }
 
 }  // namespace
-
-std::string_view sampleText(std::string_view text)
-{
-    std::string_view sample = text.substr(0, kSampleBytes);
-    if (const std::size_t end = sample.find_last_of("\r\n"); sample.size() < text.size() && end != sample.npos)
-        sample = sample.substr(0, end);
-    std::size_t at = 0;
-    for (std::size_t lines = 0; lines < kSampleLines && at < sample.size(); ++lines)
-        at = std::min(sample.find_first_of("\r\n", at), sample.size() - 1) + 1;
-    return sample.substr(0, at);
-}
 
 TableSample tableSample(std::string_view sample)
 {

@@ -25,9 +25,6 @@ struct TableSample {
     std::size_t fullLines = 0;  ///< how many full lines have `width` cells
 };
 
-/// The part of a text that a guess looks at: its first lines, of some ten thousand bytes together.
-std::string_view sampleText(std::string_view text);
-
 /// The sample cut at the separator that makes a table of it.
 TableSample tableSample(std::string_view sample);
 

@@ -135,13 +135,14 @@ void TableTextReading::begin(const TableLine &line)
     }
     const TableHeading heading = tableHeading(m_heading->cells, m_width, m_reading);
     if (heading.wrong)
-        return refuse(m_heading->number, *heading.wrong + 1,
+        return refuse(m_heading->number, m_heading->before + *heading.wrong + 1,
                       shownWord(m_heading->cells[*heading.wrong]) + " is no angle.");
     m_columns = heading.columns;
     for (std::size_t i = 0; i < heading.angles.size(); ++i) {
         const double angle = heading.angles[i].degrees;
         if (!m_across.empty() && angle < m_across.back())
-            refuseFall(m_heading->number, heading.begin + heading.columns[i] - firstValue + 1, angle, m_across.back());
+            refuseFall(m_heading->number, m_heading->before + heading.begin + heading.columns[i] - firstValue + 1,
+                       angle, m_across.back());
         m_across.push_back(angle);
     }
 }
@@ -175,9 +176,9 @@ void TableTextReading::readAngle(const TableLine &line)
 {
     const std::optional<TableAngle> angle = tableAngle(line.cells.front(), m_reading);
     if (!angle)
-        return refuse(line.number, 1, shownWord(line.cells.front()) + " is no angle.");
+        return refuse(line.number, line.before + 1, shownWord(line.cells.front()) + " is no angle.");
     if (!m_down.empty() && angle->degrees < m_down.back())
-        refuseFall(line.number, 1, angle->degrees, m_down.back());
+        refuseFall(line.number, line.before + 1, angle->degrees, m_down.back());
     m_down.push_back(angle->degrees);
 }
 
@@ -195,7 +196,7 @@ void TableTextReading::refuse(std::size_t line, std::size_t cell, const std::str
 void TableTextReading::refuseCell(const TableLine &line, std::size_t place)
 {
     const std::string_view cell = line.cells[std::min(place, line.cells.size() - 1)];
-    refuse(line.number, place + 1,
+    refuse(line.number, line.before + place + 1,
            cell.empty() ? "the cell is empty; a number belongs there." : shownWord(cell) + " is no number.");
 }
 
