@@ -1,8 +1,6 @@
 #include "core/IesReader.h"
 
-#include "core/IesText.h"
 #include "support/Growth.h"
-#include "support/SampleRecords.h"
 #include "unit/core/AllocationLimit.h"
 #include "unit/core/IesReaderTest.h"
 
@@ -24,7 +22,7 @@ class IesFaults : public testing::TestWithParam<FaultCase> {};
 
 const std::string kEndBeforeTilt =
     "the file ends without a line that begins with TILT=; it is no IES file, or its end is missing.";
-const std::string kCommaBehaviour = " does not belong there; write a point for decimals and blanks between numbers.";
+const std::string kCommaFault = " does not belong there; write a point for decimals and blanks between numbers.";
 const std::string kNewerFile = with(kWholeFile, "1995", "2002");
 
 INSTANTIATE_TEST_SUITE_P(
@@ -117,10 +115,10 @@ INSTANTIATE_TEST_SUITE_P(
 INSTANTIATE_TEST_SUITE_P(
     Commas, IesFaults,
     testing::ValuesIn(std::vector<FaultCase>{
-        {with(kNewerFile, "4450.5", "4450,5"), "Line 9: the comma in \"4450,5\"" + kCommaBehaviour},
-        {with(kNewerFile, "101 102", "101,102"), "Line 13: the comma in \"101,102\"" + kCommaBehaviour},
-        {with(kWholeFile, "101 102", "101,,102"), "Line 13: the comma in \"101,,102\"" + kCommaBehaviour},
-        {with(kWholeFile, "101 102", "101 , , 102"), "Line 13: the comma in \",\"" + kCommaBehaviour},
+        {with(kNewerFile, "4450.5", "4450,5"), "Line 9: the comma in \"4450,5\"" + kCommaFault},
+        {with(kNewerFile, "101 102", "101,102"), "Line 13: the comma in \"101,102\"" + kCommaFault},
+        {with(kWholeFile, "101 102", "101,,102"), "Line 13: the comma in \"101,,102\"" + kCommaFault},
+        {with(kWholeFile, "101 102", "101 , , 102"), "Line 13: the comma in \",\"" + kCommaFault},
         {with(kWholeFile, "4450.5", "4450,5"),
          "Line 9: the number of vertical angles is 1.25; a whole number from 1 to 32767 belongs there."},
     }));
