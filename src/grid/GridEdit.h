@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,6 +29,9 @@ public:
 
     /// Puts this in the place of what stands in the source, and keeps that instead: done twice, nothing has changed.
     virtual void swap() = 0;
+
+    /// The memory that it takes, in bytes.
+    virtual std::size_t bytes() const = 0;
 };
 
 /// Why a change was refused, and the cell that wants the user's attention.

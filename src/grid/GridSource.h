@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -56,6 +57,17 @@ public:
 
     /// What stands once the checked texts of an edit are written and its rows are there. Changes nothing yet.
     virtual std::unique_ptr<GridContent> contentAfter(const GridEdit &edit) = 0;
+
+    /// What stands in the source now, kept apart from it: the text of that, exact to the last bit of each number, is
+    /// made when it is asked for, on any thread.
+    virtual std::function<std::string()> held() const
+    {
+        return [] { return std::string(); };
+    }
+
+    /// The change that brings back what such a text says; nothing when it is none that could have been made of this
+    /// source. Changes nothing yet.
+    virtual std::optional<GridEdit> fromHeld(std::string_view) { return std::nullopt; }
 
     /// The change that a pasted text is, `block` being what is selected; what goes where is for the source to say.
     /// Messages that name no title of their own have `title`. Changes nothing yet. Here a block of texts goes from the

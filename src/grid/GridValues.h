@@ -8,8 +8,10 @@
 
 namespace penwright {
 
-/// A source whose whole content is one value that is cheap to copy: each edit brings a changed copy.
-template <typename Values>
+/// A source whose whole content is one value that is cheap to copy: each edit brings a changed copy. `Held` knows the
+/// value's text, in three functions of its own: `textOf` the values, `valuesOf` a text, nothing when it is none that
+/// `textOf` makes of values which a user could have brought there, and `bytesOf` the values, beside their own size.
+template <typename Values, typename Held>
 class GridValues : public GridSource {
 public:
     std::unique_ptr<GridContent> contentAfter(const GridEdit &edit) final
@@ -20,6 +22,17 @@ public:
         for (const GridText &cell : edit.texts)
             write(after, cell.row, cell.column, cell.text);
         return std::make_unique<Other>(m_values, std::move(after));
+    }
+
+    std::function<std::string()> held() const final
+    {
+        return [values = m_values] { return Held::textOf(values); };
+    }
+
+    std::optional<GridEdit> fromHeld(std::string_view text) final
+    {
+        std::optional<Values> values = Held::valuesOf(text);
+        return values ? std::optional(replacement("New Values", *std::move(values))) : std::nullopt;
     }
 
 protected:
@@ -43,6 +56,7 @@ private:
     public:
         Other(Values &standing, Values other) : m_standing(standing), m_other(std::move(other)) {}
         void swap() override { std::swap(m_standing, m_other); }
+        std::size_t bytes() const override { return sizeof(*this) + Held::bytesOf(m_other); }
 
     private:
         Values &m_standing;

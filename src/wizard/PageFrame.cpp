@@ -8,12 +8,14 @@
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "controls/EnterKey.h"
 #include "controls/FieldFocus.h"
 #include "controls/InView.h"
 #include "controls/QuietLabel.h"
 #include "controls/ScreenReader.h"
+#include "grid/GridView.h"
 #include "platform/qt/QtText.h"
 #include "wizard/HandlerGuard.h"
 #include "wizard/WarningDialog.h"
@@ -146,6 +148,21 @@ void PageFrame::addButtons(const Handler &next, const Handler &back)
     connect(new QShortcut(QKeySequence("Alt+N"), this), &QShortcut::activated, m_next, &QPushButton::click);
     connect(new QShortcut(QKeySequence("Alt+B"), this), &QShortcut::activated, backButton, &QPushButton::click);
     keepEnterFromFields();
+    m_fields = PageFields(*m_formArea);
+}
+
+bool PageFrame::showValue(const PageText &value)
+{
+    auto changes = m_fields.changes(value);
+    if (!changes)
+        return false;
+    for (QWidget *box : m_fields.boxes())
+        if (const auto text = value.find(box->objectName().toStdString()); text != value.end())
+            PageFields::put(*box, toQString(text->second));
+    for (PageFields::Change &change : *changes)
+        change.grid->apply(std::move(change.edit));
+    followValue();
+    return true;
 }
 
 void PageFrame::keepEnterFromFields()

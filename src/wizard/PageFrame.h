@@ -6,6 +6,8 @@
 #include <functional>
 
 #include "core/ToolState.h"
+#include "draft/PageValue.h"
+#include "wizard/PageFields.h"
 #include "wizard/PageTable.h"
 
 class QAbstractButton;
@@ -78,6 +80,13 @@ public:
     /// anew.
     virtual bool followRecord() { return false; }
 
+    /// What stands on the page.
+    PageValue value() const { return m_fields.value(); }
+
+    /// Puts texts that controls of a page held into those of this one; the others stay. False, and nothing is changed,
+    /// when it names a control that the page does not have, or a text that cannot stand in its control.
+    bool showValue(const PageText &value);
+
     /// Shows one quiet line under the form, which screen readers are told of as well; an empty one takes it away.
     void showNote(const QString &text);
 
@@ -106,6 +115,9 @@ protected:
 
     /// The field to be given the focus when one comes back, `last` being the one that had it last, or none.
     virtual QWidget *fieldOnReturn(QWidget *last) const { return last; }
+
+    /// Runs when what the page held once has been put into its controls: shows what follows from that.
+    virtual void followValue() {}
 
     /// Puts the focus on a faulty field, where the page told the places of its checks.
     virtual void focusFault(const FaultPlace &place);
@@ -136,6 +148,7 @@ private:
     QLabel *m_note = nullptr;
     class QHBoxLayout *m_buttons = nullptr;
     QPushButton *m_next = nullptr;
+    PageFields m_fields;
     QPointer<QWidget> m_lastField;  ///< of the form
 };
 

@@ -9,9 +9,28 @@
 
 namespace penwright::test {
 
+/// Its text: the cells between tabs, a line for each row.
+struct HeldTexts {
+    using Cells = std::vector<std::vector<std::string>>;
+
+    static std::string textOf(const Cells &cells)
+    {
+        std::string text;
+        for (const auto &row : cells)
+            for (std::size_t column = 0; column < row.size(); ++column)
+                text += row[column] + (column + 1 < row.size() ? '\t' : '\n');
+        return text;
+    }
+    static std::optional<Cells> valuesOf(std::string_view text)
+    {
+        return text.empty() || text.back() == '\n' ? std::optional(splitGridBlock(text)) : std::nullopt;
+    }
+    static std::size_t bytesOf(const Cells &cells) { return textOf(cells).size(); }
+};
+
 /// A table of texts. It refuses each text with an "x", may take rows, may have a column of row names that nobody edits,
 /// and may offer choices in its first column.
-class TextTable : public GridValues<std::vector<std::vector<std::string>>> {
+class TextTable : public GridValues<std::vector<std::vector<std::string>>, HeldTexts> {
 public:
     using Cells = std::vector<std::vector<std::string>>;
 

@@ -5,6 +5,12 @@
 namespace penwright {
 namespace {
 
+template <typename Cell>
+std::size_t bytesOf(const OneBasedTable<Cell> &cells)
+{
+    return static_cast<std::size_t>(cells.rows()) * static_cast<std::size_t>(cells.columns()) * sizeof(Cell);
+}
+
 /// What the working record takes over when the table is built.
 void swapBuilt(PhotometricRecord &one, PhotometricRecord &other)
 {
@@ -43,6 +49,8 @@ public:
         }
     }
 
+    std::size_t bytes() const override { return sizeof(*this) + m_cells.capacity() * sizeof(Cell); }
+
 private:
     CandelaNumbers &m_numbers;
     std::vector<Cell> m_cells;
@@ -63,6 +71,8 @@ public:
             for (int v = 1; v <= m_cells.columns() && (v - 1) * m_cells.rows() + h <= m_pasted; ++v)
                 m_numbers.keep(h, v);
     }
+
+    std::size_t bytes() const override { return sizeof(*this) + bytesOf(m_cells); }
 
 private:
     CandelaNumbers &m_numbers;
@@ -101,6 +111,12 @@ public:
         std::swap(m_numbers.m_cells, m_cells);
         m_numbers.m_flags.GridReady = true;
         m_numbers.m_flags.GridStarted = true;
+    }
+
+    std::size_t bytes() const override
+    {
+        const auto angles = static_cast<std::size_t>(m_angles.horizontal.size() + m_angles.vertical.size());
+        return sizeof(*this) + bytesOf(m_cells) + bytesOf(m_work.Candela) + 2 * angles * sizeof(float);
     }
 
 private:

@@ -103,6 +103,11 @@ void CandelaPage::buildTable()
     m_form->cdaGridCd->apply(std::move(table));
 }
 
+void CandelaPage::followValue()
+{
+    showCurrentCell();
+}
+
 void CandelaPage::tmrFlip_Timer()
 {
     m_tmrFlip->stop();

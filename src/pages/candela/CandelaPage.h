@@ -37,6 +37,7 @@ public:
     CandelaState &flags() { return m_table->flags(); }
 
 protected:
+    void followValue() override;
     void focusFault(const FaultPlace &place) override;
 
 private:

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/NumberText.h"
+#include "pages/candela/HeldCandela.h"
 #include "pages/candela/PastedValues.h"
 #include "pages/candela/PasteHints.h"
 
@@ -185,6 +186,25 @@ std::unique_ptr<GridContent> CandelaTable::contentAfter(const GridEdit &edit)
         if (isCell(cell.row, cell.column))
             cells.push_back({cell.column, cell.row, toSingle(cell.text)});
     return m_numbers.withCells(std::move(cells));
+}
+
+std::function<std::string()> CandelaTable::held() const
+{
+    if (!m_numbers.flags().GridReady)
+        return GridSource::held();
+    return [cells = CandelaCells()] { return heldCells(cells); };
+}
+
+std::optional<GridEdit> CandelaTable::fromHeld(std::string_view text)
+{
+    if (!m_numbers.flags().GridReady)
+        return text.empty() ? std::optional(GridEdit()) : std::nullopt;
+    auto cells = cellsFromHeld(text, CandelaCells().rows(), CandelaCells().columns());
+    if (!cells)
+        return std::nullopt;
+    GridEdit edit{.name = "New Values", .reach = GridReach::Values};
+    edit.content = m_numbers.withFirst(*std::move(cells), CandelaCells().rows() * CandelaCells().columns());
+    return edit;
 }
 
 std::string CandelaTable::emptied(int row, int column) const

@@ -69,6 +69,12 @@ public:
     std::optional<MessageBox> check(int row, int column, std::string_view text) const override;
     std::unique_ptr<GridContent> contentAfter(const GridEdit &edit) override;
 
+    /// The rows as lines: blanks are empty, singles and doubles told apart. Nothing before there is a table.
+    std::function<std::string()> held() const override;
+
+    /// Only for a table of the size that there is.
+    std::optional<GridEdit> fromHeld(std::string_view text) override;
+
     /// Nothing, which is refused, but for a blank cell, which stays as it is.
     std::string emptied(int row, int column) const override;
 

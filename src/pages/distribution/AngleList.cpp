@@ -6,9 +6,24 @@
 #include "core/NumberText.h"
 #include "core/PhotometricRecord.h"
 #include "grid/GridBlock.h"
+#include "grid/HeldCells.h"
 
 namespace penwright {
 namespace {
+
+constexpr char kNumber = '=';
+constexpr char kText = '\'';
+
+/// A cell from the line that it is held as.
+std::optional<AngleCell> cellFrom(std::string_view line)
+{
+    const char kind = line.empty() ? '\0' : line.front();
+    if (kind == kNumber)
+        return heldNumber<float>(line.substr(1));
+    if (kind == kText)
+        return heldText(line.substr(1));
+    return std::nullopt;
+}
 
 /// Which tokens of an entry hold the first angle and the step, counted from 0.
 struct AngleTokens {
@@ -65,6 +80,42 @@ AngleCells entryCells(std::string_view text, std::int16_t photometricType, Angle
 }
 
 }  // namespace
+
+std::string HeldAngles::textOf(const AngleCells &cells)
+{
+    std::string text;
+    for (const AngleCell &cell : cells) {
+        if (const auto *number = std::get_if<float>(&cell))
+            appendHeldNumber(text += kNumber, *number);
+        else
+            appendHeldText(text += kText, std::get<std::string>(cell));
+        text += '\n';
+    }
+    return text;
+}
+
+std::optional<AngleCells> HeldAngles::valuesOf(std::string_view text)
+{
+    AngleCells values;
+    for (HeldCells cells(text); !cells.isAtEnd();) {
+        const auto line = cells.next('\n');
+        auto cell = line ? cellFrom(*line) : std::nullopt;
+        if (!cell || values.size() == AngleList::kMostAngles)
+            return std::nullopt;
+        values.append(*std::move(cell));
+    }
+    return values;
+}
+
+std::size_t HeldAngles::bytesOf(const AngleCells &cells)
+{
+    std::size_t bytes = 0;
+    for (const AngleCell &cell : cells) {
+        const auto *text = std::get_if<std::string>(&cell);
+        bytes += sizeof(AngleCell) + (text ? bytesOfText(*text) : 0);
+    }
+    return bytes;
+}
 
 std::optional<double> numberIn(const AngleCell &cell)
 {

@@ -33,8 +33,15 @@ inline bool isAllocated(const AngleCells &cells)
     return !cells.empty();
 }
 
+/// Their text: a line for each angle, "=" before a number and "'" before a text.
+struct HeldAngles {
+    static std::string textOf(const AngleCells &cells);
+    static std::optional<AngleCells> valuesOf(std::string_view text);
+    static std::size_t bytesOf(const AngleCells &cells);
+};
+
 /// The angles of one axis as page 4 keeps them and their one-row grid shows them, a column for each.
-class AngleList : public GridValues<AngleCells> {
+class AngleList : public GridValues<AngleCells, HeldAngles> {
 public:
     static constexpr int kMostAngles = 1000;
 

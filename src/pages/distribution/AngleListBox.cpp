@@ -95,6 +95,16 @@ void AngleListBox::offer(std::span<const std::string_view> entries)
     replaceText(toQString(kAnglePrompt));
 }
 
+void AngleListBox::setEntries(std::span<const std::string_view> entries)
+{
+    m_edit->forgetSign();
+    const QString text = m_edit->text();
+    offer(entries);
+    const QSignalBlocker blocker(this);
+    setCurrentIndex(findText(text, Qt::MatchExactly | Qt::MatchCaseSensitive));
+    replaceText(text);
+}
+
 std::string AngleListBox::chosenText() const
 {
     return (m_edit->hasSelectedText() ? m_edit->selectedText() : m_edit->signBefore() + m_edit->text()).toStdString();

@@ -21,6 +21,10 @@ public:
     /// Replaces the entries and shows the prompt, selected, so that typing replaces it. Tells no change.
     void offer(std::span<const std::string_view> entries);
 
+    /// Replaces the entries below a text that stays and is selected; what a minus sign left behind is forgotten. Tells
+    /// no change.
+    void setEntries(std::span<const std::string_view> entries);
+
     /// The selected part of the text, the whole text when none is selected. Digits typed right behind a lone minus sign
     /// come with it, although it was refused and is not shown: "-4" is no count.
     std::string chosenText() const;

@@ -46,6 +46,17 @@ void DistributionPage::rdoB_Click()
     offerAngles();
 }
 
+void DistributionPage::followValue()
+{
+    const bool hasType = m_form->rdoC->isChecked() || m_form->rdoB->isChecked();
+    const auto entries = [&](AngleAxis axis) {
+        return hasType ? predefinedAngles(photometricType(), axis) : std::span<const std::string_view>();
+    };
+    m_form->phoCmbVert->setEntries(entries(AngleAxis::Vertical));
+    m_form->phoCmbHorz->setEntries(entries(AngleAxis::Horizontal));
+    m_form->fraAngles->setVisible(hasType);
+}
+
 void DistributionPage::offerAngles()
 {
     m_form->phoCmbVert->offer(predefinedAngles(photometricType(), AngleAxis::Vertical));

@@ -28,6 +28,7 @@ public:
     ~DistributionPage() override;
 
 protected:
+    void followValue() override;
     void focusFault(const FaultPlace &place) override;
 
 private:

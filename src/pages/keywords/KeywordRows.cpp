@@ -5,6 +5,7 @@
 
 #include "core/CodePoints.h"
 #include "core/LineEnds.h"
+#include "grid/HeldCells.h"
 #include "pages/keywords/KeywordTable.h"
 
 namespace penwright {
@@ -30,6 +31,43 @@ auto at(OneBased<KeywordRow> &rows, int row)
 int KeywordRow::length() const
 {
     return codePointCount(key) + codePointCount(value);
+}
+
+std::string HeldKeywords::textOf(const OneBased<KeywordRow> &rows)
+{
+    std::string text;
+    for (const KeywordRow &row : rows) {
+        appendHeldText(text, row.key);
+        text += '\t';
+        appendHeldText(text, row.value);
+        text += '\n';
+    }
+    return text;
+}
+
+std::optional<OneBased<KeywordRow>> HeldKeywords::valuesOf(std::string_view text)
+{
+    const auto line = [](std::optional<std::string_view> cell) {
+        auto plain = cell ? heldText(*cell) : std::nullopt;
+        return plain && *plain == inOneLine(*plain) ? plain : std::nullopt;
+    };
+    OneBased<KeywordRow> rows;
+    for (HeldCells cells(text); !cells.isAtEnd();) {
+        auto key = line(cells.next('\t'));
+        auto value = line(cells.next('\n'));
+        if (!key || !value)
+            return std::nullopt;
+        rows.append({*std::move(key), *std::move(value)});
+    }
+    return rows;
+}
+
+std::size_t HeldKeywords::bytesOf(const OneBased<KeywordRow> &rows)
+{
+    std::size_t bytes = 0;
+    for (const KeywordRow &row : rows)
+        bytes += sizeof(KeywordRow) + bytesOfText(row.key) + bytesOfText(row.value);
+    return bytes;
 }
 
 GridEdit KeywordRows::loadRows(OneBased<KeywordRow> rows)

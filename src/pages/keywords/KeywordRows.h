@@ -24,8 +24,15 @@ struct KeywordRow {
     bool operator==(const KeywordRow &) const = default;
 };
 
+/// Their text: a line for each, key and value.
+struct HeldKeywords {
+    static std::string textOf(const OneBased<KeywordRow> &rows);
+    static std::optional<OneBased<KeywordRow>> valuesOf(std::string_view text);
+    static std::size_t bytesOf(const OneBased<KeywordRow> &rows);
+};
+
 /// The keyword lines of the new file as the grid of the keyword page shows them. No text is refused.
-class KeywordRows : public GridValues<OneBased<KeywordRow>> {
+class KeywordRows : public GridValues<OneBased<KeywordRow>, HeldKeywords> {
 public:
     static constexpr int kKey = 0;
     static constexpr int kValue = 1;

@@ -11,13 +11,19 @@
 namespace penwright {
 namespace {
 
-void apply(const DimensionLook &look, QLabel &label, QLineEdit &box)
+/// The shape's part of the look, without its text.
+void showLook(const DimensionLook &look, QLabel &label, QLineEdit &box)
 {
     const QString caption = toQString(look.caption);
     label.setText(caption);
     label.setEnabled(look.isEnabled);
     box.setAccessibleName(caption);
     box.setEnabled(look.isEnabled);
+}
+
+void apply(const DimensionLook &look, QLabel &label, QLineEdit &box)
+{
+    showLook(look, label, box);
     if (look.text)
         box.setText(toQString(*look.text));
 }
@@ -55,6 +61,18 @@ void LampPage::comeBackFrom(int page)
 void LampPage::lmpCmbShape_Click()
 {
     gsbDrawLuminaireGeo(static_cast<std::int16_t>(m_form->lmpCmbShape->currentIndex()));
+}
+
+void LampPage::followValue()
+{
+    const int position = m_form->lmpCmbShape->currentIndex();
+    m_form->lmpPicHousing->setShape(static_cast<std::int16_t>(position));
+    const LuminousShape *chosen = luminousShapeAt(position);
+    const LuminousShape &shape = chosen ? *chosen : kNoShape;
+    showLook(shape.width, *m_form->lmpLabWidth, *m_form->txtWidth);
+    showLook(shape.length, *m_form->lmpLabLength, *m_form->txtLength);
+    showLook(shape.height, *m_form->lmpLabHeight, *m_form->txtHeight);
+    tellUnits();
 }
 
 void LampPage::tellUnits()

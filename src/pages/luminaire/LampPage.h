@@ -30,6 +30,7 @@ public:
     void comeBackFrom(int page) override;
 
 protected:
+    void followValue() override;
     void focusFault(const FaultPlace &place) override;
 
 private:

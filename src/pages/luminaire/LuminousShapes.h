@@ -43,6 +43,10 @@ inline constexpr std::size_t kShapeCount = 15;
 /// signs of the shape one row above them.
 extern const std::array<LuminousShape, kShapeCount> kLuminousShapes;
 
+/// How the page looks while no shape is chosen.
+inline constexpr LuminousShape kNoShape{
+    .name = "", .width = {.caption = "Width:"}, .length = {.caption = "Length:"}, .height = {.caption = "Height:"}};
+
 /// The shape at a list position, null outside the list.
 const LuminousShape *luminousShapeAt(int position);
 

@@ -33,6 +33,11 @@ void TiltPage::lmpTxtNumAngles_Change()
         m_form->lmpGridTiltMultiplier->apply(*std::move(edit));
 }
 
+void TiltPage::followValue()
+{
+    m_table->beginCount();
+}
+
 void TiltPage::cmdNext15_Click()
 {
     dlgWarn().Clear();

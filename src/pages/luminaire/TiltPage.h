@@ -21,6 +21,8 @@ public:
     ~TiltPage() override;
 
 protected:
+    void followValue() override;
+
     /// Never the count while there is a table.
     QWidget *fieldOnReturn(QWidget *last) const override;
     void focusFault(const FaultPlace &place) override;

@@ -1,8 +1,43 @@
 #include "pages/luminaire/TiltTable.h"
 
 #include "core/NumberText.h"
+#include "grid/HeldCells.h"
 
 namespace penwright {
+
+std::string HeldTilt::textOf(const TiltValues &values)
+{
+    std::string text;
+    for (int row = 1; row <= values.angles.size(); ++row) {
+        appendHeldNumber(text, values.angles(row));
+        text += '\t';
+        appendHeldNumber(text, values.factors(row));
+        text += '\n';
+    }
+    return text;
+}
+
+std::optional<TiltValues> HeldTilt::valuesOf(std::string_view text)
+{
+    const auto number = [](std::optional<std::string_view> cell) {
+        return cell ? heldNumber<float>(*cell) : std::nullopt;
+    };
+    TiltValues values;
+    for (HeldCells cells(text); !cells.isAtEnd();) {
+        const auto angle = number(cells.next('\t'));
+        const auto factor = number(cells.next('\n'));
+        if (!angle || !factor || values.angles.size() == TiltTable::kMostAngles)
+            return std::nullopt;
+        values.angles.append(*angle);
+        values.factors.append(*factor);
+    }
+    return values;
+}
+
+std::size_t HeldTilt::bytesOf(const TiltValues &values)
+{
+    return static_cast<std::size_t>(values.angles.size() + values.factors.size()) * sizeof(float);
+}
 
 std::optional<GridEdit> TiltTable::newCount(std::string_view text)
 {

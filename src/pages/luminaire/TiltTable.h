@@ -15,8 +15,15 @@ struct TiltValues {
     OneBased<float> factors;
 };
 
+/// Their text: a line for each angle with its factor.
+struct HeldTilt {
+    static std::string textOf(const TiltValues &values);
+    static std::optional<TiltValues> valuesOf(std::string_view text);
+    static std::size_t bytesOf(const TiltValues &values);
+};
+
 /// The tilt angles and factors as the grid of the tilt page shows them: column 0 the angle, column 1 the factor.
-class TiltTable : public GridValues<TiltValues> {
+class TiltTable : public GridValues<TiltValues, HeldTilt> {
 public:
     /// The most angles that a record can hold.
     static constexpr int kMostAngles = 32767;

@@ -4,6 +4,7 @@
 
 #include "core/PhotometricRecord.h"
 #include "support/GridEdits.h"
+#include "support/HeldGrid.h"
 
 namespace penwright::test {
 namespace {
@@ -254,6 +255,36 @@ TEST(AngleCellNumber, raisesWhatNoSingleHolds)
         } catch (const RunTimeError &error) {
             EXPECT_EQ(error.number(), number);
         }
+}
+
+TEST(HeldAngles, comeBackAsTheTextsAndSinglesThatTheyWere)
+{
+    AngleList list(V);
+    resize(list, "3", kTypeC);
+    write(list, 1, 0, "0.10");
+    write(list, 1, 1, "a\\n=b");
+    AngleList entry(V);
+    resize(entry, "19, Type C V.dist 0 to 180, 10 degree increments", kTypeC);
+    for (AngleList *source : {&list, &entry}) {
+        const AngleCells before = source->cells();
+        const auto held = source->held();
+        resize(*source, "1", kTypeC);
+        EXPECT_TRUE(bringBack(*source, held()));
+        EXPECT_EQ(source->cells(), before);
+    }
+}
+
+TEST(HeldAngles, refuseWhatNoListHolds)
+{
+    AngleList list(V);
+    resize(list, "2", kTypeC);
+    for (const char *text : {"5\n", "=x\n", "='\n", "\n", "'a", "'a\\x\n", "'a\tb\n"})
+        EXPECT_FALSE(bringBack(list, text)) << text;
+    std::string tooMany;
+    for (int angle = 0; angle <= AngleList::kMostAngles; ++angle)
+        tooMany += "=1\n";
+    EXPECT_FALSE(bringBack(list, tooMany));
+    EXPECT_EQ(list.columnCount(), 2);
 }
 
 }  // namespace

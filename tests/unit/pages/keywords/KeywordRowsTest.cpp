@@ -4,6 +4,7 @@
 
 #include "pages/keywords/KeywordTable.h"
 #include "support/GridEdits.h"
+#include "support/HeldGrid.h"
 
 namespace penwright::test {
 namespace {
@@ -210,6 +211,26 @@ TEST(KeywordRows, keywordColumnOffersTheTableAndRowOneTheVersionsFirst)
               "IESNA91|Version line of the format of 1991\n" +
                   table);
     EXPECT_TRUE(rows.choices(1, KeywordRows::kValue).empty());
+}
+
+TEST(HeldKeywords, comeBackAsTheyWere)
+{
+    KeywordRows rows = rowsOf("ABC");
+    write(rows, 2, KeywordRows::kValue, "back\\slash");
+    apply(rows, rows.insertRow(2));
+    const OneBased<KeywordRow> before = rows.rows();
+    const auto held = rows.held();
+    apply(rows, *rows.deleteRows(1, 4));
+    EXPECT_TRUE(bringBack(rows, held()));
+    EXPECT_EQ(rows.rows(), before);
+}
+
+TEST(HeldKeywords, refuseWhatNoRowHolds)
+{
+    KeywordRows rows = rowsOf("A");
+    for (const char *text : {"a\n", "a\tb", "a\tb\tc\n", "a\\n\tb\n", "a\tb\\\n", "a\\r\tb\n"})
+        EXPECT_FALSE(bringBack(rows, text)) << text;
+    EXPECT_EQ(shown(rows), "Aa");
 }
 
 }  // namespace

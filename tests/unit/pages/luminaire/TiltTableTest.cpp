@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/GridEdits.h"
+#include "support/HeldGrid.h"
 
 namespace penwright::test {
 namespace {
@@ -176,6 +177,33 @@ TEST(TiltTable, tellsRowsAtADistance)
     EXPECT_EQ(table.relativeRow("2", -1), (RelativeRow{"1", 1}));
     EXPECT_EQ(table.relativeRow("2", -2), (RelativeRow{"", 0}));
     EXPECT_EQ(table.relativeRow("3", 1), (RelativeRow{"", 4}));
+}
+
+TEST(HeldTilt, comesBackToTheLastBit)
+{
+    TiltTable table = filledTable();
+    write(table, 2, TiltTable::kFactor, "0.1234567");
+    const auto held = table.held();
+    const OneBased<float> angles = table.angles();
+    const OneBased<float> factors = table.factors();
+    giveCount(table, "1");
+    EXPECT_TRUE(bringBack(table, held()));
+    EXPECT_EQ(table.angles(), angles);
+    EXPECT_EQ(table.factors(), factors);
+    EXPECT_TRUE(bringBack(table, ""));
+    EXPECT_EQ(table.rowCount(), 0);
+}
+
+TEST(HeldTilt, refusesWhatNoTableHolds)
+{
+    TiltTable table = filledTable();
+    for (const char *text : {"1\n", "1\t2", "1\t2\t3\n", "x\t1\n", "1\tinf\n"})
+        EXPECT_FALSE(bringBack(table, text)) << text;
+    std::string tooMany;
+    for (int row = 0; row <= TiltTable::kMostAngles; ++row)
+        tooMany += "1\t1\n";
+    EXPECT_FALSE(bringBack(table, tooMany));
+    EXPECT_EQ(table.rowCount(), 3);
 }
 
 }  // namespace

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/CandelaCell.h"
+#include "core/OneBased.h"
+
+namespace penwright {
+
+/// The text of cells by (horizontal index, vertical index), exact to the last bit: a line for each vertical angle, a
+/// cell for each horizontal one. A blank is an empty cell, a double has a "d" behind it.
+std::string heldCells(const OneBasedTable<CandelaCell> &cells);
+
+/// The cells of such a text; nothing when it is not of that many horizontal and vertical angles.
+std::optional<OneBasedTable<CandelaCell>> cellsFromHeld(std::string_view text, int horizontal, int vertical);
+
+}  // namespace penwright
