@@ -16,6 +16,7 @@
 #include "pages/candela/CandelaTable.h"
 #include "platform/qt/Closing.h"
 #include "support/FakeDialogs.h"
+#include "wizard/PageSteps.h"
 #include "wizard/WarningDialog.h"
 
 namespace {
@@ -78,6 +79,18 @@ public:
     {
         QKeyEvent key(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
         QCoreApplication::sendEvent(grid(), &key);
+        QCoreApplication::processEvents();
+    }
+
+    void undo()
+    {
+        page.steps().undo();
+        QCoreApplication::processEvents();
+    }
+
+    void redo()
+    {
+        page.steps().redo();
         QCoreApplication::processEvents();
     }
 
@@ -160,13 +173,61 @@ void pastedToRedrawnPlot(benchmark::State &state)
     ShownPage shown;
     shown.open();
     QApplication::clipboard()->setText(QString::fromStdString(pastedText()));
-    for (auto _ : state)
+    for (auto _ : state) {
         shown.paste();
+        shown.page.steps().forgetAll();  // their memory is measured below
+    }
     rusage usage{};
     getrusage(RUSAGE_SELF, &usage);
     state.counters["peak_MB"] = static_cast<double>(usage.ru_maxrss) / 1024;
 }
 BENCHMARK(pastedToRedrawnPlot)->Unit(benchmark::kMillisecond);
+
+/// A paste over other values, which can be undone and redone.
+void pasteTwice(ShownPage &shown)
+{
+    shown.open();
+    QApplication::clipboard()->setText(QString::fromStdString(pastedText()));
+    shown.paste();
+    shown.paste();
+}
+
+void pasteUndoneToRedrawnPlot(benchmark::State &state)
+{
+    ShownPage shown;
+    pasteTwice(shown);
+    for (auto _ : state) {
+        shown.undo();
+        state.PauseTiming();
+        shown.redo();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(pasteUndoneToRedrawnPlot)->Unit(benchmark::kMillisecond);
+
+void pasteRedoneToRedrawnPlot(benchmark::State &state)
+{
+    ShownPage shown;
+    pasteTwice(shown);
+    for (auto _ : state) {
+        state.PauseTiming();
+        shown.undo();
+        state.ResumeTiming();
+        shown.redo();
+    }
+}
+BENCHMARK(pasteRedoneToRedrawnPlot)->Unit(benchmark::kMillisecond);
+
+/// Pastes one over the other, each of which is a step until they take too much memory.
+void pastedWithItsSteps(benchmark::State &state)
+{
+    ShownPage shown;
+    pasteTwice(shown);
+    for (auto _ : state)
+        shown.paste();
+    state.counters["steps_MB"] = static_cast<double>(shown.page.steps().bytes()) / 1e6;
+}
+BENCHMARK(pastedWithItsSteps)->Unit(benchmark::kMillisecond);
 
 void cellAcceptedToRedrawnPlot(benchmark::State &state)
 {

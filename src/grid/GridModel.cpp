@@ -31,15 +31,26 @@ void GridModel::setSource(std::shared_ptr<GridSource> source)
     endResetModel();
 }
 
-bool GridModel::apply(GridEdit edit)
+bool GridModel::apply(GridEdit given)
 {
-    const auto refusal = prepareEdit(edit, *m_source);
-    if (edit.content)
-        write(edit);
-    emit hinted(QString::fromStdString(edit.hint));
+    const auto edit = std::make_shared<GridEdit>(std::move(given));
+    const auto refusal = prepareEdit(*edit, *m_source);
+    if (edit->content) {
+        write(*edit);
+        for (GridText &cell : edit->texts)
+            cell.text = std::string();
+        emit made(edit);
+    }
+    emit hinted(QString::fromStdString(edit->hint));
     if (refusal)
         emit refused(*refusal);
     return !refusal;
+}
+
+void GridModel::exchange(const GridEdit &edit)
+{
+    write(edit);
+    emit hinted({});
 }
 
 void GridModel::write(const GridEdit &edit)
@@ -65,22 +76,30 @@ void GridModel::writeTable(GridContent &content)
 // One signal for all of them to the toolkit: a block may have a million cells.
 void GridModel::tellCells(const std::vector<GridText> &cells)
 {
-    showNewRows();
-    if (cells.empty())
+    showRows();
+    const int rows = m_source->rowCount();
+    if (cells.empty() || cells.front().row > rows)
         return;
-    emit dataChanged(index(cells.front().row - 1, 0), index(cells.back().row - 1, m_columns - 1));
+    emit dataChanged(index(cells.front().row - 1, 0), index(std::min(rows, cells.back().row) - 1, m_columns - 1));
     for (const GridText &cell : cells)
-        emit cellWritten(cell.row, cell.column);
+        if (cell.row <= rows)
+            emit cellWritten(cell.row, cell.column);
 }
 
-void GridModel::showNewRows()
+void GridModel::showRows()
 {
     const int rows = shownRows();
     if (rows == m_rows)
         return;
-    beginInsertRows({}, m_rows, rows - 1);
-    m_rows = rows;
-    endInsertRows();
+    if (rows > m_rows) {
+        beginInsertRows({}, m_rows, rows - 1);
+        m_rows = rows;
+        endInsertRows();
+    } else {
+        beginRemoveRows({}, rows, m_rows - 1);
+        m_rows = rows;
+        endRemoveRows();
+    }
     emit headerDataChanged(Qt::Vertical, 0, m_rows - 1);
 }
 

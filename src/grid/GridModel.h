@@ -28,6 +28,10 @@ public:
     /// The one way to change the source: checks, writes, tells. False when the edit, or a part of it, was refused.
     bool apply(GridEdit edit);
 
+    /// Takes a change back that `apply` has made, or makes it again: each time it exchanges what stands with what the
+    /// edit's content keeps. To be called in turns, on what stood when it was made last.
+    void exchange(const GridEdit &edit);
+
     bool isReadOnly(int column) const { return m_source->isReadOnly(column); }
     std::vector<GridChoice> choices(const QModelIndex &cell) const;
 
@@ -45,6 +49,9 @@ public:
     Qt::ItemFlags flags(const QModelIndex &index) const override;
 
 signals:
+    /// A change has been made by `apply`. Its content keeps what stood before, its texts are gone but for their places.
+    void made(const std::shared_ptr<penwright::GridEdit> &edit);
+
     /// A new text has been written into a cell.
     void cellWritten(int row, int column);
 
@@ -62,10 +69,10 @@ private:
     void write(const GridEdit &edit);
     void writeTable(GridContent &content);
     void tellCells(const std::vector<GridText> &cells);
-    void showNewRows();
+    void showRows();
 
     std::shared_ptr<GridSource> m_source;
-    int m_rows = 0;  ///< as the toolkit knows them: the source grows before it is told
+    int m_rows = 0;  ///< as the toolkit knows them: the source changes before it is told
     int m_columns = 0;
 };
 

@@ -35,6 +35,10 @@ public:
     /// A key pressed in the open editor. What leaves the cell commits it first, and stays where it is refused.
     KeyUse editorKey(const QKeyEvent &event);
 
+    /// Copies the selected block, and pastes one, as the keys do.
+    void copy() { m_block.copy(); }
+    void paste() { m_block.paste(); }
+
     /// Goes on as Tab does from the current cell; false where that leaves the grid.
     bool walkOn(bool forward);
 

@@ -32,7 +32,7 @@ public:
     std::optional<GridEdit> fromHeld(std::string_view text) final
     {
         std::optional<Values> values = Held::valuesOf(text);
-        return values ? std::optional(replacement("New Values", *std::move(values))) : std::nullopt;
+        return values ? std::optional(replacement({}, *std::move(values))) : std::nullopt;
     }
 
 protected:

@@ -1,10 +1,13 @@
 #include "grid/GridView.h"
 
 #include <algorithm>
+#include <QAction>
 #include <QApplication>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <utility>
 
 #include "controls/InView.h"
@@ -24,7 +27,8 @@ GridView::GridView(QWidget *parent)
       m_delegate(new GridDelegate(this)),
       m_refusal(new GridRefusal(this)),
       m_editor(std::make_unique<GridCellEditor>(*this, *m_delegate, *m_refusal)),
-      m_steering(*this, *m_model, *m_editor)
+      m_steering(*this, *m_model, *m_editor),
+      m_menu(new QMenu(this))
 {
     auto *lines = new GridLinesStyle;
     lines->setParent(this);
@@ -41,6 +45,9 @@ GridView::GridView(QWidget *parent)
     verticalHeader()->setHighlightSections(false);
     verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     setHeaderSizes();
+    m_menu->setObjectName("mnuGrid");
+    addMenuAction("copyBlock", "&Copy", QKeySequence::Copy, &GridSteering::copy);
+    addMenuAction("pasteBlock", "&Paste", QKeySequence::Paste, &GridSteering::paste);
     connect(m_model, &GridModel::cellWritten, this, &GridView::cellWritten);
     connect(m_model, &GridModel::valuesReplaced, this, &GridView::valuesReplaced);
     connect(m_model, &GridModel::hinted, this, &GridView::hinted);
@@ -64,6 +71,24 @@ void GridView::setSource(std::shared_ptr<GridSource> source, Dialogs &dialogs)
 GridSource &GridView::source() const
 {
     return m_model->source();
+}
+
+void GridView::addMenuAction(const char *name, const QString &text, QKeySequence::StandardKey key,
+                             void (GridSteering::*act)())
+{
+    QAction *action = m_menu->addAction(text);
+    action->setObjectName(name);
+    action->setShortcut(key);  // shown alone: the key itself is the grid's
+    action->setShortcutContext(Qt::WidgetShortcut);
+    action->setShortcutVisibleInContextMenu(true);
+    connect(action, &QAction::triggered, this, [this, act] { (m_steering.*act)(); });
+}
+
+void GridView::setStepActions(QAction *undo, QAction *redo)
+{
+    QAction *copy = m_menu->actions().value(0);
+    m_menu->insertActions(copy, {undo, redo});
+    m_menu->insertSeparator(copy);
 }
 
 void GridView::setTextAlignment(Qt::Alignment alignment)
@@ -279,6 +304,17 @@ void GridView::mouseReleaseEvent(QMouseEvent *event)
 {
     if (!m_steering.releaseArrow(*event))
         QTableView::mouseReleaseEvent(event);
+}
+
+void GridView::contextMenuEvent(QContextMenuEvent *event)
+{
+    m_menu->popup(menuPlace(*event));
+}
+
+QPoint GridView::menuPlace(const QContextMenuEvent &event) const
+{
+    const bool isByKey = event.reason() == QContextMenuEvent::Keyboard;
+    return isByKey ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()) : event.globalPos();
 }
 
 void GridView::setHeaderSizes()

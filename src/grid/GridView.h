@@ -8,6 +8,8 @@
 #include "grid/GridSteering.h"
 #include "platform/Dialogs.h"
 
+class QMenu;
+
 namespace penwright {
 
 class GridCellEditor;
@@ -19,7 +21,8 @@ class GridRefusal;
 /// double click edit it, Enter commits and moves down, or along the only row, Tab commits and walks, Escape gives the
 /// old text back, Delete clears the selected cells, Ctrl+C and Ctrl+V copy and paste tab-delimited text. F4 and
 /// Alt+Down open the list of a cell that has choices. Ctrl+Shift+Up and Ctrl+Shift+Down extend the selection to the
-/// first and the last row. Ctrl+Tab and Ctrl+Shift+Tab leave the grid.
+/// first and the last row. Ctrl+Tab and Ctrl+Shift+Tab leave the grid. A menu, `mnuGrid`, copies, pastes and takes
+/// steps back.
 ///
 /// A text that the source refuses is told in one message once the event that committed it is over; the cell keeps its
 /// old text and becomes the current one again. An editor stays open while another window has the focus.
@@ -34,6 +37,12 @@ public:
     void setSource(std::shared_ptr<GridSource> source, Dialogs &dialogs);
 
     GridSource &source() const;
+
+    /// Through which every change goes.
+    GridModel &changes() const { return *m_model; }
+
+    /// The entries for undo and redo in the menu of the grid, which has one to copy and one to paste as well.
+    virtual void setStepActions(QAction *undo, QAction *redo);
 
     void setTabWay(TabWay way) { m_steering.setTabWay(way); }
 
@@ -99,6 +108,10 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+
+    /// Where a menu opens that an event asks for: at the current cell when it is asked for by key.
+    QPoint menuPlace(const QContextMenuEvent &event) const;
 
 protected slots:
     void closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint) override;
@@ -111,12 +124,15 @@ private:
     void showRefused(int row, int column);
     void tellRefusal(const RefusedEdit &refused);
     void setHeaderSizes();
+    void addMenuAction(const char *name, const QString &text, QKeySequence::StandardKey key,
+                       void (GridSteering::*act)());
 
     GridModel *m_model;
     GridDelegate *m_delegate;
     GridRefusal *m_refusal;
     std::unique_ptr<GridCellEditor> m_editor;
     GridSteering m_steering;
+    QMenu *m_menu;
     GridCell m_before;            ///< the current cell while rows and columns are read anew
     GridCell m_announced{0, -1};  ///< what currentCellChanged told last
 };

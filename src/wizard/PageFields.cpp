@@ -68,6 +68,12 @@ QString PageFields::textOf(const QWidget &box)
     return button && button->isChecked() ? "1" : "0";
 }
 
+QLineEdit *PageFields::lineOf(QWidget *box)
+{
+    auto *list = qobject_cast<QComboBox *>(box);
+    return list ? list->lineEdit() : qobject_cast<QLineEdit *>(box);
+}
+
 void PageFields::put(QWidget &box, const QString &text)
 {
     const QSignalBlocker untold(&box);

@@ -9,6 +9,7 @@
 #include "draft/PageValue.h"
 #include "grid/GridEdit.h"
 
+class QLineEdit;
 class QWidget;
 
 namespace penwright {
@@ -28,6 +29,9 @@ public:
     /// What a box holds: the text, of a closed list the position counted from 0 or -1, of an option and a check box "1"
     /// or "0".
     static QString textOf(const QWidget &box);
+
+    /// The text that is typed into a box; none for options and closed lists.
+    static QLineEdit *lineOf(QWidget *box);
 
     /// Gives a box what it held once. Nothing that follows a user's change runs.
     static void put(QWidget &box, const QString &text);

@@ -18,6 +18,8 @@
 #include "grid/GridView.h"
 #include "platform/qt/QtText.h"
 #include "wizard/HandlerGuard.h"
+#include "wizard/PageSteps.h"
+#include "wizard/StepKeys.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {
@@ -149,19 +151,24 @@ void PageFrame::addButtons(const Handler &next, const Handler &back)
     connect(new QShortcut(QKeySequence("Alt+B"), this), &QShortcut::activated, backButton, &QPushButton::click);
     keepEnterFromFields();
     m_fields = PageFields(*m_formArea);
+    m_steps = new PageSteps(
+        *this, m_fields, [this] { followValue(); }, [this] { return navigator().isBusy(); });
+    new StepKeys(*this, m_fields, *m_steps);
 }
 
-bool PageFrame::showValue(const PageText &value)
+bool PageFrame::showValue(const PageText &value, const QString &step)
 {
     auto changes = m_fields.changes(value);
     if (!changes)
         return false;
+    m_steps->beginAct(step);
     for (QWidget *box : m_fields.boxes())
         if (const auto text = value.find(box->objectName().toStdString()); text != value.end())
             PageFields::put(*box, toQString(text->second));
     for (PageFields::Change &change : *changes)
         change.grid->apply(std::move(change.edit));
     followValue();
+    m_steps->endAct();
     return true;
 }
 

@@ -17,6 +17,7 @@ class QPushButton;
 namespace penwright {
 
 class Dialogs;
+class PageSteps;
 class WarningDialog;
 struct FaultPlace;
 
@@ -85,7 +86,11 @@ public:
 
     /// Puts texts that controls of a page held into those of this one; the others stay. False, and nothing is changed,
     /// when it names a control that the page does not have, or a text that cannot stand in its control.
-    bool showValue(const PageText &value);
+    /// It is one step, of that name.
+    bool showValue(const PageText &value, const QString &step);
+
+    /// What has been done on the page, to be undone.
+    PageSteps &steps() const { return *m_steps; }
 
     /// Shows one quiet line under the form, which screen readers are told of as well; an empty one takes it away.
     void showNote(const QString &text);
@@ -149,6 +154,7 @@ private:
     class QHBoxLayout *m_buttons = nullptr;
     QPushButton *m_next = nullptr;
     PageFields m_fields;
+    PageSteps *m_steps = nullptr;
     QPointer<QWidget> m_lastField;  ///< of the form
 };
 

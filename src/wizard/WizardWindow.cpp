@@ -22,6 +22,7 @@
 #include "platform/qt/Closing.h"
 #include "platform/qt/Placeholder.h"
 #include "wizard/HandlerGuard.h"
+#include "wizard/PageSteps.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {
@@ -112,8 +113,10 @@ void WizardWindow::load()
     if (m_state.start.EmbedInHost)
         m_state.start.PreviousParent =
             m_services.embedding.SetParent(static_cast<std::uint32_t>(m_state.start.HostWindow));
-    for (PageFrame *page : m_pages)
+    for (PageFrame *page : m_pages) {
         page->load();
+        page->steps().forgetAll();
+    }
     m_tmrDataExchange->start();
 }
 
@@ -182,8 +185,10 @@ bool WizardWindow::isBusy() const
 
 void WizardWindow::StartWizard()
 {
-    for (PageFrame *page : m_pages)
+    for (PageFrame *page : m_pages) {
         page->start();
+        page->steps().forgetAll();
+    }
     turnTo(kLampPage, Arrival::First);
     show();
     m_services.embedding.takeFocus();

@@ -33,13 +33,9 @@ const std::vector<std::string> kMessageCode{"core",
                                             "help/window/QtHelpViewer.cpp"};
 
 /// Texts of several words that are no messages: they are read out by screen readers, stand in a log that is never
-/// shown, are the title of a window that is hidden still or a dialog's filter, name an edit, or are said by the
-/// compiler.
+/// shown, are the title of a window that is hidden still or a dialog's filter, or are said by the compiler.
 const std::set<std::string> kNoMessages{
     "What is missing or wrong",
-    "Insert Row",
-    "New Count",
-    "New Table",
     "Sketch of the luminous shape",
     "No shape",
     "Candela plot",

@@ -150,5 +150,38 @@ TEST_F(HostData, isNotToldBeforeThereIsATable)
     EXPECT_EQ(note(kLampPage), "");
 }
 
+TEST_F(HostData, undoBringsBackWhatDidNotFit)
+{
+    showTable({0, 90}, {0, 45, 90});
+    paste("1\t2\n3\t4\n5\t6");
+    const PhotometricRecord before = state.PhotFiles(1);
+    hostSends({0}, {0, 90});
+    EXPECT_EQ(table(), "1|3|");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(table(), "1 2|3 4|5 6|");
+    EXPECT_EQ(state.PhotFiles(1).HorAngles, before.HorAngles);
+    EXPECT_EQ(state.PhotFiles(1).NumVertAngles, 3);
+    EXPECT_EQ(state.PhotFiles(1).Filename, "from the host.ies");
+    press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(table(), "1|3|");
+    EXPECT_EQ(state.PhotFiles(1).NumVertAngles, 2);
+}
+
+TEST_F(HostData, undoBringsBackWhatAnOpenEditorHeldToo)
+{
+    showTable({0, 90}, {0, 90});
+    paste("1\t2\n3\t4");
+    grid().goTo(1, 1);
+    typeText("7");
+    hostSends({0}, {0});
+    EXPECT_EQ(table(), "7|");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(table(), "7 2|3 4|");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(table(), "1 2|3 4|");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(table(), "   |   |");
+}
+
 }  // namespace
 }  // namespace penwright::test

@@ -177,7 +177,7 @@ TEST_F(KeywordPageRows, contextMenuActsOnTheCurrentRow)
     std::string entries;
     for (const QAction *entry : menu()->actions())
         entries += entry->text().remove('&').toStdString() + (entry->isSeparator() ? "-" : "") + "\n";
-    EXPECT_EQ(entries, "Insert Row Above\nDelete Row\n-\nMove Row Up\nMove Row Down\n");
+    EXPECT_EQ(entries, "Insert Row Above\nDelete Row\n-\nMove Row Up\nMove Row Down\n-\nUndo\nRedo\n");
     QTest::keyClick(menu(), Qt::Key_D);
     EXPECT_EQ(order(), "1ACD");
     EXPECT_FALSE(menu()->isVisible());

@@ -93,7 +93,7 @@ TEST_F(PageValueTest, comesBackOnEachPageOfAnotherWizard)
     window->ShowPage(kKeywordPage);
     for (int index = kLampPage; index <= kDistributionPage; ++index) {
         EXPECT_NE(textsOf(page(index)), texts.at(index));
-        EXPECT_TRUE(page(index).showValue(texts.at(index)));
+        EXPECT_TRUE(page(index).showValue(texts.at(index), "Back"));
         EXPECT_EQ(textsOf(page(index)), texts.at(index));
     }
     EXPECT_EQ(look(kLampPage), looks.at(kLampPage));
@@ -115,7 +115,7 @@ TEST_F(PageValueTest, bringsBackTheUntouchedPagesToo)
             fillPageFour();
         }
         EXPECT_NE(textsOf(page(index)), untouched);
-        EXPECT_TRUE(page(index).showValue(untouched));
+        EXPECT_TRUE(page(index).showValue(untouched, "Back"));
         EXPECT_EQ(textsOf(page(index)), untouched);
         EXPECT_EQ(look(index), before);
     }
@@ -123,7 +123,7 @@ TEST_F(PageValueTest, bringsBackTheUntouchedPagesToo)
 
 TEST_F(PageValueTest, keepsTheTextOfABoxThatItsShapeWouldEmpty)
 {
-    EXPECT_TRUE(page(kLampPage).showValue({{"lmpCmbShape", "2"}, {"txtWidth", "7"}}));
+    EXPECT_TRUE(page(kLampPage).showValue({{"lmpCmbShape", "2"}, {"txtWidth", "7"}}, "Back"));
     EXPECT_EQ(text("txtWidth"), "7");
 }
 
@@ -133,7 +133,7 @@ TEST_F(PageValueTest, keepsTheValuesOfATableThatItsCountWouldEmpty)
     fillPageTwo();
     const PageText filled = textsOf(page(kTiltPage));
     setText("lmpTxtNumAngles", "3");
-    EXPECT_TRUE(page(kTiltPage).showValue(filled));
+    EXPECT_TRUE(page(kTiltPage).showValue(filled, "Back"));
     EXPECT_EQ(textsOf(page(kTiltPage)), filled);
 }
 
@@ -145,16 +145,16 @@ TEST_F(PageValueTest, bringsTheCandelaBackToATableOfItsSize)
     typeText("77");
     press(Qt::Key_Return);
     EXPECT_NE(textsOf(page(kCandelaPage)), filled);
-    EXPECT_TRUE(page(kCandelaPage).showValue(filled));
+    EXPECT_TRUE(page(kCandelaPage).showValue(filled, "Back"));
     EXPECT_EQ(textsOf(page(kCandelaPage)), filled);
-    EXPECT_FALSE(page(kCandelaPage).showValue({{"cdaGridCd", "1\n2\n"}}));
+    EXPECT_FALSE(page(kCandelaPage).showValue({{"cdaGridCd", "1\n2\n"}}, "Back"));
 }
 
 TEST_F(PageValueTest, isRefusedAsAWholeForAControlThatThePageDoesNotHave)
 {
     const PageText before = textsOf(page(kLampPage));
     for (const char *name : {"", "lmpTxtNumAngles", "cmdNext10", "lmpLabWidth"})
-        EXPECT_FALSE(page(kLampPage).showValue({{"txtWatt", "9"}, {name, "1"}})) << name;
+        EXPECT_FALSE(page(kLampPage).showValue({{"txtWatt", "9"}, {name, "1"}}, "Back")) << name;
     EXPECT_EQ(textsOf(page(kLampPage)), before);
 }
 
@@ -169,9 +169,9 @@ TEST_F(PageValueTest, isRefusedAsAWholeForATextThatCannotStandThere)
     };
     const PageText before = textsOf(page(kLampPage));
     for (const auto &[name, text] : bad)
-        EXPECT_FALSE(page(kLampPage).showValue({{"txtBallast", "9"}, {name, text}})) << name << " " << text;
+        EXPECT_FALSE(page(kLampPage).showValue({{"txtBallast", "9"}, {name, text}}, "Back")) << name << " " << text;
     EXPECT_EQ(textsOf(page(kLampPage)), before);
-    EXPECT_TRUE(page(kLampPage).showValue({{"rdoFeet", "0"}, {"rdoMeters", "1"}}));
+    EXPECT_TRUE(page(kLampPage).showValue({{"rdoFeet", "0"}, {"rdoMeters", "1"}}, "Back"));
 }
 
 TEST_F(PageValueTest, isRefusedForAGridsTextThatIsDamaged)
@@ -179,7 +179,7 @@ TEST_F(PageValueTest, isRefusedForAGridsTextThatIsDamaged)
     window->ShowPage(kTiltPage);
     fillPageTwo();
     const PageText before = textsOf(page(kTiltPage));
-    EXPECT_FALSE(page(kTiltPage).showValue({{"lmpTxtNumAngles", "9"}, {"lmpGridTiltMultiplier", "1\t"}}));
+    EXPECT_FALSE(page(kTiltPage).showValue({{"lmpTxtNumAngles", "9"}, {"lmpGridTiltMultiplier", "1\t"}}, "Back"));
     EXPECT_EQ(textsOf(page(kTiltPage)), before);
 }
 

@@ -109,6 +109,7 @@ public:
         swapBuilt(work(1), m_work);
         std::swap(m_numbers.m_angles, m_angles);
         std::swap(m_numbers.m_cells, m_cells);
+        m_numbers.giveAngles();
         m_numbers.m_flags.GridReady = true;
         m_numbers.m_flags.GridStarted = true;
     }
@@ -152,6 +153,20 @@ std::unique_ptr<GridContent> CandelaNumbers::withFirst(OneBasedTable<CandelaCell
 std::unique_ptr<GridContent> CandelaNumbers::ofAngles(const PhotometricRecord &from)
 {
     return std::make_unique<NewTable>(*this, from);
+}
+
+/// Gives the record the type, counts and angles that the table is of; it has others where the table comes back from
+/// before it was built anew.
+void CandelaNumbers::giveAngles()
+{
+    if (m_state.PhotFiles.empty() || isFor(m_state.PhotFiles(1)))
+        return;
+    PhotometricRecord &record = m_state.PhotFiles(1);
+    record.PhotometricType = m_angles.type;
+    record.NumHorzAngles = static_cast<std::int16_t>(m_angles.horizontal.size());
+    record.NumVertAngles = static_cast<std::int16_t>(m_angles.vertical.size());
+    record.HorAngles = m_angles.horizontal;
+    record.VertAngles = m_angles.vertical;
 }
 
 /// Has the working record follow a cell.

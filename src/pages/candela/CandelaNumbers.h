@@ -62,6 +62,7 @@ private:
         OneBased<float> vertical;
     };
 
+    void giveAngles();
     void keep(int h, int v);
 
     ToolState &m_state;

@@ -10,6 +10,7 @@
 #include "pages/candela/StoreCandela.h"
 #include "plot/PlotLook.h"
 #include "ui_CandelaPage.h"
+#include "wizard/PageSteps.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {
@@ -60,6 +61,7 @@ void CandelaPage::start()
 void CandelaPage::connectGrid()
 {
     CandelaGrid *grid = m_form->cdaGridCd;
+    connect(grid, &GridView::rebuilt, this, &CandelaPage::showTable);
     connect(grid, &GridView::cellWritten, this, [this] { m_isTypedInto = true; });
     connect(grid, &GridView::cellWritten, this, &CandelaPage::refreshPlot);
     connect(grid, &GridView::currentCellChanged, this, &CandelaPage::showCell);
@@ -70,9 +72,12 @@ void CandelaPage::connectGrid()
 
 void CandelaPage::lsbStart()
 {
+    const bool isFirst = !flags().GridStarted;
     buildTable();
     m_form->cdaGridCd->goTo(1, 1);
     showCurrentCell();
+    if (isFirst)
+        steps().forgetAll();  // there was no table before it
     if (m_tmrFlip)
         m_tmrFlip->start();
 }
@@ -85,6 +90,7 @@ bool CandelaPage::followRecord()
         const QSignalBlocker unseen(m_form->cdaGridCd);  // no plot of the old cells under the new angles
         m_form->cdaGridCd->commitEditIfValid();
     }
+    steps().endAct();  // what was typed is a step of its own
     buildTable();
     m_form->cdaGridCd->makeCurrent(1, 1);  // another page may be shown, and has the focus
     showCurrentCell();
@@ -93,14 +99,17 @@ bool CandelaPage::followRecord()
 
 void CandelaPage::buildTable()
 {
-    GridEdit table = m_table->newTable();
+    m_form->cdaGridCd->apply(m_table->newTable());
+}
+
+void CandelaPage::showTable()
+{
     m_shownColumn = 1;
     m_isTypedInto = false;
     const bool hasCone = state().PhotFiles(1).PhotometricType != kTypeB;
     for (QWidget *part : {static_cast<QWidget *>(m_form->rtbHorz), static_cast<QWidget *>(m_form->Label50a),
                           static_cast<QWidget *>(m_form->coneKey)})
         part->setVisible(hasCone);
-    m_form->cdaGridCd->apply(std::move(table));
 }
 
 void CandelaPage::followValue()

@@ -47,6 +47,7 @@ private:
 
     void connectGrid();
     void buildTable();
+    void showTable();
     void showCurrentCell();
     void showCell(int row, int column);
     void refreshPlot();

@@ -202,7 +202,7 @@ std::optional<GridEdit> CandelaTable::fromHeld(std::string_view text)
     auto cells = cellsFromHeld(text, CandelaCells().rows(), CandelaCells().columns());
     if (!cells)
         return std::nullopt;
-    GridEdit edit{.name = "New Values", .reach = GridReach::Values};
+    GridEdit edit{.reach = GridReach::Values};
     edit.content = m_numbers.withFirst(*std::move(cells), CandelaCells().rows() * CandelaCells().columns());
     return edit;
 }

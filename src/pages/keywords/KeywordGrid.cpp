@@ -80,6 +80,12 @@ void KeywordGrid::setRows(std::shared_ptr<KeywordRows> rows, Dialogs &dialogs)
     setKeyWidth();
 }
 
+void KeywordGrid::setStepActions(QAction *undo, QAction *redo)
+{
+    m_menu->addSeparator();
+    m_menu->addActions({undo, redo});
+}
+
 KeywordRow KeywordGrid::shownLine() const
 {
     KeywordRow line;
@@ -194,8 +200,7 @@ void KeywordGrid::keyPressEvent(QKeyEvent *event)
 
 void KeywordGrid::contextMenuEvent(QContextMenuEvent *event)
 {
-    const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
-    m_menu->popup(byKey ? viewport()->mapToGlobal(visualRect(currentIndex()).bottomLeft()) : event->globalPos());
+    m_menu->popup(menuPlace(*event));
 }
 
 void KeywordGrid::headerMenu(const QPoint &place)

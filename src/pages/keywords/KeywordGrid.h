@@ -23,6 +23,9 @@ public:
     /// Serves `rows`, as setSource does.
     void setRows(std::shared_ptr<KeywordRows> rows, Dialogs &dialogs);
 
+    /// Puts them behind the entries of `mnuRows`.
+    void setStepActions(QAction *undo, QAction *redo) override;
+
     /// The current line as it would be stored, with what is typed in an open editor.
     KeywordRow shownLine() const;
 

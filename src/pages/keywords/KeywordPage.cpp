@@ -5,6 +5,7 @@
 #include "pages/keywords/KeywordHints.h"
 #include "pages/keywords/KeywordLines.h"
 #include "ui_KeywordPage.h"
+#include "wizard/PageSteps.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {
@@ -28,6 +29,7 @@ void KeywordPage::enter()
     if (m_hasRows)
         return;
     cmdDefaultLoad_Click();
+    steps().forgetAll();  // they are what undo leads back to
     m_hasRows = true;
 }
 

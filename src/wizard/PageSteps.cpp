@@ -1,0 +1,254 @@
+#include "wizard/PageSteps.h"
+
+#include <QAction>
+#include <QApplication>
+
+#include <algorithm>
+#include <utility>
+
+#include "grid/GridModel.h"
+#include "grid/GridView.h"
+#include "wizard/PageFields.h"
+
+namespace penwright {
+namespace {
+
+bool beginsAct(QEvent::Type type)
+{
+    switch (type) {
+        case QEvent::KeyPress:
+        case QEvent::Shortcut:
+        case QEvent::InputMethod:
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Drop:
+        case QEvent::ContextMenu:
+            return true;
+        default:
+            return false;
+    }
+}
+
+/// Whether an event ends a go of typing, where it comes to the box that is typed into, too.
+bool endsGo(QEvent::Type type)
+{
+    return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick || type == QEvent::Drop;
+}
+
+QAction *makeAction(const char *name, const QList<QKeySequence> &keys, QObject *parent)
+{
+    auto *action = new QAction(parent);
+    action->setObjectName(name);
+    action->setShortcuts(keys);  // shown in menus alone: the keys come before those of the boxes
+    action->setShortcutContext(Qt::WidgetShortcut);
+    action->setShortcutVisibleInContextMenu(true);
+    return action;
+}
+
+void show(QAction &action, const QString &verb, const QString &step, bool isThere)
+{
+    action.setText(isThere ? verb + ' ' + step : verb);
+    action.setEnabled(isThere);
+}
+
+}  // namespace
+
+PageSteps::PageSteps(QWidget &page, const PageFields &fields, std::function<void()> follow,
+                     std::function<bool()> isBusy, std::size_t mostBytes)
+    : QObject(&page),
+      m_page(page),
+      m_fields(fields),
+      m_follow(std::move(follow)),
+      m_isBusy(std::move(isBusy)),
+      m_mostBytes(mostBytes),
+      m_undo(makeAction("undoStep", {QKeySequence("Ctrl+Z")}, this)),
+      m_redo(makeAction("redoStep", {QKeySequence("Ctrl+Shift+Z"), QKeySequence("Ctrl+Y")}, this))
+{
+    connect(m_undo, &QAction::triggered, this, &PageSteps::undo);
+    connect(m_redo, &QAction::triggered, this, &PageSteps::redo);
+    connect(qApp, &QApplication::focusChanged, this, [this] { m_isGoOver = true; });
+    for (GridView *grid : m_fields.grids()) {
+        grid->setStepActions(m_undo, m_redo);
+        connect(&grid->changes(), &GridModel::made, this, [this, grid](const std::shared_ptr<GridEdit> &edit) {
+            m_made.push_back({grid, edit, {}, {}});
+            endActSoon();
+        });
+    }
+    qApp->installEventFilter(this);
+    forgetAll();
+}
+
+void PageSteps::look()
+{
+    m_texts.clear();
+    for (const QWidget *box : m_fields.boxes())
+        m_texts.push_back(PageFields::textOf(*box));
+    m_cells.clear();
+    for (const GridView *grid : m_fields.grids())
+        m_cells.push_back({grid->currentRow(), grid->currentColumn()});
+    m_focus = m_page.window()->focusWidget();
+    m_made.clear();
+    m_name.clear();
+}
+
+void PageSteps::forgetAll()
+{
+    m_stack.clear();
+    look();
+    showActions();
+}
+
+void PageSteps::beginAct(const QString &name)
+{
+    endAct();
+    m_name = name;
+}
+
+void PageSteps::endActSoon()
+{
+    if (std::exchange(m_isEndDue, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_isEndDue = false;
+            endAct();
+        },
+        Qt::QueuedConnection);
+}
+
+void PageSteps::endAct()
+{
+    std::vector<ChangedBox> boxes = changedBoxes();
+    const bool isStep = !boxes.empty() || !m_made.empty();
+    if (isStep)
+        makeStep(std::move(boxes));
+    look();
+    if (std::exchange(m_isGoOver, false))
+        ++m_go;
+    if (isStep)
+        emit stepped();
+}
+
+void PageSteps::makeStep(std::vector<ChangedBox> boxes)
+{
+    for (ChangedGrid &made : m_made) {
+        const auto grid = std::find(m_fields.grids().begin(), m_fields.grids().end(), made.grid);
+        made.before = m_cells.at(static_cast<std::size_t>(grid - m_fields.grids().begin()));
+        made.after = {made.grid->currentRow(), made.grid->currentColumn()};
+    }
+    QWidget *focus = boxInFocus(boxes);
+    const QString name = nameOf(focus);
+    const bool isTyped = boxes.size() == 1 && PageFields::lineOf(focus) && m_name.isEmpty();
+    if (!isTyped)
+        ++m_go;
+    auto *step = new PageStep(std::move(boxes), std::move(m_made), focus, isTyped ? m_go : 0, m_bytes);
+    step->setText(name);
+    m_stack.push(step);
+    giveUpOldest();
+    showActions();
+}
+
+std::vector<ChangedBox> PageSteps::changedBoxes() const
+{
+    std::vector<ChangedBox> changed;
+    for (std::size_t i = 0; i < m_texts.size(); ++i) {
+        QWidget *box = m_fields.boxes()[i];
+        if (QString now = PageFields::textOf(*box); now != m_texts[i])
+            changed.push_back({box, m_texts[i], std::move(now)});
+    }
+    return changed;
+}
+
+/// What the menu calls the step: as its first change of a grid is called, or by its box.
+QString PageSteps::nameOf(QWidget *box) const
+{
+    if (!m_name.isEmpty())
+        return m_name;
+    if (!m_made.empty())
+        return QString::fromUtf8(m_made.front().edit->name);
+    return PageFields::lineOf(box) ? QStringLiteral("Typing") : box->accessibleName().section(':', 0, 0);
+}
+
+/// The changed box that had the focus when the act began or has it now, the first one where none had.
+QWidget *PageSteps::boxInFocus(const std::vector<ChangedBox> &boxes) const
+{
+    for (const QWidget *focus : {m_focus.data(), m_page.window()->focusWidget()})
+        for (const ChangedBox &changed : boxes)
+            if (changed.box == focus)
+                return changed.box;
+    return boxes.empty() ? nullptr : boxes.front().box;
+}
+
+void PageSteps::undo()
+{
+    step(true);
+}
+
+void PageSteps::redo()
+{
+    step(false);
+}
+
+void PageSteps::step(bool isUndo)
+{
+    endAct();
+    if (m_isBusy() || !(isUndo ? canUndo() : canRedo()))
+        return;
+    ++m_go;
+    for (GridView *grid : m_fields.grids())
+        grid->dropEdit();
+    isUndo ? m_stack.undo() : m_stack.redo();
+    m_follow();
+    stepAt(m_stack.index() - (isUndo ? 0 : 1))->goThere(isUndo);
+    look();
+    giveUpOldest();
+    showActions();
+    emit stepped();
+}
+
+const PageStep *PageSteps::stepAt(int index) const
+{
+    return static_cast<const PageStep *>(m_stack.command(index));
+}
+
+bool PageSteps::canUndo() const
+{
+    return m_stack.canUndo() && !stepAt(m_stack.index() - 1)->isForgotten();
+}
+
+bool PageSteps::canRedo() const
+{
+    return m_stack.canRedo() && !stepAt(m_stack.index())->isForgotten();
+}
+
+// What has been undone goes last, and of that the farthest first: what is next stays in reach.
+void PageSteps::giveUpOldest()
+{
+    for (int index = 0; m_bytes > m_mostBytes && index < m_stack.index(); ++index)
+        if (!stepAt(index)->isForgotten())
+            stepAt(index)->forget();
+    for (int index = m_stack.count() - 1; m_bytes > m_mostBytes && index >= m_stack.index(); --index)
+        if (!stepAt(index)->isForgotten())
+            stepAt(index)->forget();
+}
+
+void PageSteps::showActions()
+{
+    show(*m_undo, "U&ndo", m_stack.undoText(), canUndo());
+    show(*m_redo, "&Redo", m_stack.redoText(), canRedo());
+}
+
+bool PageSteps::eventFilter(QObject *watched, QEvent *event)
+{
+    if (beginsAct(event->type())) {
+        endAct();
+        endActSoon();
+    }
+    if (endsGo(event->type()))
+        ++m_go;
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace penwright

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <QObject>
+#include <QPointer>
+#include <QUndoStack>
+
+#include <cstddef>
+#include <functional>
+#include <vector>
+
+#include "wizard/PageStep.h"
+
+class QAction;
+
+namespace penwright {
+
+class PageFields;
+
+/// What the user has done on a page, step by step, to be undone and redone with Ctrl+Z, Ctrl+Shift+Z and Ctrl+Y and
+/// from the menus of boxes and grids. One act is one step, whatever boxes and grids it changes; what is typed into one
+/// box in one go is one, too. An act begins with a key, a click or a drop and ends when the next one begins, when the
+/// event loop is reached or when something is undone; what changes apart from that, by the host, is a step as well.
+///
+/// The steps take 100 MB at most, the oldest are given up first.
+class PageSteps : public QObject {
+    Q_OBJECT
+
+public:
+    static constexpr std::size_t kMostBytes = 100'000'000;
+
+    /// What it is given outlives it. `follow` shows what follows from boxes and grids; `isBusy` says when nothing is
+    /// undone.
+    PageSteps(QWidget &page, const PageFields &fields, std::function<void()> follow, std::function<bool()> isBusy,
+              std::size_t mostBytes = kMostBytes);
+
+    QAction *undoAction() const { return m_undo; }
+    QAction *redoAction() const { return m_redo; }
+
+    /// Undoes or redoes the step that is next, drops open editors, and goes to what has changed.
+    void undo();
+    void redo();
+
+    bool canUndo() const;
+    bool canRedo() const;
+
+    /// Has what is changed until the next call of `endAct` be one step of this name.
+    void beginAct(const QString &name);
+
+    /// Makes one step of what has changed since the last act ended.
+    void endAct();
+
+    /// Gives up all steps; what stands now is where undo ends.
+    void forgetAll();
+
+    /// How many steps have been made and not been undone, those given up among them.
+    int count() const { return m_stack.index(); }
+
+    /// The memory that the steps take.
+    std::size_t bytes() const { return m_bytes; }
+
+signals:
+    /// A step has been made, undone or redone.
+    void stepped();
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void look();
+    void endActSoon();
+    void makeStep(std::vector<ChangedBox> boxes);
+    QString nameOf(QWidget *box) const;
+    std::vector<ChangedBox> changedBoxes() const;
+    QWidget *boxInFocus(const std::vector<ChangedBox> &boxes) const;
+    void step(bool isUndo);
+    const PageStep *stepAt(int index) const;
+    void giveUpOldest();
+    void showActions();
+
+    QWidget &m_page;
+    const PageFields &m_fields;
+    std::function<void()> m_follow;
+    std::function<bool()> m_isBusy;
+    std::size_t m_mostBytes;
+    std::size_t m_bytes = 0;  ///< before the stack, whose steps count with it until they are gone
+    QUndoStack m_stack;
+    QAction *m_undo;
+    QAction *m_redo;
+
+    std::vector<QString> m_texts;     ///< of the boxes, when the last act had ended
+    std::vector<GridCell> m_cells;    ///< the grids' current ones, when the last act had ended
+    QPointer<QWidget> m_focus;        ///< in the window, when the last act had ended
+    std::vector<ChangedGrid> m_made;  ///< since then
+    QString m_name;                   ///< of the act, where it has one of its own
+    int m_go = 1;                     ///< which go of typing it is
+    bool m_isGoOver = false;          ///< once the act under way has ended: the focus has moved in it
+    bool m_isEndDue = false;
+};
+
+}  // namespace penwright
