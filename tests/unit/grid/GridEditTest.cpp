@@ -150,5 +150,20 @@ TEST_F(GridEdits, copyTheRowsThatThereAre)
     EXPECT_EQ(table.copy({}), std::nullopt);
 }
 
+TEST_F(GridEdits, leadBackWhenTheirContentIsExchangedOnceMore)
+{
+    table.growing = true;
+    const std::string before = table.all();
+    GridEdit edit = paste({2, 0, 2, 0}, "1\t2\n3\t4\n");
+    prepareEdit(edit, table);
+    for (int turn = 0; turn < 2; ++turn) {
+        edit.content->swap();
+        EXPECT_EQ(table.all(), "A1|B1 / 1|2 / 3|4");
+        edit.content->swap();
+        EXPECT_EQ(table.all(), before);
+    }
+    EXPECT_GT(edit.content->bytes(), 0U);
+}
+
 }  // namespace
 }  // namespace penwright::test
