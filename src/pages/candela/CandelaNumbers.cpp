@@ -1,5 +1,6 @@
 #include "pages/candela/CandelaNumbers.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace penwright {
@@ -9,6 +10,11 @@ template <typename Cell>
 std::size_t bytesOf(const OneBasedTable<Cell> &cells)
 {
     return static_cast<std::size_t>(cells.rows()) * static_cast<std::size_t>(cells.columns()) * sizeof(Cell);
+}
+
+std::size_t bytesOf(const OneBased<float> &angles)
+{
+    return static_cast<std::size_t>(angles.size()) * sizeof(float);
 }
 
 /// What the working record takes over when the table is built.
@@ -33,7 +39,12 @@ CandelaNumbers::Angles::Angles(const PhotometricRecord &record)
 
 bool CandelaNumbers::isFor(const PhotometricRecord &record) const
 {
-    return m_angles == Angles(record);
+    const auto isOf = [](const OneBased<float> &angles, int count, const OneBased<float> &own) {
+        return count == own.size() && count <= angles.size() && std::equal(own.begin(), own.end(), angles.begin());
+    };
+    return record.PhotometricType == m_angles.type &&
+           isOf(record.HorAngles, record.NumHorzAngles, m_angles.horizontal) &&
+           isOf(record.VertAngles, record.NumVertAngles, m_angles.vertical);
 }
 
 /// Cells one by one, each with the number that it gets.
@@ -116,8 +127,8 @@ public:
 
     std::size_t bytes() const override
     {
-        const auto angles = static_cast<std::size_t>(m_angles.horizontal.size() + m_angles.vertical.size());
-        return sizeof(*this) + bytesOf(m_cells) + bytesOf(m_work.Candela) + 2 * angles * sizeof(float);
+        return sizeof(*this) + bytesOf(m_cells) + bytesOf(m_work.Candela) + bytesOf(m_angles.horizontal) +
+               bytesOf(m_angles.vertical) + bytesOf(m_work.HorAngles) + bytesOf(m_work.VertAngles);
     }
 
 private:

@@ -55,7 +55,6 @@ private:
     struct Angles {
         explicit Angles(const PhotometricRecord &record);
         Angles() = default;
-        bool operator==(const Angles &) const = default;
 
         std::int16_t type = 0;
         OneBased<float> horizontal;

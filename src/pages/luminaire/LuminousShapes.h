@@ -44,8 +44,7 @@ inline constexpr std::size_t kShapeCount = 15;
 extern const std::array<LuminousShape, kShapeCount> kLuminousShapes;
 
 /// How the page looks while no shape is chosen.
-inline constexpr LuminousShape kNoShape{
-    .name = "", .width = {.caption = "Width:"}, .length = {.caption = "Length:"}, .height = {.caption = "Height:"}};
+inline constexpr LuminousShape kNoShape{"", {"Width:", true, {}}, {"Length:", true, {}}, {"Height:", true, {}}};
 
 /// The shape at a list position, null outside the list.
 const LuminousShape *luminousShapeAt(int position);
