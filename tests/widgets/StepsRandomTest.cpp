@@ -276,8 +276,8 @@ std::vector<RandomCase> cases()
     return all;
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, RandomSteps, testing::ValuesIn(cases()), [](const auto &info) {
-    return "Page" + std::to_string(info.param.page + 1) + "Seed" + std::to_string(info.param.seed);
+INSTANTIATE_TEST_SUITE_P(Pages, RandomSteps, testing::ValuesIn(cases()), [](const auto &row) {
+    return "Page" + std::to_string(row.param.page + 1) + "Seed" + std::to_string(row.param.seed);
 });
 
 }  // namespace

@@ -189,15 +189,15 @@ TEST_F(StepsTest, bringBackTypedCellsDeletedOnesAndBlocks)
     paste("7\t8\n9\t10\n");
     states.push_back(texts());
     EXPECT_EQ(undoName(), "Undo Paste");
-    for (int state = 2; state >= 0; --state) {
+    for (int at = 2; at >= 0; --at) {
         undo();
-        EXPECT_EQ(texts(), states[state]) << state;
+        EXPECT_EQ(texts(), states[at]) << at;
     }
     EXPECT_EQ(cell(name), "1,1");
     EXPECT_EQ(focusName(), name);
-    for (int state = 1; state <= 3; ++state) {
+    for (int at = 1; at <= 3; ++at) {
         redo();
-        EXPECT_EQ(texts(), states[state]) << state;
+        EXPECT_EQ(texts(), states[at]) << at;
     }
     EXPECT_EQ(cell(name), "1,0");
 }
@@ -239,9 +239,9 @@ TEST_F(StepsTest, bringBackRowsAndTheDefaultsThatWentOverThem)
     states.push_back(texts());
     click("cmdDefaultLoad");
     EXPECT_EQ(undoName(), "Undo Load Defaults");
-    for (auto state = states.rbegin(); state != states.rend(); ++state) {
+    for (auto at = states.rbegin(); at != states.rend(); ++at) {
         undo();
-        EXPECT_EQ(texts(), *state);
+        EXPECT_EQ(texts(), *at);
     }
     EXPECT_EQ(undoName(), "Undo");
 }
@@ -275,15 +275,15 @@ TEST_F(StepsTest, bringBackTypeCountsAndAngles)
     click("rdoB");
     states.push_back(texts());
     const int entries = find<QComboBox>("phoCmbVert")->count();
-    for (int state = 4; state >= 0; --state) {
+    for (int at = 4; at >= 0; --at) {
         undo();
-        EXPECT_EQ(texts(), states[state]) << state;
-        EXPECT_EQ(find("fraAngles")->isHidden(), state == 0);
-        EXPECT_EQ(find<QComboBox>("phoCmbVert")->count() == 0, state == 0);
+        EXPECT_EQ(texts(), states[at]) << at;
+        EXPECT_EQ(find("fraAngles")->isHidden(), at == 0);
+        EXPECT_EQ(find<QComboBox>("phoCmbVert")->count() == 0, at == 0);
     }
-    for (int state = 1; state <= 5; ++state) {
+    for (int at = 1; at <= 5; ++at) {
         redo();
-        EXPECT_EQ(texts(), states[state]) << state;
+        EXPECT_EQ(texts(), states[at]) << at;
     }
     EXPECT_EQ(find<QComboBox>("phoCmbVert")->count(), entries);
 }
