@@ -3,14 +3,15 @@
 #include <pwd.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
-#include "platform/RunTimeError.h"
-
 namespace penwright {
 namespace {
+
+constexpr mode_t kOwnerAlone = 0700;
 
 int errorNumber(const std::error_code &failure)
 {
@@ -38,6 +39,14 @@ std::string homeFolder()
     return user && user->pw_dir ? user->pw_dir : "/";
 }
 
+std::string folderFor(const char *name, const char *inHome)
+{
+    const std::filesystem::path folder = variable(name);
+    if (folder.is_absolute())
+        return folder.string();
+    return (std::filesystem::path(homeFolder()) / inHome).string();
+}
+
 }  // namespace
 
 void makeFolderOf(const std::string &path)
@@ -51,12 +60,33 @@ void makeFolderOf(const std::string &path)
         throw RunTimeError(errorNumber(failure), path + ": " + failure.message());
 }
 
+void makePrivateFolder(const std::string &path)
+{
+    const std::filesystem::path above = std::filesystem::path(path).parent_path();
+    std::error_code ignored;
+    if (above != path && !std::filesystem::exists(above, ignored))
+        makePrivateFolder(above.string());
+    if (::mkdir(path.c_str(), kOwnerAlone) == 0)
+        return;
+    const int error = errno;
+    if (!std::filesystem::is_directory(path, ignored))
+        throw fileError(path, error);
+}
+
+RunTimeError fileError(const std::string &path, int errnoValue)
+{
+    const std::error_code failure(errnoValue, std::generic_category());
+    return RunTimeError(errorNumber(failure), path + ": " + failure.message());
+}
+
 std::string userConfigFolder()
 {
-    const std::filesystem::path config = variable("XDG_CONFIG_HOME");
-    if (config.is_absolute())
-        return config.string();
-    return (std::filesystem::path(homeFolder()) / ".config").string();
+    return folderFor("XDG_CONFIG_HOME", ".config");
+}
+
+std::string userStateFolder()
+{
+    return folderFor("XDG_STATE_HOME", ".local/state");
 }
 
 }  // namespace penwright

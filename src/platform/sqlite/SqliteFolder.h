@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "platform/RunTimeError.h"
+
 namespace penwright {
 
 /// While it lives, new files and folders are for their owner alone.
@@ -22,7 +24,17 @@ private:
 /// names the file.
 void makeFolderOf(const std::string &path);
 
+/// Makes a folder for the owner alone, with the folders above it. A failure is as fileError says.
+void makePrivateFolder(const std::string &path);
+
+/// The run-time error of a failed call on the file at `path`: 70, 75, 61 or 76, with the file and the system's words.
+RunTimeError fileError(const std::string &path, int errnoValue);
+
 /// The user's configuration folder: $XDG_CONFIG_HOME where it is absolute, else ".config" in the home folder.
 std::string userConfigFolder();
+
+/// The user's folder for what programs keep of their runs: $XDG_STATE_HOME where it is absolute, else ".local/state" in
+/// the home folder.
+std::string userStateFolder();
 
 }  // namespace penwright

@@ -51,6 +51,16 @@ void useWal(sqlite3 *database)
         throw SqliteFailure{SQLITE_CANTOPEN, "the store cannot be shared from this file system"};
 }
 
+SqliteHandle opened(const std::string &path, int flags)
+{
+    sqlite3 *database = nullptr;
+    const int code = sqlite3_open_v2(path.c_str(), &database, flags, nullptr);
+    SqliteHandle handle(database);
+    if (code != SQLITE_OK)
+        throw database ? SqliteFailure::of(database) : SqliteFailure{code, sqlite3_errstr(code)};
+    return handle;
+}
+
 }  // namespace
 
 void SqliteCloser::operator()(sqlite3 *database) const
@@ -60,12 +70,14 @@ void SqliteCloser::operator()(sqlite3 *database) const
 
 SqliteHandle openSqlite(const std::string &path)
 {
-    sqlite3 *database = nullptr;
-    const int code = sqlite3_open_v2(path.c_str(), &database, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-    SqliteHandle handle(database);
-    if (code != SQLITE_OK)
-        throw database ? SqliteFailure::of(database) : SqliteFailure{code, sqlite3_errstr(code)};
-    return handle;
+    return opened(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
+}
+
+SqliteHandle openExistingSqlite(const std::string &path, int milliseconds)
+{
+    SqliteHandle database = opened(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOFOLLOW);
+    sqlite3_busy_timeout(database.get(), milliseconds);
+    return database;
 }
 
 void makeSettingsStore(sqlite3 *database)

@@ -73,6 +73,12 @@ SqliteStatement &SqliteStatement::bind(int parameter, std::string_view text)
     return *this;
 }
 
+SqliteStatement &SqliteStatement::bind(int parameter, long long number)
+{
+    check(m_database, sqlite3_bind_int64(m_statement, parameter, number));
+    return *this;
+}
+
 bool SqliteStatement::step()
 {
     const int code = sqlite3_step(m_statement);

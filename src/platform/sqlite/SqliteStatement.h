@@ -34,6 +34,7 @@ public:
 
     /// Binds a text to a parameter, counted from 1; the text must live until the statement has run.
     SqliteStatement &bind(int parameter, std::string_view text);
+    SqliteStatement &bind(int parameter, long long number);
 
     /// Whether there is a (next) row.
     bool step();
