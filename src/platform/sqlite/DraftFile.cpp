@@ -132,8 +132,8 @@ DraftMark readDraftMark(sqlite3 *database)
     SqliteStatement read(database, "SELECT ordering, time, page, about, sum FROM draft");
     if (!read.step())
         throw damaged();
-    const DraftMark mark{.order = read.integer(0),
-                         .head = {read.integer(1), static_cast<int>(read.integer(2)), read.text(3)}};
+    DraftMark mark{.order = read.integer(0),
+                   .head = {read.integer(1), static_cast<int>(read.integer(2)), read.text(3)}};
     if (read.integer(4) != sumOf(mark))
         throw damaged();
     return mark;

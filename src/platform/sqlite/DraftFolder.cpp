@@ -28,7 +28,7 @@ constexpr std::string_view kLockEnd = ".sqlite3.lock";
 constexpr mode_t kPrivate = 0600;
 
 /// A table of 10^6 values is 20 MB of text. What is larger than this is not read into memory.
-constexpr off_t kLargest = 256 * 1024 * 1024;
+constexpr off_t kLargest = 256'000'000;
 
 struct CloseFolder {
     void operator()(DIR *folder) const { ::closedir(folder); }
