@@ -63,6 +63,7 @@ void BM_startAgainstEmptyWindow(benchmark::State &state)
 {
     const penwright::test::TempFolder home;
     setenv("XDG_CONFIG_HOME", home.path().c_str(), 1);
+    setenv("XDG_STATE_HOME", home.path().c_str(), 1);
     setenv("QT_QPA_PLATFORM", "offscreen", 0);
     penwright::SqliteSettingsStore store(penwright::SqliteSettingsStore::userPath());
     double tool = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/sqlite/SqliteDraftStore.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "platform/x11/Display.h"
 #include "platform/x11/X11Embedding.h"
@@ -10,5 +11,6 @@ namespace penwright {
 using ChosenDisplay = Display;
 using ChosenEmbedding = X11Embedding;
 using ChosenStore = SqliteSettingsStore;
+using ChosenDrafts = SqliteDraftStore;
 
 }  // namespace penwright

@@ -17,7 +17,8 @@ Tool::Tool(Closing &closing, ChosenEmbedding &embedding)
 
 WizardWindow &Tool::loadWindow()
 {
-    m_window = assembleWizard(m_state, m_services, m_closing, m_owner);
+    m_window = assembleWizard(m_state, m_services, m_closing, m_owner,
+                              std::make_unique<ChosenDrafts>(ChosenDrafts::userFolder()));
     return *m_window;
 }
 

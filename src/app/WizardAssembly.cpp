@@ -16,6 +16,7 @@
 #include "platform/qt/OwnerWindow.h"
 #include "platform/SettingsStore.h"
 #include "wizard/UnwantedEnd.h"
+#include "wizard/WizardDrafts.h"
 
 namespace penwright {
 namespace {
@@ -31,7 +32,8 @@ void addPages(WizardWindow &window, const Services &services)
     window.addPage(new KeywordPage(context, services.store));
     window.addPage(new DistributionPage(context, [candelaPage] { candelaPage->lsbStart(); }));
     window.addPage(candelaPage);
-    window.addPage(new FinishPage(context, services.store, services.files, services.wait));
+    window.addPage(
+        new FinishPage(context, services.store, services.files, services.wait, [&window] { emit window.fileTaken(); }));
 }
 
 // Once there is a window, a store that another process keeps locked must not stop it from painting, nor hold up the end
@@ -40,6 +42,12 @@ void letEventsRunWhileLocked(const Services &services)
 {
     services.store.setBusyWait(
         [&wait = services.wait] { return wait.until([] { return false; }, 20ms) != WaitEnd::Cancelled; });
+}
+
+// The user's own word against drafts stands in the store, beside the units of the first page.
+bool areDraftsWanted(SettingsStore &store)
+{
+    return store.read("Lumentor32", "Lumentor32", "DraftsOff", "0") != "1";
 }
 
 void printMissingHost(std::uint32_t host)
@@ -52,7 +60,7 @@ void printMissingHost(std::uint32_t host)
 }  // namespace
 
 std::unique_ptr<WizardWindow> assembleWizard(ToolState &state, const Services &services, Closing &closing,
-                                             OwnerWindow &owner)
+                                             OwnerWindow &owner, std::unique_ptr<DraftStore> drafts)
 {
     const WindowServices forWindow{services.store, services.dialogs, services.wait, services.embedding, services.help};
     auto window = std::make_unique<WizardWindow>(state, forWindow, closing);
@@ -60,6 +68,8 @@ std::unique_ptr<WizardWindow> assembleWizard(ToolState &state, const Services &s
     owner.widget = window.get();
     services.embedding.adopt(window->winId());
     window->load();
+    if (drafts && areDraftsWanted(services.store))
+        new WizardDrafts(*window, closing, std::move(drafts));
     letEventsRunWhileLocked(services);
     return window;
 }

@@ -6,6 +6,7 @@
 #include "app/Services.h"
 #include "core/ToolState.h"
 #include "hostlink/Patience.h"
+#include "platform/DraftStore.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright {
@@ -15,9 +16,10 @@ class HostEmbedding;
 struct OwnerWindow;
 
 /// Makes the wizard of a run, hidden: the window with its pages, wired to each other and to the services, and loaded.
-/// What it is given outlives it. Raises the errors of the store.
+/// What it is given outlives it. What is typed is kept in `drafts`, unless there is no such store or the user wants
+/// none. Raises the errors of the store.
 std::unique_ptr<WizardWindow> assembleWizard(ToolState &state, const Services &services, Closing &closing,
-                                             OwnerWindow &owner);
+                                             OwnerWindow &owner, std::unique_ptr<DraftStore> drafts = nullptr);
 
 /// Opens a wizard that has been made: a child of the host's window, which is watched from here on. It stays hidden
 /// until the host says "START". Where the number names no window, nobody's end would end the wizard: it ends by itself

@@ -122,10 +122,11 @@ int main(int argc, char **argv)
     if (display && xcb_connection_has_error(display.get()))
         return fail(QStringLiteral("cannot open the X display \"%1\"").arg(qEnvironmentVariable("DISPLAY")));
 
-    // The walk has a settings store of its own, tool included: the user's is not touched.
+    // The walk has a settings store and drafts of its own, tool included: the user's are not touched.
     const QTemporaryDir walkSettings;
     if (!options.walkFolder.isEmpty())
-        qputenv("XDG_CONFIG_HOME", QFile::encodeName(walkSettings.path()));
+        for (const char *name : {"XDG_CONFIG_HOME", "XDG_STATE_HOME"})
+            qputenv(name, QFile::encodeName(walkSettings.path()));
 
     QApplication application(argc, argv);
     QApplication::setStyle("Fusion");

@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QShortcut>
 #include <QVBoxLayout>
@@ -152,8 +153,34 @@ void PageFrame::addButtons(const Handler &next, const Handler &back)
     keepEnterFromFields();
     m_fields = PageFields(*m_formArea);
     m_steps = new PageSteps(
-        *this, m_fields, [this] { followValue(); }, [this] { return navigator().isBusy(); });
+        *this, m_fields,
+        [this] {
+            followValue();
+            emit changed();
+        },
+        [this] { return navigator().isBusy(); });
     new StepKeys(*this, m_fields, *m_steps);
+    m_nextHandler = next;
+    watchFields();
+}
+
+void PageFrame::watchFields()
+{
+    for (QWidget *box : m_fields.boxes()) {
+        if (auto *line = qobject_cast<QLineEdit *>(box))
+            connect(line, &QLineEdit::textChanged, this, &PageFrame::changed);
+        if (auto *list = qobject_cast<QComboBox *>(box)) {
+            connect(list, &QComboBox::currentIndexChanged, this, &PageFrame::changed);
+            connect(list, &QComboBox::editTextChanged, this, &PageFrame::changed);
+        }
+        if (auto *button = qobject_cast<QAbstractButton *>(box))
+            connect(button, &QAbstractButton::toggled, this, &PageFrame::changed);
+    }
+    for (GridView *grid : m_fields.grids()) {
+        connect(grid, &GridView::cellWritten, this, &PageFrame::changed);
+        connect(grid, &GridView::valuesReplaced, this, &PageFrame::changed);
+        connect(grid, &GridView::rebuilt, this, &PageFrame::changed);
+    }
 }
 
 bool PageFrame::showValue(const PageText &value, const QString &step)
@@ -169,6 +196,7 @@ bool PageFrame::showValue(const PageText &value, const QString &step)
         change.grid->apply(std::move(change.edit));
     followValue();
     m_steps->endAct();
+    emit changed();
     return true;
 }
 
@@ -202,6 +230,27 @@ void PageFrame::pressNext(const Handler &next)
 {
     if (!guardHandler(dialogs(), caption().toStdString(), next))
         goToFault(dlgWarn().list().firstFault());
+}
+
+bool PageFrame::leaveByNext()
+{
+    dlgWarn().setQuiet(true);
+    try {
+        m_nextHandler();
+    } catch (const std::exception &) {  // what it would say, the press of a key will say again
+        focusFirstFault();
+    }
+    dlgWarn().setQuiet(false);
+    return isHidden();
+}
+
+void PageFrame::addTopLine(QWidget &line)
+{
+    auto *layout = static_cast<QVBoxLayout *>(this->layout());
+    layout->insertWidget(layout->indexOf(m_formArea), &line);
+    line.lower();  // the first of the page's parts for a screen reader too
+    for (auto *button : line.findChildren<QPushButton *>())
+        button->installEventFilter(this);
 }
 
 void PageFrame::showWarnings()

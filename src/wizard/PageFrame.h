@@ -4,6 +4,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <string>
 
 #include "core/ToolState.h"
 #include "draft/PageValue.h"
@@ -92,6 +93,16 @@ public:
     /// What has been done on the page, to be undone.
     PageSteps &steps() const { return *m_steps; }
 
+    /// What the file is about, as far as this page knows; "" for nothing.
+    virtual std::string subject() const { return {}; }
+
+    /// Does what Next does without a word: no box opens, and a fault leaves the page as it is, with the focus on it.
+    /// Whether another page is shown now.
+    bool leaveByNext();
+
+    /// Puts a line above the form. Enter in it presses Next.
+    void addTopLine(QWidget &line);
+
     /// Shows one quiet line under the form, which screen readers are told of as well; an empty one takes it away.
     void showNote(const QString &text);
 
@@ -102,6 +113,10 @@ public:
     /// Puts the focus on the field of the form that had it last, as one does who comes back; on the first one when that
     /// takes it no more. A text in it is selected.
     void focusLastField();
+
+signals:
+    /// What stands on the page may have changed.
+    void changed();
 
 protected:
     /// The widget that takes the page's form.
@@ -143,6 +158,7 @@ private:
     void noteField(QWidget *focus);
     void goToField(QWidget &field);
     void keepEnterFromFields();
+    void watchFields();
     void pressNext(const Handler &next);
     void goToFault(const std::optional<FaultPlace> &place);
     QPushButton *addButton(const QString &name, const QString &text, const QString &key, const Handler &handler);
@@ -153,6 +169,7 @@ private:
     QLabel *m_note = nullptr;
     class QHBoxLayout *m_buttons = nullptr;
     QPushButton *m_next = nullptr;
+    Handler m_nextHandler;
     PageFields m_fields;
     PageSteps *m_steps = nullptr;
     QPointer<QWidget> m_lastField;  ///< of the form

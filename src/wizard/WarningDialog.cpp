@@ -65,7 +65,7 @@ WarningDialog::WarningDialog(const Closing &closing, QWidget *parent) : QDialog(
 std::optional<FaultPlace> WarningDialog::showModal()
 {
     m_chosen = m_list.firstFault();
-    if (m_closing.isClosing())
+    if (m_isQuiet || m_closing.isClosing())
         return m_chosen;
     QString lines = QString::fromStdString(m_list.text());
     lines.remove('\r');

@@ -34,10 +34,14 @@ public:
     /// The place that the user wants to see to: that of the line it was closed by, else that of the first fault.
     std::optional<FaultPlace> showModal();
 
+    /// While it is quiet, nothing is shown: nobody has pressed a button.
+    void setQuiet(bool isQuiet) { m_isQuiet = isQuiet; }
+
 private:
     const Closing &m_closing;
     WarningList m_list;
     std::optional<FaultPlace> m_chosen;
+    bool m_isQuiet = false;
     LongTextBox *m_text = nullptr;
     QPushButton *m_ok = nullptr;
 };

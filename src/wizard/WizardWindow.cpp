@@ -150,6 +150,7 @@ void WizardWindow::turnTo(int index, Arrival arrival)
     PageFrame *page = m_pages[static_cast<std::size_t>(index)];
     if (arrival == Arrival::Back)
         page->comeBackFrom(from);
+    emit pageTurned(index);
     page->show();
     for (QScrollBar *bar : {m_scroll->horizontalScrollBar(), m_scroll->verticalScrollBar()})
         bar->setValue(0);
@@ -158,6 +159,7 @@ void WizardWindow::turnTo(int index, Arrival arrival)
         page->focusLastField();
     else
         page->focusFirstField();
+    emit pageShown();
 }
 
 void WizardWindow::ConfirmCancel()
@@ -167,10 +169,12 @@ void WizardWindow::ConfirmCancel()
                                                    .title = "Canceling New File Wizard"});
     if (answer == Answer::Dismissed)
         return;
-    if (answer == Answer::Yes)
+    if (answer == Answer::Yes) {
+        emit cancelled();
         beginUnload();
-    else if (!m_state.start.EmbedInHost)
+    } else if (!m_state.start.EmbedInHost) {
         QCoreApplication::exit(0);  // No ends a tool that is not embedded all the same, on purpose, and unloads nothing
+    }
 }
 
 void WizardWindow::ShowHelp(int contextId)

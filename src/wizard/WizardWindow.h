@@ -56,6 +56,11 @@ public:
     /// Starts `tmrDeath`, which "START" stops.
     void startDeathTimer();
 
+    PageFrame &page(int index) { return *m_pages.at(static_cast<std::size_t>(index)); }
+
+    /// Index of the page shown, kPageCount for none.
+    int shownPage() const { return m_shownPage; }
+
     /// Also puts the focus: a page before the one that was shown gets it where it was left, any other at its first
     /// field.
     void ShowPage(int index) override;
@@ -86,6 +91,19 @@ public:
 
     /// The form's state variable: 0 from the creation on.
     std::int16_t formState() const { return m_formState; }
+
+signals:
+    /// A page is about to be shown, by its index; it can still be filled.
+    void pageTurned(int index);
+
+    /// Another page has been shown, with its focus.
+    void pageShown();
+
+    /// The cancel question was answered with Yes.
+    void cancelled();
+
+    /// The host has taken the finished file.
+    void fileTaken();
 
 protected:
     /// A press of Escape asks the cancel question, not the key held on; F1 is the page's Help button. Open lists,
@@ -120,7 +138,7 @@ private:
     CommandLink m_link;
     HostOperations m_operations;
     std::array<PageFrame *, kPageCount> m_pages{};
-    int m_shownPage = kPageCount;  ///< index of the page shown, kPageCount for none
+    int m_shownPage = kPageCount;
     std::int16_t m_formState = 0;
     std::size_t m_shownEntries = 0;  ///< entries of the log that `txtCmds` has been given
 

@@ -17,6 +17,7 @@ namespace {
 /// Where the code keeps what it tells the user of the wizard.
 const std::vector<std::string> kMessageCode{"core",
                                             "wizard",
+                                            "draft",
                                             "pages",
                                             "grid",
                                             "plot",

@@ -53,7 +53,8 @@ Process::Environment environment(const std::string &display, const fs::path &hom
             {"LSAN_OPTIONS", "print_suppressions=0:suppressions=" LEAK_SUPPRESSIONS},
             {"HOME", home.string()},
             {"XDG_RUNTIME_DIR", home.string()},
-            {"XDG_CONFIG_HOME", (home / "config").string()}};
+            {"XDG_CONFIG_HOME", (home / "config").string()},
+            {"XDG_STATE_HOME", (home / "state").string()}};
 }
 
 /// The state letter in /proc of a process of ours, 'Z' for one that has ended and nobody has asked about, 0 for none.

@@ -28,7 +28,8 @@ class HostWindowTest : public testing::Test {
 protected:
     HostWindowTest()
     {
-        qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(m_folder.path().string()));
+        for (const char *name : {"XDG_CONFIG_HOME", "XDG_STATE_HOME"})
+            qputenv(name, QByteArray::fromStdString(m_folder.path().string()));
         qputenv("FAKE_TOOL_LOG", QByteArray::fromStdString(m_folder.file("log")));
         behave("wait");
         m_store = std::make_unique<HostStore>();

@@ -20,6 +20,7 @@ protected:
     HostedToolTest()
     {
         setenv("XDG_CONFIG_HOME", m_folder.path().c_str(), 1);
+        setenv("XDG_STATE_HOME", m_folder.path().c_str(), 1);
         setenv("FAKE_TOOL_LOG", m_folder.file("log").c_str(), 1);
         m_tool.onText([this](LinkWay way, const std::string &text) {
             m_texts.push_back((way == LinkWay::ToTool ? "> " : "< ") + text);

@@ -54,7 +54,8 @@ TEST_F(ReleasePackages, unpackToAProgramThatRuns)
     const TempFolder root;
     outputOf({"dpkg-deb", "-R", package("penwright"), root.path().string()});
     outputOf({"sh", "-c", "cd \"$0\" && md5sum --quiet -c DEBIAN/md5sums", root.path().string()});
-    Process tool({root.file("usr/bin/PenwrightPE")}, {{"XDG_CONFIG_HOME", root.file("config")}},
+    Process tool({root.file("usr/bin/PenwrightPE")},
+                 {{"XDG_CONFIG_HOME", root.file("config")}, {"XDG_STATE_HOME", root.file("state")}},
                  Process::Errors::Joined);
     ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
     EXPECT_EQ(tool.waitForEnd(), 1);

@@ -16,6 +16,7 @@ protected:
     Process::Environment environment(const std::string &platform) const
     {
         return {{"XDG_CONFIG_HOME", m_folder.file("config")},
+                {"XDG_STATE_HOME", m_folder.file("state")},
                 {"QT_QPA_PLATFORM", platform},
                 {"LSAN_OPTIONS", "print_suppressions=0:suppressions=" LEAK_SUPPRESSIONS}};
     }

@@ -178,6 +178,7 @@ TEST_F(LinkRun, twoToolsSideBySideTakeOnlyTheirOwnCommands)
 {
     Process other({PENWRIGHT_PE, "123,1,OtherBox,8,0,Other"},
                   {{"XDG_CONFIG_HOME", config()},
+                   {"XDG_STATE_HOME", stateFolder()},
                    {"QT_QPA_PLATFORM", "offscreen"},
                    {"LSAN_OPTIONS", "suppressions=" LIBRARIES_SUPP}},
                   Process::Errors::Joined);

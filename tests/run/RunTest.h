@@ -23,6 +23,7 @@ protected:
         before.push_back(PENWRIGHT_PE);
         before.insert(before.end(), arguments.begin(), arguments.end());
         Process::Environment environment{{"XDG_CONFIG_HOME", config()},
+                                         {"XDG_STATE_HOME", stateFolder()},
                                          {"QT_QPA_PLATFORM", platform},
                                          {"LSAN_OPTIONS", "print_suppressions=0:suppressions=" LIBRARIES_SUPP}};
         m_tool = std::make_unique<Process>(before, environment, Process::Errors::Joined);
@@ -31,6 +32,7 @@ protected:
     Process &tool() { return *m_tool; }
 
     std::string config() const { return m_folder.file("config"); }
+    std::string stateFolder() const { return m_folder.file("state"); }
     std::string storePath() const { return config() + "/Lumentor/settings.sqlite3"; }
 
     /// The store, opened by the first who asks: tool or host.

@@ -25,7 +25,8 @@ public:
             throw std::runtime_error("Xvfb does not start");
         set("DISPLAY", ":" + *number);
         set("HOME", m_home.path().string());
-        for (const char *name : {"XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
+        for (const char *name :
+             {"XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"})
             set(name, m_home.file(name));
         std::filesystem::create_directory(m_home.file("XDG_RUNTIME_DIR"));
         std::filesystem::permissions(m_home.file("XDG_RUNTIME_DIR"), std::filesystem::perms::owner_all);

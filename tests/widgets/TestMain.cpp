@@ -12,6 +12,7 @@ int main(int count, char **arguments)
     const penwright::test::TempFolder home;
     setenv("HOME", home.path().c_str(), 1);
     setenv("XDG_CONFIG_HOME", home.path().c_str(), 1);
+    setenv("XDG_STATE_HOME", home.path().c_str(), 1);
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QApplication application(count, arguments);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -59,7 +59,7 @@ protected:
 
     void useRealDialogs() { m_dialogs = &realDialogs; }
 
-    void loadWindow() { window = assembleWizard(state, services(), closing, owner); }
+    void loadWindow() { window = assembleWizard(state, services(), closing, owner, std::move(drafts)); }
 
     void startWizard()
     {
@@ -201,7 +201,8 @@ protected:
     QtEventWait wait{closing, owner};
     FakeDialogs dialogs;
     QtDialogs realDialogs{closing, owner};
-    std::vector<std::string> taken;  ///< what the host has taken from its inbox
+    std::vector<std::string> taken;      ///< what the host has taken from its inbox
+    std::unique_ptr<DraftStore> drafts;  ///< for the window that is loaded next; none unless a test has one
     std::unique_ptr<WizardWindow> window;
 
 private:

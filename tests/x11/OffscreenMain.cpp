@@ -10,7 +10,7 @@ int main(int count, char **arguments)
 {
     testing::InitGoogleTest(&count, arguments);
     const penwright::test::TempFolder home;
-    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_RUNTIME_DIR"})
+    for (const char *name : {"HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_RUNTIME_DIR"})
         setenv(name, home.path().c_str(), 1);
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     QApplication application(count, arguments);

@@ -7,10 +7,12 @@
 
 namespace penwright {
 
-FinishPage::FinishPage(const PageContext &context, SettingsStore &store, TextFiles &files, EventWait &wait)
+FinishPage::FinishPage(const PageContext &context, SettingsStore &store, TextFiles &files, EventWait &wait,
+                       Handler fileTaken)
     : PageFrame(kFinishPage, context),
       m_form(std::make_unique<Ui::FinishPage>()),
-      m_finish(state(), store, files, dialogs(), wait)
+      m_finish(state(), store, files, dialogs(), wait),
+      m_fileTaken(std::move(fileTaken))
 {
     m_form->setupUi(formArea());
     for (QLabel *label : {m_form->Label3, m_form->Label4}) {
@@ -47,6 +49,8 @@ void FinishPage::finish(bool saveAs)
 {
     showStatus({});
     const FinishEnd end = m_finish.SaveNewFile(saveAs, caption().toStdString());
+    if (end == FinishEnd::Taken)
+        m_fileTaken();
     if (end == FinishEnd::NotTaken)
         showStatus("The host has not taken the file yet. It is kept for the host until it does.");
 }

@@ -17,7 +17,8 @@ class FinishPage : public PageFrame {
     Q_OBJECT
 
 public:
-    FinishPage(const PageContext &context, SettingsStore &store, TextFiles &files, EventWait &wait);
+    /// `fileTaken` runs when the host has taken the finished file.
+    FinishPage(const PageContext &context, SettingsStore &store, TextFiles &files, EventWait &wait, Handler fileTaken);
     ~FinishPage() override;
 
 protected:
@@ -34,6 +35,7 @@ private:
 
     std::unique_ptr<Ui::FinishPage> m_form;
     FinishAndSave m_finish;
+    Handler m_fileTaken;
 };
 
 }  // namespace penwright

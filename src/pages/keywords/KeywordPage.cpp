@@ -33,6 +33,11 @@ void KeywordPage::enter()
     m_hasRows = true;
 }
 
+std::string KeywordPage::subject() const
+{
+    return subjectOf(m_rows->rows());
+}
+
 void KeywordPage::cmdDefaultLoad_Click()
 {
     m_form->keyGrid->apply(m_rows->loadRows(gsbKeyDefaultLoad(m_store)));

@@ -24,6 +24,7 @@ public:
 
     /// Loads the defaults, the first time; raises the errors of the store.
     void enter() override;
+    std::string subject() const override;
 
 protected:
     void focusFault(const FaultPlace &place) override;

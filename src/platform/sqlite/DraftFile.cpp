@@ -51,9 +51,10 @@ std::int64_t sumOf(const DraftText &text)
     return sumOf({std::to_string(text.page), text.name, text.text});
 }
 
-SqliteFailure damaged()
+/// Why a file is none that can be taken over; nobody is told more than that.
+SqliteFailure failureOf(int code)
 {
-    return {SQLITE_CORRUPT, "the draft is damaged"};
+    return {code, sqlite3_errstr(code)};
 }
 
 bool isNew(sqlite3 *database)
@@ -64,12 +65,9 @@ bool isNew(sqlite3 *database)
 
 void expectVersion(sqlite3 *database)
 {
-    const long long version = sqliteNumber(database, "PRAGMA user_version");
-    if (sqliteNumber(database, "PRAGMA application_id") != kApplication)
-        throw SqliteFailure{SQLITE_MISMATCH, "the file is no draft"};
-    if (version != kVersion)
-        throw SqliteFailure{SQLITE_MISMATCH, "the draft is of version " + std::to_string(version) +
-                                                 ", this program knows version " + std::to_string(kVersion)};
+    if (sqliteNumber(database, "PRAGMA application_id") != kApplication ||
+        sqliteNumber(database, "PRAGMA user_version") != kVersion)
+        throw failureOf(SQLITE_MISMATCH);
 }
 
 void writeMark(sqlite3 *database, const DraftMark &mark)
@@ -131,11 +129,11 @@ DraftMark readDraftMark(sqlite3 *database)
     expectVersion(database);
     SqliteStatement read(database, "SELECT ordering, time, page, about, sum FROM draft");
     if (!read.step())
-        throw damaged();
+        throw failureOf(SQLITE_CORRUPT);
     DraftMark mark{.order = read.integer(0),
                    .head = {read.integer(1), static_cast<int>(read.integer(2)), read.text(3)}};
     if (read.integer(4) != sumOf(mark))
-        throw damaged();
+        throw failureOf(SQLITE_CORRUPT);
     return mark;
 }
 
@@ -146,7 +144,7 @@ std::vector<DraftText> readDraftTexts(sqlite3 *database)
     while (read.step()) {
         texts.push_back({static_cast<int>(read.integer(0)), read.text(1), read.text(2)});
         if (read.integer(3) != sumOf(texts.back()))
-            throw damaged();
+            throw failureOf(SQLITE_CORRUPT);
     }
     return texts;
 }

@@ -16,6 +16,7 @@
 #include <random>
 #include <string_view>
 
+#include "platform/Freed.h"
 #include "platform/sqlite/DraftLock.h"
 #include "platform/sqlite/SqliteFolder.h"
 
@@ -32,10 +33,6 @@ constexpr off_t kLargest = 256'000'000;
 
 struct CloseFolder {
     void operator()(DIR *folder) const { ::closedir(folder); }
-};
-
-struct FreeText {
-    void operator()(char *text) const { std::free(text); }
 };
 
 std::vector<std::string> namesIn(const std::string &path)
@@ -111,7 +108,7 @@ bool DraftFolder::isDraftName(const std::string &name)
 
 std::string DraftFolder::pathOf(const std::string &name) const
 {
-    const std::unique_ptr<char, FreeText> folder(::realpath(m_path.c_str(), nullptr));
+    const Freed<char> folder(::realpath(m_path.c_str(), nullptr));
     return (std::filesystem::path(folder ? folder.get() : m_path) / name).string();
 }
 

@@ -190,7 +190,7 @@ TakeEnd SqliteDraftStore::takeOver(const std::string &name, Draft &draft)
             return TakeEnd::Gone;
         }
         if (!m_folder.isFileOfOurs(name))
-            throw SqliteFailure{0, "the file is no draft"};
+            throw SqliteFailure{kNotUnderstood, {}};
         SqliteHandle database = openDraftFile(m_folder.pathOf(name));
         const DraftMark mark = readDraftMark(database.get());
         draft = {mark.head, mark.isEmpty ? std::vector<DraftText>() : readDraftTexts(database.get())};
@@ -250,7 +250,7 @@ std::optional<Draft> SqliteDraftStore::readUnlocked(const std::string &name, boo
         return std::nullopt;
     try {
         if (!m_folder.isFileOfOurs(name))
-            throw SqliteFailure{0, "the file is no draft"};
+            throw SqliteFailure{kNotUnderstood, {}};
         const SqliteHandle database = openDraftFile(m_folder.pathOf(name));
         const DraftMark mark = readDraftMark(database.get());
         if (mark.isEmpty)

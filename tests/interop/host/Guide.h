@@ -29,7 +29,11 @@ inline std::string guideBlock(const std::string &name)
 /// Blocks of the page in a folder of their own, with settings of their own, and a user at the keyboard.
 class Guide : public testing::Test {
 protected:
-    Guide() { qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(m_folder.file("config"))); }
+    Guide()
+    {
+        qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(m_folder.file("config")));
+        qputenv("XDG_STATE_HOME", QByteArray::fromStdString(m_folder.file("state")));
+    }
 
     std::string extract(const std::string &name)
     {

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+
+#include "draft/PageValue.h"
+#include "platform/DraftStore.h"
+#include "wizard/PageTable.h"
+
+namespace penwright {
+
+class WizardWindow;
+
+/// Takes a draft over as its user would have typed it: a page is filled when it is come to, and left by its Next, up to
+/// the page that was shown or to the first that Next does not leave. What the draft holds for pages behind that waits
+/// until the user comes to them.
+class DraftReplay {
+public:
+    explicit DraftReplay(WizardWindow &window) : m_window(window) {}
+
+    /// Replays a draft from page 1 on, which is shown. No box opens: what stops it before the page that was shown is
+    /// noted on the page where it stops.
+    void run(const Draft &draft);
+
+    /// Fills a page that has just been come to with what waits for it. What cannot stand there is noted on it.
+    void fill(int page);
+
+    /// What waits for a page that has not been come to.
+    const PageText *waitingFor(int page) const;
+
+    /// What the file is about by the draft, as long as the page that knows has not been come to.
+    const std::string &about() const { return m_about; }
+
+private:
+    void readPages(const Draft &draft);
+
+    WizardWindow &m_window;
+    std::array<std::optional<PageText>, kPageCount> m_waiting;
+    std::string m_about;
+    bool m_hasRefused = false;  ///< a page could not hold what waited for it
+};
+
+}  // namespace penwright

@@ -1,0 +1,256 @@
+#include "wizard/WizardDrafts.h"
+
+#include <ctime>
+#include <QApplication>
+#include <QMenu>
+#include <QPointer>
+#include <QTimer>
+#include <utility>
+
+#include "draft/DraftWords.h"
+#include "platform/qt/Closing.h"
+#include "platform/qt/QtText.h"
+#include "wizard/DraftLine.h"
+#include "wizard/WizardWindow.h"
+
+namespace penwright {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kDelay = 1500ms;
+constexpr auto kBusyPause = 100ms;
+
+std::int64_t secondsNow()
+{
+    return std::time(nullptr);
+}
+
+std::tm localTime(std::int64_t seconds)
+{
+    const std::time_t time = seconds;
+    std::tm parts{};
+    ::localtime_r(&time, &parts);
+    return parts;
+}
+
+/// Calls come from the keeper's thread; they are made by the event loop, unless the object is gone by then.
+DraftKeeper::Deliver deliverTo(QObject *object)
+{
+    return [alive = QPointer(object)](std::function<void()> call) {
+        const auto make = [alive, call = std::move(call)] {
+            if (alive)
+                call();
+        };
+        if (auto *application = QCoreApplication::instance())
+            QMetaObject::invokeMethod(application, make, Qt::QueuedConnection);
+    };
+}
+
+PageValue valueOf(const PageText &texts)
+{
+    PageValue value;
+    for (const auto &[name, text] : texts)
+        value.push_back({name, [text = text] { return text; }});
+    return value;
+}
+
+}  // namespace
+
+WizardDrafts::WizardDrafts(WizardWindow &window, const Closing &closing, std::unique_ptr<DraftStore> store)
+    : QObject(&window),
+      m_window(window),
+      m_line(new DraftLine),
+      m_replay(window),
+      m_keeper(std::move(store), deliverTo(this), secondsNow,
+               [this](const std::string &reason) { tell(reason.empty() ? "" : toQString(notKeptText(reason))); })
+{
+    m_timer = new QTimer(this);
+    m_timer->setObjectName("draftTimer");
+    m_timer->setSingleShot(true);
+    m_timer->setInterval(kDelay);
+    connect(m_timer, &QTimer::timeout, this, &WizardDrafts::keep);
+    connect(&closing, &Closing::begun, this, &WizardDrafts::keepIfChanged);
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &WizardDrafts::keepIfChanged);
+    followWindow();
+    m_window.page(kLampPage).addTopLine(*m_line);
+    connect(m_line, &DraftLine::takeOverPressed, this, &WizardDrafts::takeOver);
+    connect(m_line, &DraftLine::discardPressed, this, &WizardDrafts::discard);
+    connect(m_line, &DraftLine::morePressed, this, &WizardDrafts::openList);
+}
+
+WizardDrafts::~WizardDrafts() = default;
+
+void WizardDrafts::followWindow()
+{
+    connect(&m_window, &WizardWindow::pageTurned, this, &WizardDrafts::turnTo);
+    connect(&m_window, &WizardWindow::pageShown, this, [this] {
+        if (m_isTyped)
+            keep();
+    });
+    connect(&m_window, &WizardWindow::cancelled, this, &WizardDrafts::drop);
+    connect(&m_window, &WizardWindow::fileTaken, this, &WizardDrafts::finish);
+    for (int page = 0; page < kPageCount; ++page)
+        connect(&m_window.page(page), &PageFrame::changed, this, &WizardDrafts::noteChange);
+}
+
+void WizardDrafts::turnTo(int page)
+{
+    if (m_visited.none())
+        m_keeper.look([this](const DraftsFound &found) { offer(found); });
+    m_visited.set(static_cast<std::size_t>(page));
+    m_replay.fill(page);
+}
+
+void WizardDrafts::noteChange()
+{
+    if (m_visited.none())
+        return;
+    m_isTyped = true;
+    if (!m_timer->isActive())
+        m_timer->start();
+}
+
+void WizardDrafts::keep()
+{
+    m_timer->stop();
+    m_keeper.keep(snapshot());
+}
+
+void WizardDrafts::keepIfChanged()
+{
+    if (m_timer->isActive())
+        keep();
+}
+
+void WizardDrafts::drop()
+{
+    m_timer->stop();
+    m_isTyped = false;
+    m_keeper.drop();
+}
+
+void WizardDrafts::finish()
+{
+    keep();
+    m_isTyped = false;
+    m_keeper.finish();
+}
+
+DraftSnapshot WizardDrafts::snapshot() const
+{
+    DraftSnapshot snapshot{m_window.shownPage(), about(), {}};
+    for (int page = 0; page < kFinishPage; ++page) {
+        if (const PageText *waiting = m_replay.waitingFor(page))
+            snapshot.pages.push_back({page, valueOf(*waiting)});
+        else if (m_visited.test(static_cast<std::size_t>(page)))
+            snapshot.pages.push_back({page, m_window.page(page).value()});
+    }
+    return snapshot;
+}
+
+std::string WizardDrafts::about() const
+{
+    return m_replay.waitingFor(kKeywordPage) ? m_replay.about() : m_window.page(kKeywordPage).subject();
+}
+
+void WizardDrafts::offer(const DraftsFound &found)
+{
+    m_found = found;
+    tell(toQString(putAsideText(found.putAside)));
+    showOffer();
+}
+
+void WizardDrafts::showOffer()
+{
+    if (m_offered < m_found.free.size()) {
+        const DraftHead &head = m_found.free[m_offered].head;
+        m_line->offer(toQString(draftOffer(head, localTime(head.time))), true, m_found.free.size() > 1);
+    } else if (m_found.last) {
+        m_line->offer(toQString(lastFileOffer(*m_found.last, localTime(m_found.last->time))), false, false);
+    }
+}
+
+void WizardDrafts::openList()
+{
+    auto *list = new QMenu(m_line);
+    list->setObjectName("draftList");
+    list->setAttribute(Qt::WA_DeleteOnClose);
+    for (std::size_t draft = 0; draft < m_found.free.size(); ++draft) {
+        const DraftHead &head = m_found.free[draft].head;
+        // What was typed is no mark for a key.
+        const QString text = toQString(draftOffer(head, localTime(head.time))).replace('&', "&&");
+        connect(list->addAction(text), &QAction::triggered, this, [this, draft] {
+            m_offered = draft;
+            showOffer();
+        });
+    }
+    const QWidget &button = m_line->moreButton();
+    list->popup(button.mapToGlobal(button.rect().bottomLeft()));
+}
+
+void WizardDrafts::takeOver()
+{
+    if (m_window.isBusy())
+        return;
+    if (m_offered < m_found.free.size())
+        m_keeper.takeOver(m_found.free[m_offered].name, [this](const TakenDraft &taken) {
+            closeLine();
+            if (taken.end != TakeEnd::Taken)
+                return tell(toQString(takeEndText(taken.end)));
+            replay(taken.draft);
+        });
+    else
+        m_keeper.readLast([this](const std::optional<Draft> &draft) {
+            closeLine();
+            if (!draft)
+                return tell(toQString(takeEndText(TakeEnd::Gone)));
+            // A start and no end: page 1 shows, and the others are filled when one comes to them.
+            replay({{draft->head.time, kLampPage, draft->head.about}, draft->texts});
+        });
+}
+
+void WizardDrafts::discard()
+{
+    if (m_window.isBusy() || m_offered >= m_found.free.size())
+        return;
+    m_keeper.discard(m_found.free[m_offered].name);
+    m_found.free.erase(m_found.free.begin() + static_cast<std::ptrdiff_t>(m_offered));
+    m_offered = 0;
+    if (m_found.free.empty())
+        closeLine();
+    else
+        showOffer();
+}
+
+void WizardDrafts::replay(const Draft &draft)
+{
+    if (m_window.isUnloading())
+        return;
+    if (m_window.isBusy()) {
+        QTimer::singleShot(kBusyPause, this, [this, draft] { replay(draft); });
+        return;
+    }
+    if (m_window.shownPage() != kLampPage)
+        m_window.ShowPage(kLampPage);
+    m_replay.run(draft);
+    if (draft.head.page == kLampPage)
+        m_window.page(kLampPage).focusFirstField();  // again: its text is another one, to be typed over
+    m_isTyped = true;
+    keep();
+}
+
+void WizardDrafts::closeLine()
+{
+    m_line->hide();
+    if (m_window.shownPage() == kLampPage)
+        m_window.page(kLampPage).focusFirstField();
+}
+
+void WizardDrafts::tell(const QString &line)
+{
+    if (m_window.shownPage() < kPageCount)
+        m_window.page(m_window.shownPage()).showNote(line);
+}
+
+}  // namespace penwright

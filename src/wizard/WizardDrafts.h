@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QObject>
+
+#include <bitset>
+#include <memory>
+#include <optional>
+
+#include "draft/DraftKeeper.h"
+#include "wizard/DraftReplay.h"
+
+class QTimer;
+
+namespace penwright {
+
+class Closing;
+class DraftLine;
+
+/// Keeps what is typed into the wizard as a draft, and offers on page 1 what another run left behind. What is typed is
+/// handed on at most 1.5 seconds after it was typed, at each page turn and when the program unloads. The draft becomes
+/// the last finished file when the host has taken the file, and goes when the user cancels.
+class WizardDrafts : public QObject {
+    Q_OBJECT
+
+public:
+    /// For a window with its pages, whose child it becomes.
+    WizardDrafts(WizardWindow &window, const Closing &closing, std::unique_ptr<DraftStore> store);
+    ~WizardDrafts() override;
+
+private:
+    void followWindow();
+    void turnTo(int page);
+    void noteChange();
+    void keep();
+    void keepIfChanged();
+    void drop();
+    void finish();
+    DraftSnapshot snapshot() const;
+    std::string about() const;
+
+    void offer(const DraftsFound &found);
+    void showOffer();
+    void openList();
+    void takeOver();
+    void discard();
+    void replay(const Draft &draft);
+    void closeLine();
+    void tell(const QString &line);
+
+    WizardWindow &m_window;
+    DraftLine *m_line;
+    DraftReplay m_replay;
+    DraftKeeper m_keeper;
+    QTimer *m_timer;                    ///< runs from the first change that is not kept
+    std::bitset<kPageCount> m_visited;  ///< pages that have been shown, and so may hold something
+    bool m_isTyped = false;             ///< something has been typed since the last finished file
+    DraftsFound m_found;                ///< what is still offered
+    std::size_t m_offered = 0;          ///< which of them the line shows
+};
+
+}  // namespace penwright

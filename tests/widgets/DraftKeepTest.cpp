@@ -1,0 +1,153 @@
+#include "widgets/DraftsTest.h"
+
+namespace penwright::test {
+namespace {
+
+using DraftKeep = DraftsTest;
+
+TEST_F(DraftKeep, runInWhichNothingIsTypedLeavesNothing)
+{
+    startRun();
+    QTest::qWait(50);
+    kill();
+    EXPECT_FALSE(std::filesystem::exists(draftFolder));
+}
+
+TEST_F(DraftKeep, whatIsTypedIsKeptSoonAfter)
+{
+    startRun();
+    typeText("7");
+    waitUntilKept();
+    kill();
+    const Draft draft = leftDraft();
+    EXPECT_EQ(draft.head.page, kLampPage);
+    EXPECT_EQ(draft.head.about, "");
+    EXPECT_EQ(textOf(draft, kLampPage, "txtNumLamps"), "7");
+    EXPECT_EQ(textOf(draft, kLampPage, "txtWatt"), "");
+    EXPECT_EQ(textOf(draft, kLampPage, "lmpCmbShape"), "-1");
+}
+
+TEST_F(DraftKeep, nobodyWaitsForAPauseInTyping)
+{
+    startRun();
+    auto *timer = find<QTimer>("draftTimer");
+    EXPECT_LT(timer->interval(), 2000);
+    typeText("7");
+    EXPECT_TRUE(timer->isActive());
+    const int left = timer->remainingTime();
+    QTest::qWait(20);
+    typeText("8");
+    EXPECT_LT(timer->remainingTime(), left) << "a later key must not put it off";
+}
+
+TEST_F(DraftKeep, pageTurnIsKeptAtOnce)
+{
+    startRun();
+    fillPagesBefore(kKeywordPage);
+    fillPageThree();
+    click("cmdNext20");
+    kill();
+    const Draft draft = leftDraft();
+    EXPECT_EQ(draft.head.page, kDistributionPage);
+    EXPECT_EQ(draft.head.about, "EL-2054");
+    EXPECT_EQ(textOf(draft, kTiltPage, "lmpTxtNumAngles"), "2");
+    EXPECT_EQ(textOf(draft, kCandelaPage, "cdaGridCd"), "(none)") << "a page that was never shown holds nothing";
+}
+
+TEST_F(DraftKeep, closeLeavesWhatWasTypedUpToIt)
+{
+    startRun();
+    typeText("7");
+    QTimer::singleShot(0, window.get(), [this] { window->beginUnload(); });
+    EXPECT_EQ(runUntilEnd(), 0);
+    kill();
+    EXPECT_EQ(textOf(leftDraft(), kLampPage, "txtNumLamps"), "7");
+}
+
+TEST_F(DraftKeep, yesToTheCancelQuestionDropsTheDraft)
+{
+    startRun();
+    typeText("7");
+    waitUntilKept();
+    typeText("8");
+    dialogs.answers = {Answer::Yes};
+    QTimer::singleShot(0, window.get(), [this] { click("cmdCancel"); });
+    EXPECT_EQ(runUntilEnd(), 0);
+    kill();
+    EXPECT_TRUE(std::filesystem::is_empty(draftFolder));
+}
+
+TEST_F(DraftKeep, noToTheCancelQuestionKeepsItEvenWhereItEndsTheProgram)
+{
+    state.start.EmbedInHost = false;
+    startRun();
+    typeText("7");
+    dialogs.answers = {Answer::No};
+    QTimer::singleShot(0, window.get(), [this] { click("cmdCancel"); });
+    EXPECT_EQ(runUntilEnd(), 0);
+    kill();
+    EXPECT_EQ(textOf(leftDraft(), kLampPage, "txtNumLamps"), "7");
+}
+
+TEST_F(DraftKeep, fileThatTheHostTookIsTheLastFileAndNoDraft)
+{
+    startRun();
+    fillPagesBefore(kFinishPage);
+    QTimer::singleShot(0, window.get(), [this] {
+        click("cmdUnname");
+        window->beginUnload();
+    });
+    EXPECT_EQ(runUntilEnd(), 0);
+    kill();
+    const DraftsFound found = left();
+    EXPECT_TRUE(found.free.empty());
+    ASSERT_TRUE(found.last);
+    EXPECT_EQ(found.last->about, "EL-2054");
+}
+
+TEST_F(DraftKeep, whatIsTypedAfterTheHostTookTheFileIsADraftAgain)
+{
+    startRun();
+    fillPagesBefore(kFinishPage);
+    emit window->fileTaken();
+    click("cmdBack80");
+    waitUntilKept();
+    window->ShowPage(kLampPage);
+    setText("txtNumLamps", "9");
+    waitUntilKept();
+    kill();
+    EXPECT_EQ(textOf(leftDraft(), kLampPage, "txtNumLamps"), "9");
+    EXPECT_EQ(left().last.value().about, "EL-2054");
+}
+
+TEST_F(DraftKeep, settingSwitchesKeepingAndOfferingOff)
+{
+    leave(kLampPage, "EL-1", {{kLampPage, "txtNumLamps", "3"}});
+    store.write("Lumentor32", "Lumentor32", "DraftsOff", "1");
+    startRun();
+    typeText("7");
+    EXPECT_EQ(window->findChild<QTimer *>("draftTimer"), nullptr);
+    EXPECT_EQ(window->findChild<QWidget *>("draftLine"), nullptr);
+    kill();
+    EXPECT_EQ(textOf(leftDraft(), kLampPage, "txtNumLamps"), "3");
+}
+
+TEST_F(DraftKeep, folderThatCannotBeWrittenIsToldInOneLineAndTheWizardWorksOn)
+{
+    std::filesystem::create_directories(folder.file("state/Lumentor"));
+    std::ofstream(draftFolder) << "mine";
+    startRun();
+    typeText("7");
+    waitUntilKept();
+    const std::string told = "What you type is not kept as a draft: " + draftFolder + ": File exists";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return note(kLampPage) == told; })) << note(kLampPage);
+    fillPageOne();
+    click("cmdNext10");
+    EXPECT_EQ(shownPage(), kKeywordPage);
+    QTest::qWait(50);
+    EXPECT_EQ(note(kKeywordPage), "") << "once is enough";
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
+}  // namespace
+}  // namespace penwright::test

@@ -1,0 +1,174 @@
+#include "widgets/DraftsTest.h"
+
+namespace penwright::test {
+namespace {
+
+class DraftOffer : public DraftsTest {
+protected:
+    void leaveLamps(const std::string &about, const std::string &lamps)
+    {
+        leave(kLampPage, about, {{kLampPage, "txtNumLamps", lamps}});
+    }
+
+    static std::string momentOf(const std::string &front)
+    {
+        const QDateTime time = QDateTime::fromSecsSinceEpoch(1'700'000'000);
+        return front + QLocale::c().toString(time, ", d MMMM hh:mm").toStdString();
+    }
+};
+
+TEST_F(DraftOffer, nothingIsOfferedWhereNothingWasLeft)
+{
+    startRun();
+    QTest::qWait(50);
+    EXPECT_TRUE(find("draftLine")->isHidden());
+}
+
+TEST_F(DraftOffer, draftIsOfferedInALineThatTakesNoFocus)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    EXPECT_EQ(offer(), momentOf("Draft of EL-2054, page 1"));
+    EXPECT_EQ(focusName(), "txtNumLamps");
+    EXPECT_TRUE(find("draftTakeOver")->isVisible());
+    EXPECT_TRUE(find("draftDiscard")->isVisible());
+    EXPECT_FALSE(find("draftMore")->isVisible());
+    EXPECT_EQ(dialogs.transcript, "");
+    typeText("12");
+    EXPECT_EQ(text("txtNumLamps"), "12");
+    EXPECT_TRUE(find("draftLine")->isVisible());
+}
+
+TEST_F(DraftOffer, lineStandsAboveTheFormAndComesBeforeItWithTab)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    EXPECT_LT(find("draftLine")->mapTo(window.get(), QPoint()).y(), find("Frame2")->mapTo(window.get(), QPoint()).y());
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(focusName(), "draftDiscard");
+    press(Qt::Key_Backtab);
+    EXPECT_EQ(focusName(), "draftTakeOver");
+    press(Qt::Key_Tab);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focusName(), "txtNumLamps");
+}
+
+TEST_F(DraftOffer, enterInTheLinePressesNextAndNoButtonOfIt)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    find("draftDiscard")->setFocus();
+    EXPECT_NE(warningsOf([] { press(Qt::Key_Return); }), "");
+    EXPECT_EQ(left().free.size(), 1U);
+    EXPECT_TRUE(find("draftLine")->isVisible());
+}
+
+TEST_F(DraftOffer, screenReaderHearsTheOfferOnTheLineAndItsButtons)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    const QString told = QString::fromStdString(offer());
+    EXPECT_EQ(find("draftLine")->accessibleName(), told);
+    EXPECT_EQ(find("draftTakeOver")->accessibleDescription(), told);
+    EXPECT_EQ(find("draftDiscard")->accessibleDescription(), told);
+}
+
+TEST_F(DraftOffer, discardedDraftIsGoneWithTheLine)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    find("draftDiscard")->setFocus();
+    press(Qt::Key_Space);
+    EXPECT_TRUE(find("draftLine")->isHidden());
+    EXPECT_EQ(focusName(), "txtNumLamps");
+    kill();
+    EXPECT_TRUE(left().free.empty());
+}
+
+TEST_F(DraftOffer, latestOfManyIsOfferedAndTheListHasTheOthers)
+{
+    leaveLamps("first", "1");
+    leaveLamps("A&B", "2");
+    leaveLamps("third", "3");
+    startRun();
+    waitForOffer();
+    EXPECT_EQ(offer(), momentOf("Draft of third, page 1"));
+    click("draftMore");
+    auto *list = find<QMenu>("draftList");
+    ASSERT_TRUE(list->isVisible());
+    ASSERT_EQ(list->actions().size(), 3);
+    EXPECT_EQ(list->actions()[1]->text().toStdString(), momentOf("Draft of A&&B, page 1"));
+    list->actions()[1]->trigger();
+    list->close();
+    EXPECT_EQ(offer(), momentOf("Draft of A&B, page 1"));
+    takeOver();
+    EXPECT_EQ(text("txtNumLamps"), "2");
+    kill();
+    EXPECT_EQ(left().free.size(), 3U) << "what was taken over goes on as a draft";
+}
+
+TEST_F(DraftOffer, nextDraftIsOfferedWhenOneOfManyIsDiscarded)
+{
+    leaveLamps("first", "1");
+    leaveLamps("second", "2");
+    startRun();
+    waitForOffer();
+    click("draftDiscard");
+    EXPECT_EQ(offer(), momentOf("Draft of first, page 1"));
+    EXPECT_FALSE(find("draftMore")->isVisible());
+}
+
+TEST_F(DraftOffer, lastFileIsOfferedWhereThereIsNoDraft)
+{
+    {
+        SqliteDraftStore other(draftFolder);
+        other.write({1'700'000'000, kFinishPage, "EL-2054"}, [first = true]() mutable {
+            return std::exchange(first, false) ? std::optional(DraftText{kLampPage, "txtNumLamps", "4"}) : std::nullopt;
+        });
+        other.finish();
+    }
+    startRun();
+    waitForOffer();
+    EXPECT_EQ(offer(), momentOf("Start from EL-2054"));
+    EXPECT_FALSE(find("draftDiscard")->isVisible());
+    takeOver();
+    EXPECT_EQ(text("txtNumLamps"), "4");
+    EXPECT_EQ(shownPage(), kLampPage);
+    kill();
+    EXPECT_TRUE(left().last) << "the last file stays one to start from";
+}
+
+TEST_F(DraftOffer, draftThatAnotherWizardTookIsSaidToBeInUse)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    SqliteDraftStore other(draftFolder);
+    Draft draft;
+    ASSERT_EQ(other.takeOver(other.look().free.at(0).name, draft), TakeEnd::Taken);
+    takeOver();
+    EXPECT_EQ(note(kLampPage), "Another wizard has taken this draft over.");
+    EXPECT_EQ(text("txtNumLamps"), "");
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
+TEST_F(DraftOffer, draftThatIsNotUnderstoodIsPutAsideAndSaidOnce)
+{
+    std::filesystem::create_directories(draftFolder);
+    std::ofstream(draftFolder + "/draft-20240101T000000-1-0badf00d.sqlite3") << "rubbish";
+    startRun();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !note(kLampPage).empty(); }));
+    EXPECT_EQ(note(kLampPage), "A draft could not be read and was put aside.");
+    kill();
+    startRun();
+    QTest::qWait(50);
+    EXPECT_EQ(note(kLampPage), "");
+}
+
+}  // namespace
+}  // namespace penwright::test

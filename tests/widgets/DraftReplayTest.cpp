@@ -1,0 +1,169 @@
+#include "widgets/DraftsTest.h"
+
+namespace penwright::test {
+namespace {
+
+class DraftReplayTest : public DraftsTest {
+protected:
+    /// The texts of page 1 that pass its checks, with tilt.
+    static std::vector<DraftText> pageOne()
+    {
+        std::vector<DraftText> texts;
+        for (const char *box : {"txtNumLamps", "txtLumPerLamp", "txtMultiplier", "txtBallast", "txtWatt", "txtWidth",
+                                "txtLength", "txtHeight"})
+            texts.push_back({kLampPage, box, "1"});
+        texts.push_back({kLampPage, "chkIncludeTilt", "1"});
+        return texts;
+    }
+};
+
+TEST_F(DraftReplayTest, everyPageComesBackAsItWasUpToTheOneThatWasShown)
+{
+    for (int page = kLampPage; page <= kFinishPage; ++page) {
+        startRun();
+        fillPagesBefore(page);
+        if (page == kLampPage)
+            typeText("7");
+        waitUntilKept();
+        const std::vector<PageText> before = allTexts();
+        const PhotometricRecord record = state.PhotFiles(1);
+        kill();
+        startRun();
+        takeOver();
+        EXPECT_EQ(shownPage(), page);
+        EXPECT_EQ(allTexts(), before) << "page " << page;
+        EXPECT_EQ(state.PhotFiles(1).NumLamps, record.NumLamps);
+        EXPECT_EQ(state.PhotFiles(1).VertAngles, record.VertAngles);
+        EXPECT_EQ(note(page), "");
+        EXPECT_EQ(dialogs.transcript, "");
+        dialogs.answers = {Answer::Yes};
+        emit window->cancelled();
+        kill();
+    }
+}
+
+TEST_F(DraftReplayTest, pagesBehindTheOneThatWasShownComeBackToo)
+{
+    startRun();
+    fillPagesBefore(kCandelaPage);
+    fillPageFive();
+    const std::vector<PageText> before = allTexts();
+    for (const char *back : {"cmdBack50", "cmdBack30"})
+        click(back);
+    ASSERT_EQ(shownPage(), kKeywordPage);
+    kill();
+    startRun();
+    takeOver();
+    EXPECT_EQ(shownPage(), kKeywordPage);
+    click("cmdNext20");
+    click("cmdNext30");
+    EXPECT_EQ(shownPage(), kCandelaPage);
+    EXPECT_EQ(allTexts(), before);
+}
+
+TEST_F(DraftReplayTest, pageThatFailsItsChecksStopsItWithoutABox)
+{
+    std::vector<DraftText> texts = pageOne();
+    texts.push_back({kTiltPage, "lmpTxtNumAngles", ""});
+    leave(kDistributionPage, "EL-2054", texts);
+    startRun();
+    takeOver();
+    EXPECT_EQ(shownPage(), kTiltPage);
+    EXPECT_FALSE(find("dlgWarn")->isVisible());
+    EXPECT_EQ(note(kTiltPage), "The draft is taken over up to this page: something here is missing or wrong.");
+    EXPECT_EQ(dialogs.transcript, "");
+    EXPECT_NE(warningsOf([this] { click("cmdNext15"); }), "") << "a Next that is pressed speaks";
+}
+
+TEST_F(DraftReplayTest, whatWaitsBehindAFailingPageIsNotLostWithTheNextKill)
+{
+    startRun();
+    fillPagesBefore(kDistributionPage);
+    const PageText keywords = textsOf(window->page(kKeywordPage));
+    kill();
+    {
+        SqliteDraftStore other(draftFolder);
+        Draft draft;
+        ASSERT_EQ(other.takeOver(other.look().free.at(0).name, draft), TakeEnd::Taken);
+        other.drop();
+        for (DraftText &text : draft.texts)
+            if (text.name == "lmpTxtNumAngles")
+                text.text = "";
+        leave(kDistributionPage, draft.head.about, draft.texts);
+    }
+    startRun();
+    takeOver();
+    ASSERT_EQ(shownPage(), kTiltPage);
+    waitUntilKept();
+    kill();
+    startRun();
+    waitForOffer();
+    EXPECT_EQ(offer().substr(0, 25), "Draft of EL-2054, page 2,");
+    takeOver();
+    fillPageTwo();
+    click("cmdNext15");
+    EXPECT_EQ(shownPage(), kKeywordPage);
+    EXPECT_EQ(textsOf(window->page(kKeywordPage)), keywords);
+}
+
+TEST_F(DraftReplayTest, errorThatNextWouldTellStopsItWithoutABox)
+{
+    std::vector<DraftText> texts = pageOne();
+    texts[0].text = "40000";
+    leave(kKeywordPage, "", texts);
+    startRun();
+    takeOver();
+    EXPECT_EQ(shownPage(), kLampPage);
+    EXPECT_EQ(text("txtNumLamps"), "40000");
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
+TEST_F(DraftReplayTest, whatCannotStandOnAPageIsRefusedAsAWhole)
+{
+    for (const DraftText &odd : {DraftText{kLampPage, "noSuchBox", "1"}, DraftText{kLampPage, "lmpCmbShape", "99"}}) {
+        std::vector<DraftText> texts = pageOne();
+        texts.push_back(odd);
+        leave(kKeywordPage, "", texts);
+        startRun();
+        takeOver();
+        EXPECT_EQ(shownPage(), kLampPage);
+        EXPECT_EQ(text("txtNumLamps"), "");
+        EXPECT_EQ(note(kLampPage), "What the draft holds for this page cannot stand here. The page is as it was.");
+        emit window->cancelled();
+        kill();
+    }
+}
+
+TEST_F(DraftReplayTest, pagesThatDoNotExistAreNoHarm)
+{
+    std::vector<DraftText> texts = pageOne();
+    texts.push_back({77, "txtNumLamps", "1"});
+    texts.push_back({-1, "txtNumLamps", "1"});
+    leave(4711, "", texts);
+    startRun();
+    takeOver();
+    EXPECT_EQ(shownPage(), kTiltPage) << "page 2 is empty and fails";
+}
+
+TEST_F(DraftReplayTest, draftTakesThePlaceOfWhatWasTypedBefore)
+{
+    leave(kLampPage, "", {{kLampPage, "txtNumLamps", "3"}});
+    startRun();
+    waitForOffer();
+    typeText("12");
+    takeOver();
+    EXPECT_EQ(text("txtNumLamps"), "3");
+    EXPECT_EQ(focusName(), "txtNumLamps");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text("txtNumLamps"), "12") << "taking over is a step";
+    press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(text("txtNumLamps"), "3");
+    find<QLineEdit>("txtNumLamps")->selectAll();
+    typeText("4");
+    waitUntilKept();
+    kill();
+    EXPECT_EQ(textOf(leftDraft(), kLampPage, "txtNumLamps"), "4") << "one draft, and it goes on";
+}
+
+}  // namespace
+}  // namespace penwright::test
