@@ -18,7 +18,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto kDelay = 1500ms;
+constexpr auto kDelay = 1s;
 constexpr auto kBusyPause = 100ms;
 
 std::int64_t secondsNow()

@@ -17,7 +17,7 @@ class Closing;
 class DraftLine;
 
 /// Keeps what is typed into the wizard as a draft, and offers on page 1 what another run left behind. What is typed is
-/// handed on at most 1.5 seconds after it was typed, at each page turn and when the program unloads. The draft becomes
+/// handed on at most a second after it was typed, at each page turn and when the program unloads. The draft becomes
 /// the last finished file when the host has taken the file, and goes when the user cancels.
 class WizardDrafts : public QObject {
     Q_OBJECT

@@ -217,6 +217,7 @@ ssize_t noRoom(int, const void *, size_t, off_t)
 TEST_F(DraftFaultTest, fullDiskIsAnErrorAndTheDraftStaysWhatItWas)
 {
     auto run = std::make_unique<SqliteDraftStore>(drafts);
+    write(*run, "first");
     write(*run, "before");
     {
         const InjectedCall first("pwrite", &noRoom), second("pwrite64", &noRoom);

@@ -50,13 +50,15 @@ protected:
     }
     std::string offered() const { return offered(SqliteDraftStore(drafts).look()); }
 
-    /// The names in the folder, sorted.
+    /// The names in the folder, sorted; without what SQLite has beside a database that is open.
     std::vector<std::string> files() const
     {
         std::vector<std::string> names;
         std::error_code ignored;
         for (const auto &entry : std::filesystem::directory_iterator(drafts, ignored))
-            names.push_back(entry.path().filename().string());
+            if (const std::string name = entry.path().filename().string();
+                !name.ends_with("-wal") && !name.ends_with("-shm"))
+                names.push_back(name);
         std::sort(names.begin(), names.end());
         return names;
     }

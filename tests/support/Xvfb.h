@@ -17,8 +17,8 @@ public:
     enum class Manager { None, Openbox };
 
     explicit Xvfb(Manager manager = Manager::None)
-        : m_server({"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"}, {},
-                   Process::Errors::Dropped)
+        : m_server({"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset", "-r"},
+                   {}, Process::Errors::Dropped)
     {
         const auto number = m_server.readLine();
         if (!number)

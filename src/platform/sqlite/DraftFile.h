@@ -31,4 +31,7 @@ std::vector<DraftText> readDraftTexts(sqlite3 *database);
 /// what `texts` throws; the file then holds what it held before.
 void writeDraft(sqlite3 *database, const DraftMark &mark, const DraftTextSource &texts);
 
+/// Makes the draft one file, without others beside it that belong to its name. Throws SqliteFailure.
+void settleDraft(sqlite3 *database);
+
 }  // namespace penwright

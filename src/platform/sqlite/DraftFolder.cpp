@@ -146,14 +146,16 @@ bool DraftFolder::putAside(const std::string &name) const
         "aside-" + name.substr(0, name.size() - kEnd.size()) + "-" + chanceText() + std::string(kEnd);
     if (std::rename(pathOf(name).c_str(), pathOf(other).c_str()) != 0)
         return false;
-    std::rename(pathOf(name + "-journal").c_str(), pathOf(other + "-journal").c_str());
+    for (const char *end : {"-journal", "-wal"})
+        std::rename(pathOf(name + end).c_str(), pathOf(other + end).c_str());
+    ::unlink(pathOf(name + "-shm").c_str());
     return true;
 }
 
 void DraftFolder::remove(const std::string &name) const
 {
-    ::unlink(pathOf(name).c_str());
-    ::unlink(pathOf(name + "-journal").c_str());
+    for (const char *end : {"", "-journal", "-wal", "-shm"})
+        ::unlink(pathOf(name + end).c_str());
 }
 
 void DraftFolder::replace(const std::string &name, const std::string &replaced) const

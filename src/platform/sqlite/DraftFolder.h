@@ -39,10 +39,10 @@ public:
     /// Whether a file has no byte.
     bool isFileOfNothing(const std::string &name) const;
 
-    /// Gives the file another name, with its journal; whether that was possible.
+    /// Gives the file another name, with its journals; whether that was possible.
     bool putAside(const std::string &name) const;
 
-    /// Removes a file with its journal.
+    /// Removes a file with its journals.
     void remove(const std::string &name) const;
 
     /// Gives a file, which nobody has open, the name of another and so takes that one's place.

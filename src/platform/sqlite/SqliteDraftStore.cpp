@@ -231,9 +231,14 @@ void SqliteDraftStore::finish()
     forgetOwnIfGone();
     if (!m_own)
         return;
-    m_own->database.reset();
     Own own = *std::move(m_own);
     m_own.reset();
+    try {
+        settleDraft(own.database.get());
+    } catch (const SqliteFailure &failure) {
+        throw errorOf(own.name, failure);
+    }
+    own.database.reset();
     m_folder.replace(own.name, kLastFile);
     own.lock.remove();
 }
