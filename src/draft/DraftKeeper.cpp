@@ -31,7 +31,7 @@ DraftTextSource textsOf(const DraftSnapshot &snapshot)
 }  // namespace
 
 struct DraftKeeper::Job {
-    std::function<void(DraftStore &)> run;
+    std::function<void(DraftStore &)> run{};
     bool isKeeping = false;
 };
 

@@ -21,15 +21,15 @@ struct HeldPage {
 
 /// Everything that is typed, at one moment: what a draft is made of.
 struct DraftSnapshot {
-    int page = 0;       ///< index of the page shown
-    std::string about;  ///< what the file is about, "" when nothing of it was typed
-    std::vector<HeldPage> pages;
+    int page = 0;         ///< index of the page shown
+    std::string about{};  ///< what the file is about, "" when nothing of it was typed
+    std::vector<HeldPage> pages{};
 };
 
 /// A draft that was wanted, and how that ended; it is empty unless it was taken.
 struct TakenDraft {
     TakeEnd end = TakeEnd::Gone;
-    Draft draft;
+    Draft draft{};
 };
 
 /// Keeps what is typed in a store of drafts, on a thread of its own: no call but `flush` waits for the disk. What is

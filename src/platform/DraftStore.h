@@ -26,14 +26,14 @@ struct DraftHead {
 
 /// A draft with all its texts, each page's in the order of the form.
 struct Draft {
-    DraftHead head;
+    DraftHead head{};
     std::vector<DraftText> texts;
 };
 
 /// A draft among others: `name` is its name in the store.
 struct DraftEntry {
     std::string name;
-    DraftHead head;
+    DraftHead head{};
 };
 
 /// What a look into the store finds.

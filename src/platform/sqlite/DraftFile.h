@@ -12,7 +12,7 @@ namespace penwright {
 struct DraftMark {
     bool isEmpty = false;    ///< nothing was ever written into the file
     std::int64_t order = 0;  ///< greater than that of any draft that was there when it was written
-    DraftHead head;
+    DraftHead head{};
 };
 
 /// Opens the draft's file at `path`, which is there, and undoes what a killed run left half written. A file of nothing

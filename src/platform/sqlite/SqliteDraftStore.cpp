@@ -56,7 +56,7 @@ struct SqliteDraftStore::Sight {
 
     Kind kind = Kind::NotNow;
     std::int64_t order = 0;
-    DraftEntry entry;
+    DraftEntry entry{};
 };
 
 std::string SqliteDraftStore::userFolder()
