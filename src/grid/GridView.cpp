@@ -7,6 +7,7 @@
 #include <QFocusEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenu>
 #include <utility>
 
@@ -204,8 +205,27 @@ bool GridView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event
     if (editor && !m_editor->is(editor)) {
         m_editor->begin(editor, trigger);
         editor->installEventFilter(this);
+        connect(m_editor->line(), &QLineEdit::textChanged, this, &GridView::halfTypedChanged);
     }
     return isDone;
+}
+
+std::optional<GridText> GridView::halfTyped() const
+{
+    if (!isEditing())
+        return std::nullopt;
+    return GridText{currentRow(), currentColumn(), m_editor->line()->text().toStdString()};
+}
+
+void GridView::resumeTyping(const GridText &cell)
+{
+    const QModelIndex index = model()->index(cell.row - 1, cell.column);
+    if (!index.isValid())
+        return;
+    goTo(cell.row, cell.column);
+    QTableView::edit(index);
+    if (isEditing())
+        m_editor->line()->setText(QString::fromStdString(cell.text));
 }
 
 void GridView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint hint)

@@ -3,6 +3,7 @@
 #include <QTableView>
 
 #include <memory>
+#include <optional>
 
 #include "grid/GridSource.h"
 #include "grid/GridSteering.h"
@@ -77,9 +78,19 @@ public:
     /// Whether a cell is being edited.
     bool isEditing() const;
 
+    /// The cell that is being edited with the text in its editor; nothing while none is.
+    std::optional<GridText> halfTyped() const;
+
+    /// Opens a cell's editor with a text in it, as if that had been typed so far. A cell that is not there, or that
+    /// takes no text, changes nothing.
+    void resumeTyping(const GridText &cell);
+
     const GridCellEditor &editor() const { return *m_editor; }
 
 signals:
+    /// The text in an open editor has changed; no cell holds it yet.
+    void halfTypedChanged();
+
     /// A new text has been written into one cell, by typing, clearing or pasting.
     void cellWritten(int row, int column);
 

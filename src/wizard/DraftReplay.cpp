@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "wizard/HalfTyped.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright {
@@ -23,14 +24,20 @@ void DraftReplay::run(const Draft &draft)
             return m_window.page(shown).showNote(kStopped);
         shown = m_window.shownPage();
     }
+    if (!m_hasRefused)
+        resumeTyping(m_window.page(shown).fields(), m_halfTyped);
 }
 
 void DraftReplay::readPages(const Draft &draft)
 {
     m_waiting = {};
+    m_halfTyped.clear();
     m_about = draft.head.about;
     for (const DraftText &held : draft.texts)
-        if (held.page >= 0 && held.page < kPageCount) {
+        if (isHalfTyped(held.name)) {
+            if (held.page == draft.head.page)
+                m_halfTyped.emplace(held.name, held.text);
+        } else if (held.page >= 0 && held.page < kPageCount) {
             auto &page = m_waiting[static_cast<std::size_t>(held.page)];
             if (!page)
                 page.emplace();

@@ -37,6 +37,7 @@ private:
 
     WizardWindow &m_window;
     std::array<std::optional<PageText>, kPageCount> m_waiting;
+    PageText m_halfTyped;  ///< on the page that was shown
     std::string m_about;
     bool m_hasRefused = false;  ///< a page could not hold what waited for it
 };

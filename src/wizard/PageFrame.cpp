@@ -180,6 +180,7 @@ void PageFrame::watchFields()
         connect(grid, &GridView::cellWritten, this, &PageFrame::changed);
         connect(grid, &GridView::valuesReplaced, this, &PageFrame::changed);
         connect(grid, &GridView::rebuilt, this, &PageFrame::changed);
+        connect(grid, &GridView::halfTypedChanged, this, &PageFrame::changed);
     }
 }
 

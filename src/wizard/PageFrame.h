@@ -82,6 +82,9 @@ public:
     /// anew.
     virtual bool followRecord() { return false; }
 
+    /// The controls that hold what a user puts in.
+    const PageFields &fields() const { return m_fields; }
+
     /// What stands on the page.
     PageValue value() const { return m_fields.value(); }
 

@@ -11,6 +11,7 @@
 #include "platform/qt/Closing.h"
 #include "platform/qt/QtText.h"
 #include "wizard/DraftLine.h"
+#include "wizard/HalfTyped.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright {
@@ -146,6 +147,8 @@ DraftSnapshot WizardDrafts::snapshot() const
         else if (m_visited.test(static_cast<std::size_t>(page)))
             snapshot.pages.push_back({page, m_window.page(page).value()});
     }
+    if (snapshot.page < kFinishPage)
+        snapshot.pages.push_back({snapshot.page, halfTyped(m_window.page(snapshot.page).fields())});
     return snapshot;
 }
 

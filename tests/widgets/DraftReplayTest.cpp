@@ -145,6 +145,40 @@ TEST_F(DraftReplayTest, pagesThatDoNotExistAreNoHarm)
     EXPECT_EQ(shownPage(), kTiltPage) << "page 2 is empty and fails";
 }
 
+TEST_F(DraftReplayTest, textInAnOpenEditorIsTypedOn)
+{
+    startRun();
+    fillPagesBefore(kKeywordPage);
+    find<GridView>("keyGrid")->goTo(3, 1);
+    typeText("Night L");
+    waitUntilKept();
+    kill();
+    startRun();
+    takeOver();
+    ASSERT_EQ(shownPage(), kKeywordPage);
+    auto *grid = find<GridView>("keyGrid");
+    EXPECT_TRUE(grid->isEditing());
+    EXPECT_EQ(grid->source().read(3, 1), "") << "nobody has committed it";
+    typeText("ab");
+    press(Qt::Key_Return);
+    EXPECT_EQ(grid->source().read(3, 1), "Night Lab");
+}
+
+TEST_F(DraftReplayTest, oddTextsOfAnEditorAreNoHarm)
+{
+    for (const char *odd : {"", "x", "0 0 a", "99 1 a", "1 99 a", "-5 -5 a", "1 1", "99999999999 1 a"}) {
+        std::vector<DraftText> texts = pageOne();
+        texts.push_back({kTiltPage, "lmpGridTiltMultiplier.editor", odd});
+        leave(kTiltPage, "", texts);
+        startRun();
+        takeOver();
+        EXPECT_EQ(shownPage(), kTiltPage) << odd;
+        EXPECT_FALSE(find<GridView>("lmpGridTiltMultiplier")->isEditing()) << odd;
+        emit window->cancelled();
+        kill();
+    }
+}
+
 TEST_F(DraftReplayTest, draftTakesThePlaceOfWhatWasTypedBefore)
 {
     leave(kLampPage, "", {{kLampPage, "txtNumLamps", "3"}});
