@@ -239,7 +239,7 @@ bool PageFrame::leaveByNext()
     try {
         m_nextHandler();
     } catch (const std::exception &) {  // what it would say, the press of a key will say again
-        focusFirstFault();
+        goToFault(dlgWarn().list().firstFault());
     }
     dlgWarn().setQuiet(false);
     return isHidden();
