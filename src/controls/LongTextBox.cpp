@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <QResizeEvent>
 #include <QTextBlock>
+#include <utility>
 
 #include "controls/EnterKey.h"
 
@@ -52,7 +53,15 @@ void LongTextBox::showLines(QString lines)
 void LongTextBox::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::LeftButton)
-        emit lineChosen(lineOf(cursorForPosition(event->position().toPoint())));
+        m_pressedLine = lineOf(cursorForPosition(event->position().toPoint()));
+}
+
+// Told at the release, which is not to come to what stands below a dialog that closes.
+void LongTextBox::mouseReleaseEvent(QMouseEvent *event)
+{
+    QPlainTextEdit::mouseReleaseEvent(event);
+    if (const auto line = std::exchange(m_pressedLine, std::nullopt))
+        emit lineChosen(*line);
 }
 
 void LongTextBox::keyPressEvent(QKeyEvent *event)

@@ -2,6 +2,8 @@
 
 #include <QPlainTextEdit>
 
+#include <optional>
+
 namespace penwright {
 
 /// A read-only box for a list of lines that stays quick with a million of them. Its text is the lines as they were
@@ -23,6 +25,7 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
@@ -30,6 +33,7 @@ private:
     void countLines();
 
     bool m_isLong = false;
+    std::optional<int> m_pressedLine;  ///< by a double click
 };
 
 }  // namespace penwright

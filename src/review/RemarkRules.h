@@ -3,8 +3,10 @@
 #include <string>
 #include <vector>
 
+#include "core/PhotometricRecord.h"
 #include "review/FormatRules.h"
-#include "review/Remarks.h"
+#include "review/Photometry.h"
+#include "review/Remark.h"
 
 namespace penwright {
 

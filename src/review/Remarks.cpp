@@ -43,11 +43,6 @@ void RuleRemarks::appendTo(std::vector<Remark> &remarks)
     remarks.insert(remarks.end(), std::make_move_iterator(m_remarks.begin()), std::make_move_iterator(m_remarks.end()));
 }
 
-std::string_view anchorOf(RemarkRule rule)
-{
-    return kRemarkAnchors.at(static_cast<std::size_t>(rule));
-}
-
 std::vector<Remark> remarksOf(const PhotometricRecord &record, const Photometry &photometry)
 {
     const std::string_view firstLine = record.Keywords.empty() ? std::string_view() : record.Keywords(1);

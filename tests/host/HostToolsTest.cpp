@@ -15,6 +15,7 @@
 #include "hostbench/SampleLuminaire.h"
 #include "hostbench/XDisplay.h"
 #include "support/Process.h"
+#include "support/TempFolder.h"
 #include "support/Xvfb.h"
 
 namespace penwright {
@@ -28,6 +29,7 @@ class HostToolsTest : public testing::Test {
 protected:
     HostToolsTest()
     {
+        qputenv("XDG_STATE_HOME", m_state.path().c_str());  // no draft of another test is offered
         m_window.show();
         m_window.activateWindow();
     }
@@ -106,6 +108,7 @@ protected:
         return waitFor([&] { return m_window.toolCount() == count; });
     }
 
+    const test::TempFolder m_state;
     HostStore m_store;
     HostWindow m_window{m_store, PENWRIGHT};
     XDisplay m_display;
