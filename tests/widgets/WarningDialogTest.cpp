@@ -125,6 +125,7 @@ TEST_F(Warning, aDoubleClickClosesItWithThePlaceOfItsLineHoweverLongTheList)
             const QString line = firstVisibleLine();
             EXPECT_EQ(line, lines > 20 ? "line 12345" : "line 1");
             QTest::mouseDClick(text()->viewport(), Qt::LeftButton, {}, QPoint(20, 8));
+            QTest::mouseRelease(text()->viewport(), Qt::LeftButton, {}, QPoint(20, 8));
         });
         EXPECT_EQ(place, (FaultPlace{.row = lines > 20 ? 12'345 : 1}));
     }
