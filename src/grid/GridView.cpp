@@ -236,6 +236,7 @@ void GridView::closeEditor(QWidget *editor, QAbstractItemDelegate::EndEditHint h
     QTableView::closeEditor(editor, hint);
     if (held)
         setFocus(Qt::OtherFocusReason);
+    emit halfTypedChanged();
 }
 
 bool GridView::eventFilter(QObject *watched, QEvent *event)

@@ -25,6 +25,12 @@ DraftLine::DraftLine()
     layout->addWidget(m_offer, 1);
     for (QPushButton *button : {m_takeOver, m_discard, m_more})
         layout->addWidget(button);
+    // Each keeps its place, so that none comes under a pointer that was over another one.
+    for (QPushButton *button : {m_discard, m_more}) {
+        QSizePolicy policy = button->sizePolicy();
+        policy.setRetainSizeWhenHidden(true);
+        button->setSizePolicy(policy);
+    }
     hide();
 }
 

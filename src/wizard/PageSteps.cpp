@@ -2,6 +2,8 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
 
 #include <algorithm>
 #include <utility>
@@ -103,6 +105,29 @@ void PageSteps::beginAct(const QString &name)
 {
     endAct();
     m_name = name;
+}
+
+// Letters that come one by one are a step together; what takes a text away, or brings one at once, is none with them.
+void PageSteps::noteKey(const QObject *watched, const QKeyEvent &key)
+{
+    const auto *line = qobject_cast<const QLineEdit *>(watched);
+    const auto isOfLine = [line](QWidget *box) { return PageFields::lineOf(box) == line; };
+    if (!line || std::none_of(m_fields.boxes().begin(), m_fields.boxes().end(), isOfLine))
+        return;
+    const bool isDeleting = key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Delete;
+    const bool isTyping = !isDeleting && !key.text().isEmpty() && key.text()[0].isPrint();
+    if (key.matches(QKeySequence::Paste))
+        m_name = "Paste";
+    else if (key.matches(QKeySequence::Cut))
+        m_name = "Cut";
+    else if ((isTyping || isDeleting) && line->hasSelectedText())
+        ++m_go;
+    else if (isDeleting && ++m_deleted == 2 && m_typed > 1)  // the first one mends a slip
+        ++m_go;
+    if (!isDeleting)
+        m_typed = (m_deleted > 0 ? 0 : m_typed) + (isTyping ? 1 : 0);
+    if (!isDeleting)
+        m_deleted = 0;
 }
 
 void PageSteps::endActSoon()
@@ -245,6 +270,8 @@ bool PageSteps::eventFilter(QObject *watched, QEvent *event)
     if (beginsAct(event->type())) {
         endAct();
         endActSoon();
+        if (event->type() == QEvent::KeyPress)
+            noteKey(watched, *static_cast<QKeyEvent *>(event));
     }
     if (endsGo(event->type()))
         ++m_go;

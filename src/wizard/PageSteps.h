@@ -11,6 +11,7 @@
 #include "wizard/PageStep.h"
 
 class QAction;
+class QKeyEvent;
 
 namespace penwright {
 
@@ -68,6 +69,7 @@ protected:
 private:
     void look();
     void endActSoon();
+    void noteKey(const QObject *watched, const QKeyEvent &key);
     void makeStep(std::vector<ChangedBox> boxes);
     QString nameOf(QWidget *box) const;
     std::vector<ChangedBox> changedBoxes() const;
@@ -95,6 +97,8 @@ private:
     int m_go = 1;                     ///< which go of typing it is
     bool m_isGoOver = false;          ///< once the act under way has ended: the focus has moved in it
     bool m_isEndDue = false;
+    int m_typed = 0;    ///< characters in a row
+    int m_deleted = 0;  ///< of them, since then
 };
 
 }  // namespace penwright

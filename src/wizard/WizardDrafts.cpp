@@ -61,6 +61,7 @@ PageValue valueOf(const PageText &texts)
 WizardDrafts::WizardDrafts(WizardWindow &window, const Closing &closing, std::unique_ptr<DraftStore> store)
     : QObject(&window),
       m_window(window),
+      m_closing(closing),
       m_line(new DraftLine),
       m_replay(window),
       m_keeper(std::move(store), deliverTo(this), secondsNow,
@@ -105,7 +106,7 @@ void WizardDrafts::turnTo(int page)
 
 void WizardDrafts::noteChange()
 {
-    if (m_visited.none())
+    if (m_visited.none() || m_closing.isClosing())  // what an editor held when it began to close is kept
         return;
     m_isTyped = true;
     if (!m_timer->isActive())
@@ -115,7 +116,8 @@ void WizardDrafts::noteChange()
 void WizardDrafts::keep()
 {
     m_timer->stop();
-    m_keeper.keep(snapshot());
+    if (!m_isReplayDue)  // else its file would lose what no page holds yet
+        m_keeper.keep(snapshot());
 }
 
 void WizardDrafts::keepIfChanged()
@@ -196,11 +198,15 @@ void WizardDrafts::takeOver()
 {
     if (m_window.isBusy())
         return;
+    m_line->setEnabled(false);  // until there is an answer
     if (m_offered < m_found.free.size())
         m_keeper.takeOver(m_found.free[m_offered].name, [this](const TakenDraft &taken) {
-            closeLine();
-            if (taken.end != TakeEnd::Taken)
+            if (taken.end != TakeEnd::Taken) {
+                offerNext();
                 return tell(toQString(takeEndText(taken.end)));
+            }
+            closeLine();
+            m_isReplayDue = true;
             replay(taken.draft);
         });
     else
@@ -218,12 +224,19 @@ void WizardDrafts::discard()
     if (m_window.isBusy() || m_offered >= m_found.free.size())
         return;
     m_keeper.discard(m_found.free[m_offered].name);
-    m_found.free.erase(m_found.free.begin() + static_cast<std::ptrdiff_t>(m_offered));
+    offerNext();
+    m_line->setEnabled(false);  // to the second press of a double click, which would discard another one
+    QTimer::singleShot(QApplication::doubleClickInterval(), m_line, [this] { m_line->setEnabled(true); });
+}
+
+/// Offers what there is beside the draft that the line shows.
+void WizardDrafts::offerNext()
+{
+    if (m_offered < m_found.free.size())
+        m_found.free.erase(m_found.free.begin() + static_cast<std::ptrdiff_t>(m_offered));
     m_offered = 0;
-    if (m_found.free.empty())
-        closeLine();
-    else
-        showOffer();
+    closeLine();
+    showOffer();
 }
 
 void WizardDrafts::replay(const Draft &draft)
@@ -237,6 +250,7 @@ void WizardDrafts::replay(const Draft &draft)
     if (m_window.shownPage() != kLampPage)
         m_window.ShowPage(kLampPage);
     m_replay.run(draft);
+    m_isReplayDue = false;
     if (draft.head.page == kLampPage)
         m_window.page(kLampPage).focusFirstField();  // again: its text is another one, to be typed over
     m_isTyped = true;
@@ -246,6 +260,7 @@ void WizardDrafts::replay(const Draft &draft)
 void WizardDrafts::closeLine()
 {
     m_line->hide();
+    m_line->setEnabled(true);
     if (m_window.shownPage() == kLampPage)
         m_window.page(kLampPage).focusFirstField();
 }

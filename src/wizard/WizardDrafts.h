@@ -43,16 +43,19 @@ private:
     void openList();
     void takeOver();
     void discard();
+    void offerNext();
     void replay(const Draft &draft);
     void closeLine();
     void tell(const QString &line);
 
     WizardWindow &m_window;
+    const Closing &m_closing;
     DraftLine *m_line;
     DraftReplay m_replay;
     DraftKeeper m_keeper;
     QTimer *m_timer;                    ///< runs from the first change that is not kept
     std::bitset<kPageCount> m_visited;  ///< pages that have been shown, and so may hold something
+    bool m_isReplayDue = false;         ///< a draft has been taken over that no page holds yet
     bool m_isTyped = false;             ///< something has been typed since the last finished file
     DraftsFound m_found;                ///< what is still offered
     std::size_t m_offered = 0;          ///< which of them the line shows

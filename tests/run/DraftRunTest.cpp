@@ -81,7 +81,7 @@ std::vector<Key> walk(std::mt19937 &chance)
     std::vector<Key> keys{{"", {}, {}}};
     Typed texts;
     for (std::string &text : texts) {
-        const unsigned digits = 1 + chance() % 5;
+        const auto digits = 1 + chance() % 5;
         for (unsigned digit = 0; digit < digits; ++digit) {
             const std::string key = std::to_string(1 + chance() % 9);
             text += key;

@@ -123,6 +123,32 @@ TEST_F(DraftOffer, nextDraftIsOfferedWhenOneOfManyIsDiscarded)
     EXPECT_FALSE(find("draftMore")->isVisible());
 }
 
+TEST_F(DraftOffer, doubleClickDiscardsOneDraft)
+{
+    for (const char *about : {"first", "second", "third"})
+        leaveLamps(about, "1");
+    startRun();
+    waitForOffer();
+    click("draftDiscard");
+    click("draftDiscard");
+    EXPECT_EQ(offer(), momentOf("Draft of second, page 1"));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isEnabled(); }));
+}
+
+TEST_F(DraftOffer, buttonsKeepTheirPlaces)
+{
+    leaveLamps("first", "1");
+    leaveLamps("second", "2");
+    startRun();
+    waitForOffer();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    const QPoint place = find("draftTakeOver")->pos();
+    click("draftDiscard");
+    EXPECT_FALSE(find("draftMore")->isVisible());
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    EXPECT_EQ(find("draftTakeOver")->pos(), place);
+}
+
 TEST_F(DraftOffer, lastFileIsOfferedWhereThereIsNoDraft)
 {
     {
@@ -154,6 +180,7 @@ TEST_F(DraftOffer, draftThatAnotherWizardTookIsSaidToBeInUse)
     takeOver();
     EXPECT_EQ(note(kLampPage), "Another wizard has taken this draft over.");
     EXPECT_EQ(text("txtNumLamps"), "");
+    EXPECT_TRUE(find("draftLine")->isHidden());
     EXPECT_EQ(dialogs.transcript, "");
 }
 

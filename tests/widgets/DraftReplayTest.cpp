@@ -118,6 +118,47 @@ TEST_F(DraftReplayTest, errorThatNextWouldTellStopsItWithoutABox)
     EXPECT_EQ(dialogs.transcript, "");
 }
 
+TEST_F(DraftReplayTest, valuesOfATableWhoseCountsWereChangedAreKeptAsFarAsTheyFit)
+{
+    startRun();
+    fillPagesBefore(kCandelaPage);
+    fillPageFive();
+    click("cmdBack50");
+    find<QComboBox>("phoCmbVert")->setFocus();
+    press(Qt::Key_Down);
+    const int rows = find<GridView>("phoGridVert")->model()->columnCount();
+    ASSERT_GT(rows, 10);
+    waitUntilKept();
+    kill();
+    startRun();
+    takeOver();
+    EXPECT_EQ(shownPage(), kDistributionPage);
+    click("cmdNext30");
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    EXPECT_EQ(note(kCandelaPage), "");
+    const QAbstractItemModel &cells = *find<GridView>("cdaGridCd")->model();
+    EXPECT_EQ(cells.rowCount(), rows);
+    EXPECT_EQ(cells.index(0, 1).data().toString(), "9");
+    EXPECT_EQ(cells.index(8, 1).data().toString(), "1");
+}
+
+TEST_F(DraftReplayTest, textThatWasGivenUpInAnEditorDoesNotComeBack)
+{
+    startRun();
+    fillPagesBefore(kCandelaPage);
+    fillPageFive();
+    find("cdaGridCd")->setFocus();
+    typeText("99");
+    waitUntilKept();
+    press(Qt::Key_Escape);
+    waitUntilKept();
+    kill();
+    startRun();
+    takeOver();
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    EXPECT_FALSE(find<GridView>("cdaGridCd")->isEditing());
+}
+
 TEST_F(DraftReplayTest, whatCannotStandOnAPageIsRefusedAsAWhole)
 {
     for (const DraftText &odd : {DraftText{kLampPage, "noSuchBox", "1"}, DraftText{kLampPage, "lmpCmbShape", "99"}}) {

@@ -80,6 +80,56 @@ TEST_F(StepsTest, areNoneWhereWhatWasTypedIsGoneAgain)
     EXPECT_EQ(undoName(), "Undo");
 }
 
+TEST_F(StepsTest, bringBackATypedTextThatWasTakenAwayAtOnce)
+{
+    const std::function<void()> ways[]{[] {
+                                           press(Qt::Key_A, Qt::ControlModifier);
+                                           press(Qt::Key_Delete);
+                                       },
+                                       [] {
+                                           press(Qt::Key_A, Qt::ControlModifier);
+                                           press(Qt::Key_X, Qt::ControlModifier);
+                                       },
+                                       [] {
+                                           press(Qt::Key_A, Qt::ControlModifier);
+                                           typeText("7");
+                                       }};
+    for (const auto &takeAway : ways) {
+        typeText("12345");
+        takeAway();
+        EXPECT_NE(text("txtNumLamps"), "12345");
+        undo();
+        EXPECT_EQ(text("txtNumLamps"), "12345");
+        undo();
+        EXPECT_EQ(text("txtNumLamps"), "");
+    }
+}
+
+TEST_F(StepsTest, bringBackWhatOneKeyHeldOnHasDeleted)
+{
+    typeText("12345");
+    for (int key = 0; key < 5; ++key)
+        press(Qt::Key_Backspace);
+    EXPECT_EQ(text("txtNumLamps"), "");
+    undo();
+    EXPECT_EQ(text("txtNumLamps"), "1234") << "the first one mends a slip";
+    undo();
+    EXPECT_EQ(text("txtNumLamps"), "");
+}
+
+TEST_F(StepsTest, ofAPasteIntoABoxAreNotThoseOfTheTypingAroundIt)
+{
+    typeText("12");
+    paste("34");
+    typeText("5");
+    EXPECT_EQ(text("txtNumLamps"), "12345");
+    EXPECT_EQ(undoName(), "Undo Typing");
+    undo();
+    EXPECT_EQ(undoName(), "Undo Paste");
+    undo();
+    EXPECT_EQ(text("txtNumLamps"), "12");
+}
+
 TEST_F(StepsTest, selectWhatHasComeBackSoThatAKeyReplacesIt)
 {
     typeText("12");

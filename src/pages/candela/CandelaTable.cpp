@@ -1,5 +1,6 @@
 #include "pages/candela/CandelaTable.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "core/NumberText.h"
@@ -199,9 +200,15 @@ std::optional<GridEdit> CandelaTable::fromHeld(std::string_view text)
 {
     if (!m_numbers.flags().GridReady)
         return text.empty() ? std::optional(GridEdit()) : std::nullopt;
-    auto cells = cellsFromHeld(text, CandelaCells().rows(), CandelaCells().columns());
-    if (!cells)
+    if (text.empty())  // of a table that was not built
+        return GridEdit();
+    const auto held = cellsFromHeld(text);
+    if (!held)
         return std::nullopt;
+    auto cells = std::optional(CandelaCells());
+    for (int h = 1; h <= std::min(cells->rows(), held->rows()); ++h)
+        for (int v = 1; v <= std::min(cells->columns(), held->columns()); ++v)
+            (*cells)(h, v) = (*held)(h, v);
     GridEdit edit{.reach = GridReach::Values};
     edit.content = m_numbers.withFirst(*std::move(cells), CandelaCells().rows() * CandelaCells().columns());
     return edit;

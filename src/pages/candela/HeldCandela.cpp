@@ -1,5 +1,7 @@
 #include "pages/candela/HeldCandela.h"
 
+#include <algorithm>
+
 #include "grid/HeldCells.h"
 
 namespace penwright {
@@ -35,8 +37,11 @@ std::string heldCells(const OneBasedTable<CandelaCell> &cells)
     return text;
 }
 
-std::optional<OneBasedTable<CandelaCell>> cellsFromHeld(std::string_view text, int horizontal, int vertical)
+std::optional<OneBasedTable<CandelaCell>> cellsFromHeld(std::string_view text)
 {
+    const std::string_view first = text.substr(0, text.find('\n'));
+    const auto horizontal = 1 + static_cast<int>(std::count(first.begin(), first.end(), '\t'));
+    const auto vertical = static_cast<int>(std::count(text.begin(), text.end(), '\n'));
     OneBasedTable<CandelaCell> cells(horizontal, vertical);
     HeldCells held(text);
     for (int v = 1; v <= vertical; ++v)

@@ -13,7 +13,7 @@ namespace penwright {
 /// cell for each horizontal one. A blank is an empty cell, a double has a "d" behind it.
 std::string heldCells(const OneBasedTable<CandelaCell> &cells);
 
-/// The cells of such a text; nothing when it is not of that many horizontal and vertical angles.
-std::optional<OneBasedTable<CandelaCell>> cellsFromHeld(std::string_view text, int horizontal, int vertical);
+/// The cells of such a text, as many as it has; nothing for a text that heldCells does not make.
+std::optional<OneBasedTable<CandelaCell>> cellsFromHeld(std::string_view text);
 
 }  // namespace penwright

@@ -32,12 +32,28 @@ TEST_F(HeldCandela, bringsBlanksBack)
     EXPECT_EQ(work().Candela(1, 1), 0);
 }
 
-TEST_F(HeldCandela, isRefusedForATableOfAnotherSizeAndWhereItIsNone)
+// The counts may have been changed since, as Back and Next do: they keep what fits, too.
+TEST_F(HeldCandela, bringsWhatFitsIntoATableOfAnotherSize)
+{
+    build({0, 90}, {0, 90});
+    const std::pair<const char *, const char *> rows[]{{"9\n", "9\t2\r\n3\t4\r\n"},
+                                                       {"9\t8\t7\n", "9\t8\r\n3\t4\r\n"},
+                                                       {"9\n8\n7\n", "9\t2\r\n8\t4\r\n"},
+                                                       {"9\t8\n7\t6\n5\t4\n", "9\t8\r\n7\t6\r\n"},
+                                                       {"", "1\t2\r\n3\t4\r\n"}};
+    for (const auto &[held, expected] : rows) {
+        apply(table, table.PasteCandelaTable("1\t2\n3\t4\n"));
+        EXPECT_TRUE(bringBack(table, held)) << held;
+        EXPECT_EQ(table.CopyCandelaTable(), expected) << held;
+    }
+}
+
+TEST_F(HeldCandela, isRefusedWhereItIsNone)
 {
     build({0, 90}, {0, 90});
     apply(table, table.PasteCandelaTable("1\t2\n3\t4\n"));
-    for (const char *text : {"", "1\t2\n", "1\t2\n3\t4\n5\t6\n", "1\n2\n", "1\t2\n3\tx\n", "1\t2\n3\t4d5\n",
-                             "1\t2\n3\tinf\n", "1\t2\n3\t4"})
+    for (const char *text :
+         {"1\t2\n3\n", "1\n2\t3\n", "1\t2\n3\tx\n", "1\t2\n3\t4d5\n", "1\t2\n3\tinf\n", "1\t2\n3\t4"})
         EXPECT_FALSE(bringBack(table, text)) << text;
     EXPECT_EQ(table.CopyCandelaTable(), "1\t2\r\n3\t4\r\n");
 }
