@@ -1,0 +1,74 @@
+#pragma once
+
+#include <algorithm>
+#include <string>
+
+#include <QMessageBox>
+
+#include "platform/x11/X11Window.h"
+
+#include "x11/EmbeddedWizard.h"
+
+namespace penwright::test {
+
+/// A question as the wizard asks it.
+inline const MessageBox kQuestion{.text = "Lose <b>all</b>?", .flags = kYesNo + kExclamation, .title = "A && title"};
+
+/// The wizard in a host, as a program that has other windows too.
+class Focus : public EmbeddedWizard {
+protected:
+    /// Typed with the pointer far away, so that only the focus can lead the keys to the wizard.
+    void typeAndExpect(QLineEdit &box, const std::string &text)
+    {
+        movePointerAway();
+        xdotool({"type", text});
+        EXPECT_TRUE(spinUntil([&] { return box.text().toStdString() == text; })) << box.text().toStdString();
+    }
+
+    void giveFocusToHost()
+    {
+        host.obey("takefocus");
+        ASSERT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+    }
+
+    /// As the help window is: of this program, a top-level window of its own, and at work.
+    void openAnotherWindow()
+    {
+        another.resize(300, 200);
+        another.move(900, 600);
+        another.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&another));
+        another.activateWindow();
+        x11::focus(static_cast<std::uint32_t>(another.winId()));
+        ASSERT_TRUE(spinUntil([this] { return another.isActiveWindow() && display.focus() == another.winId(); }));
+    }
+
+    QWidget another;
+};
+
+/// The wizard in a window that lies in the host's top-level window.
+class NestedHost : public EmbeddedWizard {
+protected:
+    NestedHost() : EmbeddedWizard(HostProcess::Shape::Nested) {}
+};
+
+/// The wizard in a host under a window manager.
+class WithManager : public EmbeddedWizard {
+protected:
+    /// Where a top-level window's frame stands among all frames; greater is higher.
+    long stackingOf(std::uint32_t inFrame) const
+    {
+        std::uint32_t frame = inFrame;
+        while (display.parentOf(frame) != display.root())
+            frame = display.parentOf(frame);
+        const auto frames = display.childrenOf(display.root());
+        return std::find(frames.begin(), frames.end(), frame) - frames.begin();
+    }
+};
+
+inline std::uint32_t idOf(const QWidget &widget)
+{
+    return static_cast<std::uint32_t>(widget.winId());
+}
+
+}  // namespace penwright::test

@@ -1,0 +1,113 @@
+#include "x11/FocusTest.h"
+
+namespace penwright::test {
+namespace {
+
+/// Another program's window and the host's, between which a window manager's keys go to and fro.
+class AnotherProgram : public EmbeddedWizard {
+protected:
+    void activate(const HostProcess &process)
+    {
+        xdotool({"windowactivate", "--sync", std::to_string(process.topWindow())});
+    }
+
+    void goAndComeBack()
+    {
+        activate(other);
+        ASSERT_TRUE(spinUntil([this] { return display.focus() == other.topWindow(); }));
+        settle();
+        activate(host);
+    }
+
+    HostProcess other;
+};
+
+class WithManagerAndAnotherProgram : public AnotherProgram {};
+
+TEST_F(Focus, ofAnotherWindowIsLeftAtTheEnd)
+{
+    embedAndShow();
+    openAnotherWindow();
+    embedding.giveBack(0);
+    settle();
+    EXPECT_EQ(display.focus(), idOf(another));
+}
+
+TEST_F(Focus, isTakenBackFromAHostThatTakesItAsAnotherWindowCloses)
+{
+    embedAndShow();
+    openAnotherWindow();
+    another.close();
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id() && window->isActiveWindow(); }));
+    host.obey("takefocus");
+    ASSERT_EQ(display.focus(), host.topWindow());
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+}
+
+TEST_F(WithManagerAndAnotherProgram, theFocusComesBackToTheWizardThatHadIt)
+{
+    embedAndShow();
+    for (int turn = 1; turn <= 2; ++turn) {
+        goAndComeBack();
+        EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); })) << turn;
+    }
+    movePointerAway();
+    first->setFocus();
+    xdotool({"type", "17"});
+    EXPECT_TRUE(spinUntil([this] { return first->text() == "17"; }));
+}
+
+TEST_F(WithManagerAndAnotherProgram, theFocusStaysWithAHostThatHadIt)
+{
+    embedAndShow();
+    host.obey("takefocus");
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+    settle();
+    goAndComeBack();
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == host.topWindow(); }));
+    settle();
+    EXPECT_EQ(display.focus(), host.topWindow());
+}
+
+// As window managers do that let go of another program's window before they turn to the host's.
+TEST_F(AnotherProgram, theFocusComesBackThoughThePointerIsOverTheHost)
+{
+    embedAndShow();
+    other.obey("move 700 720");
+    pointBeside();
+    other.obey("takefocus");
+    ASSERT_TRUE(spinUntil([this] { return !window->isActiveWindow(); }));
+    other.obey("leavefocus");
+    settle();
+    host.obey("takefocus");
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+}
+
+TEST_F(WithManagerAndAnotherProgram, theEndOfADialogTakesNothingFromAnotherProgram)
+{
+    embedAndShow();
+    whenDialogIsUp([this](QDialog &box) {
+        ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow() && display.focus() == idOf(box); }));
+        activate(other);
+        ASSERT_TRUE(spinUntil([this] { return display.focus() == other.topWindow(); }));
+        box.reject();
+    });
+    dialogs.show(kQuestion);
+    settle();
+    EXPECT_EQ(display.focus(), other.topWindow());
+}
+
+TEST_F(Focus, comesBackWhenAnotherWindowOfTheProgramIsClosed)
+{
+    embedAndShow();
+    openAnotherWindow();
+    another.close();
+    // A window manager hands the focus on as it lets go of the window; a key in between would go to the host.
+    ASSERT_TRUE(spinUntil([&] { return display.parentOf(idOf(another)) == display.root(); }));
+    settle();
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+    typeAndExpect(*first, "42");
+}
+
+}  // namespace
+}  // namespace penwright::test
