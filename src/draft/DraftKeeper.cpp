@@ -32,6 +32,7 @@ DraftTextSource textsOf(const DraftSnapshot &snapshot)
 
 struct DraftKeeper::Job {
     std::function<void(DraftStore &)> run{};
+    std::function<void()> failed{};  ///< gives the answer in the place of `run`
     bool isKeeping = false;
 };
 
@@ -39,7 +40,7 @@ struct DraftKeeper::Desk {
     std::unique_ptr<DraftStore> store;
     Deliver deliver;
     Trouble trouble;
-    bool hasFailed = false;  ///< the last thing done, for the thread alone
+    bool hasFailed = false;  ///< the last keeping, for the thread alone
 
     std::mutex mutex;
     std::condition_variable changed;
@@ -59,7 +60,9 @@ void DraftKeeper::Desk::run(const Job &job)
         if (job.isKeeping && std::exchange(hasFailed, false))
             tellTrouble("");
     } catch (const std::exception &error) {
-        if (!std::exchange(hasFailed, true))
+        if (job.failed)
+            deliver(job.failed);
+        if (job.isKeeping && !std::exchange(hasFailed, true))
             tellTrouble(error.what());
     }
 }
@@ -132,43 +135,46 @@ void DraftKeeper::keep(DraftSnapshot snapshot)
     ask({.run = [head, held](DraftStore &store) { store.write(head, textsOf(*held)); }, .isKeeping = true});
 }
 
-void DraftKeeper::look(std::function<void(DraftsFound)> answer)
+void DraftKeeper::look(const std::function<void(DraftsFound)> &answer)
 {
-    ask({[answer = std::move(answer), deliver = m_desk->deliver](DraftStore &store) {
+    const auto look = [answer, deliver = m_desk->deliver](DraftStore &store) {
         deliver([answer, found = store.look()] { answer(found); });
-    }});
+    };
+    ask({.run = look, .failed = [answer] { answer({}); }});
 }
 
-void DraftKeeper::takeOver(const std::string &name, std::function<void(TakenDraft)> answer)
+void DraftKeeper::takeOver(const std::string &name, const std::function<void(TakenDraft)> &answer)
 {
-    ask({[name, answer = std::move(answer), deliver = m_desk->deliver](DraftStore &store) {
+    const auto takeOver = [name, answer, deliver = m_desk->deliver](DraftStore &store) {
         const auto taken = std::make_shared<TakenDraft>();
         taken->end = store.takeOver(name, taken->draft);
         deliver([answer, taken] { answer(std::move(*taken)); });
-    }});
+    };
+    ask({.run = takeOver, .failed = [answer] { answer({.end = TakeEnd::Failed}); }});
 }
 
-void DraftKeeper::readLast(std::function<void(std::optional<Draft>)> answer)
+void DraftKeeper::readLast(const std::function<void(std::optional<Draft>)> &answer)
 {
-    ask({[answer = std::move(answer), deliver = m_desk->deliver](DraftStore &store) {
+    const auto read = [answer, deliver = m_desk->deliver](DraftStore &store) {
         const auto draft = std::make_shared<std::optional<Draft>>(store.readLast());
         deliver([answer, draft] { answer(std::move(*draft)); });
-    }});
+    };
+    ask({.run = read, .failed = [answer] { answer(std::nullopt); }});
 }
 
 void DraftKeeper::discard(const std::string &name)
 {
-    ask({[name](DraftStore &store) { store.discard(name); }});
+    ask({.run = [name](DraftStore &store) { store.discard(name); }});
 }
 
 void DraftKeeper::drop()
 {
-    ask({[](DraftStore &store) { store.drop(); }});
+    ask({.run = [](DraftStore &store) { store.drop(); }});
 }
 
 void DraftKeeper::finish()
 {
-    ask({[](DraftStore &store) { store.finish(); }});
+    ask({.run = [](DraftStore &store) { store.finish(); }});
 }
 
 bool DraftKeeper::flush(std::chrono::milliseconds limit)

@@ -33,7 +33,7 @@ struct TakenDraft {
 };
 
 /// Keeps what is typed in a store of drafts, on a thread of its own: no call but `flush` waits for the disk. What is
-/// asked for is done in the order of asking. Answers come by the `Deliver` that it is made with.
+/// asked for is done in the order of asking. Answers come by the `Deliver` that it is made with, each once.
 class DraftKeeper {
 public:
     /// Has a call made later, on the thread that asks; never at once.
@@ -57,14 +57,14 @@ public:
     /// keeper's thread.
     void keep(DraftSnapshot snapshot);
 
-    /// Looks for drafts and the last finished file.
-    void look(std::function<void(DraftsFound)> answer);
+    /// Looks for drafts and the last finished file; none are found when that fails.
+    void look(const std::function<void(DraftsFound)> &answer);
 
     /// Makes a free draft the run's own and reads it.
-    void takeOver(const std::string &name, std::function<void(TakenDraft)> answer);
+    void takeOver(const std::string &name, const std::function<void(TakenDraft)> &answer);
 
-    /// Reads the last finished file; nothing when there is none that is understood.
-    void readLast(std::function<void(std::optional<Draft>)> answer);
+    /// Reads the last finished file; nothing when there is none that is understood, or when that fails.
+    void readLast(const std::function<void(std::optional<Draft>)> &answer);
 
     /// Deletes a free draft.
     void discard(const std::string &name);

@@ -223,8 +223,7 @@ void GridView::resumeTyping(const GridText &cell)
     if (!index.isValid())
         return;
     goTo(cell.row, cell.column);
-    QTableView::edit(index);
-    if (isEditing())
+    if (edit(index, EditKeyPressed, nullptr))
         m_editor->line()->setText(QString::fromStdString(cell.text));
 }
 

@@ -81,8 +81,8 @@ public:
     /// The cell that is being edited with the text in its editor; nothing while none is.
     std::optional<GridText> halfTyped() const;
 
-    /// Opens a cell's editor with a text in it, as if that had been typed so far. A cell that is not there, or that
-    /// takes no text, changes nothing.
+    /// Opens a cell's editor with a text in it, to be edited on. A cell that is not there, or that takes no text,
+    /// changes nothing.
     void resumeTyping(const GridText &cell);
 
     const GridCellEditor &editor() const { return *m_editor; }

@@ -1,6 +1,7 @@
 #include "wizard/DraftReplay.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "wizard/HalfTyped.h"
 #include "wizard/WizardWindow.h"
@@ -50,12 +51,17 @@ void DraftReplay::fill(int page)
     auto &waiting = m_waiting.at(static_cast<std::size_t>(page));
     if (!waiting)
         return;
-    const PageText text = *std::move(waiting);
-    waiting.reset();
+    PageText text = *std::exchange(waiting, std::nullopt);
     if (m_window.page(page).showValue(text, "Take Over"))
         return;
+    waiting = std::move(text);
     m_hasRefused = true;
     m_window.page(page).showNote(kRefused);
+}
+
+void DraftReplay::giveUp(int page)
+{
+    m_waiting.at(static_cast<std::size_t>(page)).reset();
 }
 
 const PageText *DraftReplay::waitingFor(int page) const

@@ -23,10 +23,14 @@ public:
     /// noted on the page where it stops.
     void run(const Draft &draft);
 
-    /// Fills a page that has just been come to with what waits for it. What cannot stand there is noted on it.
+    /// Fills a page that has just been come to with what waits for it. What cannot stand there is noted on it, and
+    /// waits on.
     void fill(int page);
 
-    /// What waits for a page that has not been come to.
+    /// What waits for a page waits no more: the user has put something else there.
+    void giveUp(int page);
+
+    /// What waits for a page that has not been come to, or that could not hold it.
     const PageText *waitingFor(int page) const;
 
     /// What the file is about by the draft, as long as the page that knows has not been come to.

@@ -103,6 +103,11 @@ void PageFrame::showNote(const QString &text)
     describe(*this, text);
 }
 
+QString PageFrame::note() const
+{
+    return m_note->text();
+}
+
 void PageFrame::focusFirstField()
 {
     QWidget *widget = m_formArea->nextInFocusChain();

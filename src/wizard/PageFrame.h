@@ -4,6 +4,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "core/ToolState.h"
@@ -108,6 +109,9 @@ public:
 
     /// Shows one quiet line under the form, which screen readers are told of as well; an empty one takes it away.
     void showNote(const QString &text);
+
+    /// The line that shows under the form, "" for none.
+    QString note() const;
 
     /// Puts the focus on the first field of the form that takes it, on the Next button where there is none. A text in
     /// it is selected.

@@ -38,6 +38,14 @@ bool endsGo(QEvent::Type type)
     return type == QEvent::MouseButtonPress || type == QEvent::MouseButtonDblClick || type == QEvent::Drop;
 }
 
+TypingGo::Key kindOf(const QKeyEvent &key)
+{
+    if (key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Delete)
+        return TypingGo::Key::Deletion;
+    const bool isCharacter = !key.text().isEmpty() && key.text()[0].isPrint();
+    return isCharacter ? TypingGo::Key::Character : TypingGo::Key::Other;
+}
+
 QAction *makeAction(const char *name, const QList<QKeySequence> &keys, QObject *parent)
 {
     auto *action = new QAction(parent);
@@ -69,7 +77,7 @@ PageSteps::PageSteps(QWidget &page, const PageFields &fields, std::function<void
 {
     connect(m_undo, &QAction::triggered, this, &PageSteps::undo);
     connect(m_redo, &QAction::triggered, this, &PageSteps::redo);
-    connect(qApp, &QApplication::focusChanged, this, [this] { m_isGoOver = true; });
+    connect(qApp, &QApplication::focusChanged, this, [this] { m_go.endWithAct(); });
     for (GridView *grid : m_fields.grids()) {
         grid->setStepActions(m_undo, m_redo);
         connect(&grid->changes(), &GridModel::made, this, [this, grid](const std::shared_ptr<GridEdit> &edit) {
@@ -107,27 +115,18 @@ void PageSteps::beginAct(const QString &name)
     m_name = name;
 }
 
-// Letters that come one by one are a step together; what takes a text away, or brings one at once, is none with them.
+// What brings a text at once, or takes it away, has a name of its own and is none with what is typed.
 void PageSteps::noteKey(const QObject *watched, const QKeyEvent &key)
 {
     const auto *line = qobject_cast<const QLineEdit *>(watched);
     const auto isOfLine = [line](QWidget *box) { return PageFields::lineOf(box) == line; };
     if (!line || std::none_of(m_fields.boxes().begin(), m_fields.boxes().end(), isOfLine))
         return;
-    const bool isDeleting = key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Delete;
-    const bool isTyping = !isDeleting && !key.text().isEmpty() && key.text()[0].isPrint();
     if (key.matches(QKeySequence::Paste))
         m_name = "Paste";
     else if (key.matches(QKeySequence::Cut))
         m_name = "Cut";
-    else if ((isTyping || isDeleting) && line->hasSelectedText())
-        ++m_go;
-    else if (isDeleting && ++m_deleted == 2 && m_typed > 1)  // the first one mends a slip
-        ++m_go;
-    if (!isDeleting)
-        m_typed = (m_deleted > 0 ? 0 : m_typed) + (isTyping ? 1 : 0);
-    if (!isDeleting)
-        m_deleted = 0;
+    m_go.add(kindOf(key), line->hasSelectedText());
 }
 
 void PageSteps::endActSoon()
@@ -150,8 +149,7 @@ void PageSteps::endAct()
     if (isStep)
         makeStep(std::move(boxes));
     look();
-    if (std::exchange(m_isGoOver, false))
-        ++m_go;
+    m_go.actEnded();
     if (isStep)
         emit stepped();
 }
@@ -167,8 +165,8 @@ void PageSteps::makeStep(std::vector<ChangedBox> boxes)
     const QString name = nameOf(focus);
     const bool isTyped = boxes.size() == 1 && PageFields::lineOf(focus) && m_name.isEmpty();
     if (!isTyped)
-        ++m_go;
-    auto *step = new PageStep(std::move(boxes), std::move(m_made), focus, isTyped ? m_go : 0, m_bytes);
+        m_go.end();
+    auto *step = new PageStep(std::move(boxes), std::move(m_made), focus, isTyped ? m_go.number() : 0, m_bytes);
     step->setText(name);
     m_stack.push(step);
     giveUpOldest();
@@ -221,7 +219,7 @@ void PageSteps::step(bool isUndo)
     endAct();
     if (m_isBusy() || !(isUndo ? canUndo() : canRedo()))
         return;
-    ++m_go;
+    m_go.end();
     for (GridView *grid : m_fields.grids())
         grid->dropEdit();
     isUndo ? m_stack.undo() : m_stack.redo();
@@ -274,7 +272,7 @@ bool PageSteps::eventFilter(QObject *watched, QEvent *event)
             noteKey(watched, *static_cast<QKeyEvent *>(event));
     }
     if (endsGo(event->type()))
-        ++m_go;
+        m_go.end();
     return QObject::eventFilter(watched, event);
 }
 

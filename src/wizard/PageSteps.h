@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "wizard/PageStep.h"
+#include "wizard/TypingGo.h"
 
 class QAction;
 class QKeyEvent;
@@ -94,11 +95,8 @@ private:
     QPointer<QWidget> m_focus;        ///< in the window, when the last act had ended
     std::vector<ChangedGrid> m_made;  ///< since then
     QString m_name;                   ///< of the act, where it has one of its own
-    int m_go = 1;                     ///< which go of typing it is
-    bool m_isGoOver = false;          ///< once the act under way has ended: the focus has moved in it
+    TypingGo m_go;
     bool m_isEndDue = false;
-    int m_typed = 0;    ///< characters in a row
-    int m_deleted = 0;  ///< of them, since then
 };
 
 }  // namespace penwright

@@ -65,7 +65,7 @@ WizardDrafts::WizardDrafts(WizardWindow &window, const Closing &closing, std::un
       m_line(new DraftLine),
       m_replay(window),
       m_keeper(std::move(store), deliverTo(this), secondsNow,
-               [this](const std::string &reason) { tell(reason.empty() ? "" : toQString(notKeptText(reason))); })
+               [this](const std::string &reason) { followTrouble(reason); })
 {
     m_timer = new QTimer(this);
     m_timer->setObjectName("draftTimer");
@@ -93,7 +93,7 @@ void WizardDrafts::followWindow()
     connect(&m_window, &WizardWindow::cancelled, this, &WizardDrafts::drop);
     connect(&m_window, &WizardWindow::fileTaken, this, &WizardDrafts::finish);
     for (int page = 0; page < kPageCount; ++page)
-        connect(&m_window.page(page), &PageFrame::changed, this, &WizardDrafts::noteChange);
+        connect(&m_window.page(page), &PageFrame::changed, this, [this, page] { noteChange(page); });
 }
 
 void WizardDrafts::turnTo(int page)
@@ -104,10 +104,12 @@ void WizardDrafts::turnTo(int page)
     m_replay.fill(page);
 }
 
-void WizardDrafts::noteChange()
+void WizardDrafts::noteChange(int page)
 {
     if (m_visited.none() || m_closing.isClosing())  // what an editor held when it began to close is kept
         return;
+    if (page == m_window.shownPage())
+        m_replay.giveUp(page);
     m_isTyped = true;
     if (!m_timer->isActive())
         m_timer->start();
@@ -162,7 +164,8 @@ std::string WizardDrafts::about() const
 void WizardDrafts::offer(const DraftsFound &found)
 {
     m_found = found;
-    tell(toQString(putAsideText(found.putAside)));
+    if (found.putAside > 0)
+        tell(toQString(putAsideText(found.putAside)));
     showOffer();
 }
 
@@ -263,6 +266,15 @@ void WizardDrafts::closeLine()
     m_line->setEnabled(true);
     if (m_window.shownPage() == kLampPage)
         m_window.page(kLampPage).focusFirstField();
+}
+
+/// Says once that drafts cannot be kept, and takes that back once they are kept again.
+void WizardDrafts::followTrouble(const std::string &reason)
+{
+    const QString told = std::exchange(m_trouble, reason.empty() ? QString() : toQString(notKeptText(reason)));
+    const int page = m_window.shownPage();
+    if (!m_trouble.isEmpty() || (page < kPageCount && m_window.page(page).note() == told))
+        tell(m_trouble);
 }
 
 void WizardDrafts::tell(const QString &line)

@@ -30,7 +30,7 @@ public:
 private:
     void followWindow();
     void turnTo(int page);
-    void noteChange();
+    void noteChange(int page);
     void keep();
     void keepIfChanged();
     void drop();
@@ -46,6 +46,7 @@ private:
     void offerNext();
     void replay(const Draft &draft);
     void closeLine();
+    void followTrouble(const std::string &reason);
     void tell(const QString &line);
 
     WizardWindow &m_window;
@@ -59,6 +60,7 @@ private:
     bool m_isTyped = false;             ///< something has been typed since the last finished file
     DraftsFound m_found;                ///< what is still offered
     std::size_t m_offered = 0;          ///< which of them the line shows
+    QString m_trouble;                  ///< what was said when drafts could not be kept, "" when they can
 };
 
 }  // namespace penwright

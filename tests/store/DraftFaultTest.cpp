@@ -141,6 +141,25 @@ TEST_F(DraftFaultTest, gigabyteIsNotRead)
     expectPutAside(name);
 }
 
+TEST_F(DraftFaultTest, journalThatNoDraftHas)
+{
+    for (const char *end : {"-journal", "-wal", "-shm"}) {
+        const std::function<void(const std::string &)> ways[]{
+            [](const std::string &path) { std::ofstream(path).close(), std::filesystem::resize_file(path, 1U << 30U); },
+            [](const std::string &path) { ASSERT_EQ(mkfifo(path.c_str(), 0600), 0); },
+            [this](const std::string &path) { std::filesystem::create_symlink(folder.file("nowhere"), path); }};
+        for (const auto &makeJournal : ways) {
+            const std::string name = leave("later");
+            makeJournal(pathOf(name + end));
+            expectPutAside(name);
+            for (const std::string &file : files())
+                if (file.starts_with("aside-"))
+                    std::filesystem::remove(pathOf(file));
+        }
+    }
+    EXPECT_FALSE(std::filesystem::exists(folder.file("nowhere")));
+}
+
 TEST_F(DraftFaultTest, fileOfSomebodyElse)
 {
     if (geteuid() != 0)

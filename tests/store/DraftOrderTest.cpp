@@ -49,5 +49,16 @@ TEST_F(DraftOrderTest, runsThatLiveCountAmongTheTwentyAndStay)
     EXPECT_EQ(files().size(), 40U);
 }
 
+TEST_F(DraftOrderTest, whatIsNotUnderstoodWhileADraftBeginsIsSaidByTheNextLook)
+{
+    SqliteDraftStore run(drafts);
+    run.look();
+    for (int i = 1; i <= 20; ++i)
+        leave(std::to_string(i));
+    std::ofstream(pathOf("draft-20240101T000000-1-0badf00d.sqlite3")) << "rubbish";
+    write(run, "one more");
+    EXPECT_EQ(SqliteDraftStore(drafts).look().putAside, 1);
+}
+
 }  // namespace
 }  // namespace penwright::test

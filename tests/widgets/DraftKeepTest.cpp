@@ -149,5 +149,31 @@ TEST_F(DraftKeep, folderThatCannotBeWrittenIsToldInOneLineAndTheWizardWorksOn)
     EXPECT_EQ(dialogs.transcript, "");
 }
 
+TEST_F(DraftKeep, lineGoesOnceDraftsAreKeptAgainAndTakesNoOtherLineAlong)
+{
+    const auto typeAndKeep = [this](const char *text) {
+        typeText(text);
+        waitUntilKept();
+    };
+    for (const bool hasOtherLine : {false, true}) {
+        std::filesystem::create_directories(folder.file("state/Lumentor"));
+        std::filesystem::remove_all(draftFolder);
+        std::ofstream(draftFolder) << "mine";
+        startRun();
+        typeAndKeep("7");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !note(kLampPage).empty(); }));
+        if (hasOtherLine)
+            window->page(kLampPage).showNote("Something else");
+        std::filesystem::remove(draftFolder);
+        typeAndKeep("8");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::is_directory(draftFolder); }));
+        typeAndKeep("9");
+        EXPECT_TRUE(QTest::qWaitFor([&] { return hasOtherLine || note(kLampPage).empty(); }));
+        QTest::qWait(50);
+        EXPECT_EQ(note(kLampPage), hasOtherLine ? "Something else" : "");
+        kill();
+    }
+}
+
 }  // namespace
 }  // namespace penwright::test

@@ -175,6 +175,33 @@ TEST_F(DraftReplayTest, whatCannotStandOnAPageIsRefusedAsAWhole)
     }
 }
 
+TEST_F(DraftReplayTest, whatAPageRefusedIsKeptUntilTheUserTypesThere)
+{
+    std::vector<DraftText> texts = pageOne();
+    texts.push_back({kLampPage, "noSuchBox", "1"});
+    leave(kKeywordPage, "", texts);
+    startRun();
+    takeOver();
+    ASSERT_EQ(text("txtNumLamps"), "");
+    waitUntilKept();
+    kill();
+    {
+        const Draft kept = leftDraft();
+        EXPECT_EQ(textOf(kept, kLampPage, "txtNumLamps"), "1");
+        EXPECT_EQ(textOf(kept, kLampPage, "noSuchBox"), "1");
+    }
+    startRun();
+    takeOver();
+    ASSERT_NE(note(kLampPage), "");
+    find("txtNumLamps")->setFocus();
+    typeText("5");
+    waitUntilKept();
+    kill();
+    const Draft kept = leftDraft();
+    EXPECT_EQ(textOf(kept, kLampPage, "txtNumLamps"), "5");
+    EXPECT_EQ(textOf(kept, kLampPage, "noSuchBox"), "(none)");
+}
+
 TEST_F(DraftReplayTest, pagesThatDoNotExistAreNoHarm)
 {
     std::vector<DraftText> texts = pageOne();
@@ -203,6 +230,28 @@ TEST_F(DraftReplayTest, textInAnOpenEditorIsTypedOn)
     typeText("ab");
     press(Qt::Key_Return);
     EXPECT_EQ(grid->source().read(3, 1), "Night Lab");
+}
+
+TEST_F(DraftReplayTest, textEditedBackInAnEditorThatCameBackIsNoNewValue)
+{
+    startRun();
+    fillPagesBefore(kCandelaPage);
+    auto *grid = find<GridView>("cdaGridCd");
+    grid->goTo(1, 1);
+    typeText("1234567.75");
+    press(Qt::Key_Return);
+    grid->goTo(1, 1);
+    press(Qt::Key_F2);
+    typeText("x");
+    waitUntilKept();
+    kill();
+    startRun();
+    takeOver();
+    grid = find<GridView>("cdaGridCd");
+    ASSERT_TRUE(grid->isEditing());
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Return);
+    EXPECT_EQ(state.CandelaWorkRecord(1).Candela(1, 1), 1234567.75);
 }
 
 TEST_F(DraftReplayTest, oddTextsOfAnEditorAreNoHarm)

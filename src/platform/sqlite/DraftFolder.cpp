@@ -129,9 +129,14 @@ bool DraftFolder::isThere(const std::string &name) const
 
 bool DraftFolder::isFileOfOurs(const std::string &name) const
 {
-    struct stat found {};
-    return ::lstat(pathOf(name).c_str(), &found) == 0 && S_ISREG(found.st_mode) && found.st_uid == ::geteuid() &&
-           found.st_size <= kLargest;
+    const auto isOurs = [this](const std::string &file, bool mayBeMissing) {
+        struct stat found {};
+        if (::lstat(pathOf(file).c_str(), &found) != 0)
+            return mayBeMissing && errno == ENOENT;
+        return S_ISREG(found.st_mode) && found.st_uid == ::geteuid() && found.st_size <= kLargest;
+    };
+    return isOurs(name, false) && isOurs(name + "-journal", true) && isOurs(name + "-wal", true) &&
+           isOurs(name + "-shm", true);
 }
 
 bool DraftFolder::isFileOfNothing(const std::string &name) const

@@ -33,7 +33,8 @@ public:
     /// Whether something stands under a name, a link that leads nowhere included.
     bool isThere(const std::string &name) const;
 
-    /// Whether a file is one that may be opened: a regular one of this user, no link, of a size that a draft can have.
+    /// Whether a file is one that may be opened, with its journals: regular ones of this user, no links, of a size that
+    /// a draft can have.
     bool isFileOfOurs(const std::string &name) const;
 
     /// Whether a file has no byte.

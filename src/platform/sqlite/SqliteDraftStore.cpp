@@ -55,8 +55,8 @@ struct SqliteDraftStore::Sight {
     enum class Kind { Free, Empty, NotUnderstood, NotNow };
 
     Kind kind = Kind::NotNow;
-    std::int64_t order = 0;
     DraftEntry entry{};
+    std::int64_t order = 0;
 };
 
 std::string SqliteDraftStore::userFolder()
@@ -73,64 +73,82 @@ SqliteDraftStore::Sight SqliteDraftStore::sightOf(const std::string &name) const
 {
     const auto lock = DraftLock::take(m_folder.lockOf(name), DraftLock::Kind::Shared);
     if (!lock || !m_folder.isThere(name))
-        return {};
+        return {Sight::Kind::NotNow, {name}};
     if (!m_folder.isFileOfOurs(name))
-        return {.kind = Sight::Kind::NotUnderstood};
+        return {Sight::Kind::NotUnderstood, {name}};
     try {
         const SqliteHandle database = openDraftFile(m_folder.pathOf(name));
         const DraftMark mark = readDraftMark(database.get());
         if (mark.isEmpty)
-            return {.kind = m_folder.isFileOfNothing(name) ? Sight::Kind::Empty : Sight::Kind::NotUnderstood};
-        return {Sight::Kind::Free, mark.order, {name, mark.head}};
+            return {m_folder.isFileOfNothing(name) ? Sight::Kind::Empty : Sight::Kind::NotUnderstood, {name}};
+        return {Sight::Kind::Free, {name, mark.head}, mark.order};
     } catch (const SqliteFailure &failure) {
-        return {.kind = isAtFault(failure) ? Sight::Kind::NotUnderstood : Sight::Kind::NotNow};
+        return {isAtFault(failure) ? Sight::Kind::NotUnderstood : Sight::Kind::NotNow, {name}};
     }
 }
 
-std::vector<SqliteDraftStore::Sight> SqliteDraftStore::freeDrafts(const std::vector<std::string> &names, int &putAside)
+std::vector<SqliteDraftStore::Sight> SqliteDraftStore::sightsOf(const std::vector<std::string> &names) const
 {
-    std::vector<Sight> free;
-    for (const std::string &name : names) {
-        Sight sight = sightOf(name);
-        if (sight.kind == Sight::Kind::Free)
-            free.push_back(std::move(sight));
-        else if (sight.kind == Sight::Kind::Empty)
-            discard(name);
-        else if (sight.kind == Sight::Kind::NotUnderstood)
-            if (auto lock = DraftLock::take(m_folder.lockOf(name), DraftLock::Kind::Alone);
-                lock && m_folder.putAside(name)) {
-                lock->remove();
-                ++putAside;
-            }
-    }
-    std::sort(free.begin(), free.end(), [](const Sight &a, const Sight &b) {
+    std::vector<Sight> sights;
+    for (const std::string &name : names)
+        sights.push_back(sightOf(name));
+    std::sort(sights.begin(), sights.end(), [](const Sight &a, const Sight &b) {
         return a.order != b.order ? a.order > b.order : a.entry.name > b.entry.name;
     });
-    return free;
+    return sights;
 }
 
-void SqliteDraftStore::removeOldest(std::vector<Sight> &free, std::size_t all) const
+bool SqliteDraftStore::putAside(const std::string &name) const
 {
-    for (; all > kMostDrafts && !free.empty(); --all) {
-        const std::string name = free.back().entry.name;
-        free.pop_back();
-        if (auto lock = DraftLock::take(m_folder.lockOf(name), DraftLock::Kind::Alone)) {
-            m_folder.remove(name);
-            lock->remove();
+    auto lock = DraftLock::take(m_folder.lockOf(name), DraftLock::Kind::Alone);
+    if (!lock || !m_folder.putAside(name))
+        return false;
+    lock->remove();
+    return true;
+}
+
+/// Of the drafts that are seen, the latest first, the oldest free ones go.
+void SqliteDraftStore::removeOldest(std::vector<Sight> &sights) const
+{
+    for (std::size_t i = sights.size(); i-- > 0 && sights.size() > kMostDrafts;)
+        if (sights[i].kind == Sight::Kind::Free) {
+            const std::string &name = sights[i].entry.name;
+            if (auto lock = DraftLock::take(m_folder.lockOf(name), DraftLock::Kind::Alone)) {
+                m_folder.remove(name);
+                lock->remove();
+            }
+            sights.erase(sights.begin() + static_cast<std::ptrdiff_t>(i));
         }
-    }
+}
+
+void SqliteDraftStore::keepLatest()
+{
+    const std::vector<std::string> names = m_folder.drafts();
+    if (names.size() <= kMostDrafts)
+        return;
+    std::vector<Sight> sights = sightsOf(names);
+    removeOldest(sights);
 }
 
 DraftsFound SqliteDraftStore::look()
 {
     DraftsFound found;
-    const std::vector<std::string> names = m_folder.drafts();
-    std::vector<Sight> free = freeDrafts(names, found.putAside);
-    for (const Sight &sight : free)
-        m_latestOrder = std::max(m_latestOrder, sight.order);
-    removeOldest(free, names.size() - static_cast<std::size_t>(found.putAside));
-    for (Sight &sight : free)
-        found.free.push_back(std::move(sight.entry));
+    std::vector<Sight> sights = sightsOf(m_folder.drafts());
+    std::erase_if(sights, [&](const Sight &sight) {
+        if (sight.kind == Sight::Kind::Empty) {
+            discard(sight.entry.name);
+            return true;
+        }
+        const bool isAside = sight.kind == Sight::Kind::NotUnderstood && putAside(sight.entry.name);
+        found.putAside += isAside ? 1 : 0;
+        return isAside;
+    });
+    removeOldest(sights);
+    for (Sight &sight : sights)
+        if (sight.kind == Sight::Kind::Free) {
+            m_latestOrder = std::max(m_latestOrder, sight.order);
+            found.free.push_back(std::move(sight.entry));
+        }
     if (const auto last = readUnlocked(kLastFile, false, found.putAside))
         found.last = last->head;
     return found;
@@ -163,8 +181,7 @@ void SqliteDraftStore::begin()
         } catch (const SqliteFailure &failure) {
             throw errorOf(name, failure);
         }
-        if (m_folder.drafts().size() > kMostDrafts)
-            look();
+        keepLatest();
         return;
     }
     throw fileError(m_folder.pathOf("draft"), EEXIST);

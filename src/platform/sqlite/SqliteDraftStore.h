@@ -48,8 +48,10 @@ private:
     struct Sight;
 
     Sight sightOf(const std::string &name) const;
-    std::vector<Sight> freeDrafts(const std::vector<std::string> &names, int &putAside);
-    void removeOldest(std::vector<Sight> &free, std::size_t all) const;
+    std::vector<Sight> sightsOf(const std::vector<std::string> &names) const;
+    bool putAside(const std::string &name) const;
+    void removeOldest(std::vector<Sight> &sights) const;
+    void keepLatest();
     std::optional<Draft> readUnlocked(const std::string &name, bool withTexts, int &putAside) const;
     void begin();
     void forgetOwnIfGone();

@@ -44,7 +44,7 @@ struct Notes {
     std::string lines;
     int arrived = 0;
     bool isHeld = false;
-    std::string failure;  ///< what writing fails with
+    std::string failure;  ///< what the store fails with
 };
 
 /// A store that notes what it is told.
@@ -55,6 +55,7 @@ public:
     DraftsFound look() override
     {
         m_notes->add("look");
+        failIfWanted();
         return {.free = {{"one", {7, 1, "EL-1"}}}, .last = {}, .putAside = 2};
     }
     void write(const DraftHead &head, const DraftTextSource &texts) override
@@ -64,25 +65,40 @@ public:
         while (const auto text = texts())
             line += " " + std::to_string(text->page) + ":" + text->name + "=" + text->text;
         m_notes->add(line);
-        if (!m_notes->failure.empty())
-            throw RunTimeError(61, m_notes->failure);
+        failIfWanted();
     }
     TakeEnd takeOver(const std::string &name, Draft &draft) override
     {
         m_notes->add("take over " + name);
+        failIfWanted();
         draft = {{7, 1, "EL-1"}, {{0, "box", "text"}}};
         return TakeEnd::Taken;
     }
-    void discard(const std::string &name) override { m_notes->add("discard " + name); }
+    void discard(const std::string &name) override
+    {
+        m_notes->add("discard " + name);
+        failIfWanted();
+    }
     void drop() override { m_notes->add("drop"); }
-    void finish() override { m_notes->add("finish"); }
+    void finish() override
+    {
+        m_notes->add("finish");
+        failIfWanted();
+    }
     std::optional<Draft> readLast() override
     {
         m_notes->add("read last");
+        failIfWanted();
         return Draft{{3, 5, "EL-0"}, {}};
     }
 
 private:
+    void failIfWanted() const
+    {
+        if (!m_notes->failure.empty())
+            throw RunTimeError(61, m_notes->failure);
+    }
+
     std::shared_ptr<Notes> m_notes;
 };
 
@@ -199,6 +215,32 @@ TEST_F(DraftKeeperTest, troubleIsToldOnceAndItsEndToo)
         obey();
     }
     EXPECT_EQ(troubles, (std::vector<std::string>{"/f: disk is full", ""}));
+}
+
+TEST_F(DraftKeeperTest, everyQuestionIsAnsweredThoughTheStoreFails)
+{
+    notes->failure = "/f: disk is gone";
+    std::string told;
+    keeper->look([&](const DraftsFound &found) { told += std::to_string(found.free.size()) + " found\n"; });
+    keeper->takeOver("one", [&](const TakenDraft &taken) {
+        told += (taken.end == TakeEnd::Failed ? "failed " : "not ") + std::to_string(taken.draft.texts.size()) + "\n";
+    });
+    keeper->readLast([&](const std::optional<Draft> &draft) { told += draft ? "a file\n" : "no file\n"; });
+    obey();
+    EXPECT_EQ(told, "0 found\nfailed 0\nno file\n");
+}
+
+TEST_F(DraftKeeperTest, failureOfAnythingButKeepingIsNoTrouble)
+{
+    notes->failure = "/f: disk is gone";
+    keeper->look([](const DraftsFound &) {});
+    keeper->discard("one");
+    keeper->finish();
+    obey();
+    EXPECT_EQ(troubles, std::vector<std::string>());
+    keeper->keep(snapshot("a"));
+    obey();
+    EXPECT_EQ(troubles, std::vector<std::string>{"/f: disk is gone"});
 }
 
 TEST_F(DraftKeeperTest, endWritesWhatWaits)
