@@ -191,8 +191,10 @@ void WizardWindow::StartWizard()
 {
     for (PageFrame *page : m_pages) {
         page->start();
-        page->steps().forgetAll();
+        if (!m_hasStarted)
+            page->steps().forgetAll();
     }
+    m_hasStarted = true;
     turnTo(kLampPage, Arrival::First);
     show();
     m_services.embedding.takeFocus();

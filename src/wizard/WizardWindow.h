@@ -139,6 +139,7 @@ private:
     HostOperations m_operations;
     std::array<PageFrame *, kPageCount> m_pages{};
     int m_shownPage = kPageCount;
+    bool m_hasStarted = false;
     std::int16_t m_formState = 0;
     std::size_t m_shownEntries = 0;  ///< entries of the log that `txtCmds` has been given
 

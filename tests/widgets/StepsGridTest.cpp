@@ -207,6 +207,31 @@ TEST_F(StepsTest, bringBackTheTableOfOtherAnglesWithTheAnglesOfTheRecord)
     EXPECT_FALSE(find("rtbHorz")->isVisible());
 }
 
+TEST_F(StepsTest, bringBackTheTableThatASecondStartHasEmptied)
+{
+    openTable();
+    fillPageFive();
+    typeCell("cdaGridCd", 2, 1, "5");
+    const PageText filled = texts();
+    const PhotometricRecord before = state.CandelaWorkRecord(1);
+    window->StartWizard();
+    window->ShowPage(kDistributionPage);
+    click("cmdNext30");
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    EXPECT_EQ(shown("cdaGridCd", 2, 1), " ");
+    EXPECT_EQ(state.CandelaWorkRecord(1).Candela(1, 2), 0);
+    const PageText blank = texts();
+    undo();
+    EXPECT_EQ(texts(), filled);
+    EXPECT_EQ(state.CandelaWorkRecord(1), before);
+    undo();
+    EXPECT_EQ(shown("cdaGridCd", 2, 1), "8");
+    redo();
+    redo();
+    EXPECT_EQ(texts(), blank);
+    EXPECT_EQ(state.CandelaWorkRecord(1).Candela(1, 2), 0);
+}
+
 TEST_F(StepsTest, goOverATableThatWasBuiltAnewOnTheWay)
 {
     openTable();

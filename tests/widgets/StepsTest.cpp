@@ -18,13 +18,13 @@ TEST_F(StepsTest, haveNothingToUndoOnAPageThatHasJustBeenStarted)
     EXPECT_EQ(undoName(), "Undo");
 }
 
-TEST_F(StepsTest, areForgottenWhenTheWizardStartsAgain)
+TEST_F(StepsTest, stayWhenTheWizardStartsAgain)
 {
     typeText("4");
     window->StartWizard();
-    EXPECT_EQ(undoName(), "Undo");
+    EXPECT_EQ(undoName(), "Undo Typing");
     undo();
-    EXPECT_EQ(text("txtNumLamps"), "4");
+    EXPECT_EQ(text("txtNumLamps"), "");
 }
 
 TEST_F(StepsTest, stayWhenThePageIsLeftAndComeBackTo)

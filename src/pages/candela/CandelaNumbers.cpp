@@ -104,9 +104,6 @@ public:
         m_work.HorAngles = m_angles.horizontal;
         m_work.VertAngles = m_angles.vertical;
         m_work.Candela.reset(horizontal, vertical);
-        // Cells of a wizard that has been started again are not seen any more: their memory serves once more.
-        if (!m_numbers.m_flags.GridStarted)
-            m_cells = std::exchange(m_numbers.m_cells, {});
         m_cells.reset(horizontal, vertical);
         if (m_numbers.m_flags.GridStarted)
             keepWhatFits();
@@ -115,9 +112,14 @@ public:
     void swap() override
     {
         OneBased<PhotometricRecord> &work = m_numbers.m_state.CandelaWorkRecord;
-        if (!m_numbers.m_flags.GridStarted || work.empty())
+        if (work.empty())
             work.reset(1);
         swapBuilt(work(1), m_work);
+        if (!m_numbers.m_flags.GridStarted) {
+            PhotometricRecord fresh;
+            swapBuilt(fresh, work(1));
+            work(1) = std::move(fresh);
+        }
         std::swap(m_numbers.m_angles, m_angles);
         std::swap(m_numbers.m_cells, m_cells);
         m_numbers.giveAngles();

@@ -72,7 +72,7 @@ void CandelaPage::connectGrid()
 
 void CandelaPage::lsbStart()
 {
-    const bool isFirst = !flags().GridStarted;
+    const bool isFirst = m_form->cdaGridCd->model()->columnCount() == 0;
     buildTable();
     m_form->cdaGridCd->goTo(1, 1);
     showCurrentCell();
