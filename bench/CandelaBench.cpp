@@ -11,37 +11,13 @@
 
 #include "core/NumberText.h"
 #include "pages/candela/CandelaChecks.h"
-#include "pages/candela/CandelaGrid.h"
-#include "pages/candela/CandelaPage.h"
 #include "pages/candela/CandelaTable.h"
-#include "platform/qt/Closing.h"
-#include "support/FakeDialogs.h"
+#include "ShownPage.h"
 #include "wizard/PageSteps.h"
-#include "wizard/WarningDialog.h"
 
 namespace {
 
 using namespace penwright;
-
-constexpr int kSide = 1000;
-
-struct Nowhere : Navigator {
-    void ShowPage(int) override {}
-    void ConfirmCancel() override {}
-    void ShowHelp(int) override {}
-    bool ReDo() override { return false; }
-    bool isBusy() const override { return false; }
-};
-
-void giveAngles(PhotometricRecord &record)
-{
-    record.PhotometricType = kTypeC;
-    record.NumHorzAngles = record.NumVertAngles = kSide;
-    for (int i = 0; i < kSide; ++i) {
-        record.HorAngles.append(360.0F * static_cast<float>(i) / (kSide - 1));
-        record.VertAngles.append(180.0F * static_cast<float>(i) / (kSide - 1));
-    }
-}
 
 /// A table of measured values as a spreadsheet hands it over: 1 to 5 digits and a decimal.
 const std::string &pastedText()
@@ -57,24 +33,8 @@ const std::string &pastedText()
     return text;
 }
 
-/// The page in a window of its own, as large as an embedded one.
-class ShownPage {
-public:
-    ShownPage()
-    {
-        m_state.PhotFiles.reset(1);
-        giveAngles(m_state.PhotFiles(1));
-        page.resize(1000, 700);
-        page.show();
-        QCoreApplication::processEvents();
-    }
-
-    void open()
-    {
-        page.lsbStart();
-        QCoreApplication::processEvents();
-    }
-
+/// The page with what the keys of a user do on it.
+struct UsedPage : ShownPage {
     void paste()
     {
         QKeyEvent key(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
@@ -95,22 +55,11 @@ public:
     }
 
     void startAgain() { page.start(); }
-    CandelaGrid *grid() { return page.findChild<CandelaGrid *>("cdaGridCd"); }
-
-private:
-    ToolState m_state;
-    Closing m_closing;
-    test::FakeDialogs m_dialogs;
-    Nowhere m_navigator;
-    WarningDialog m_dlgWarn{m_closing, nullptr};
-
-public:
-    CandelaPage page{PageContext{m_state, m_dialogs, m_navigator, m_dlgWarn}};
 };
 
 void opensBlank(benchmark::State &state)
 {
-    ShownPage shown;
+    UsedPage shown;
     for (auto _ : state) {
         shown.startAgain();
         shown.open();
@@ -120,7 +69,7 @@ BENCHMARK(opensBlank)->Unit(benchmark::kMillisecond);
 
 void opensWithValues(benchmark::State &state)
 {
-    ShownPage shown;
+    UsedPage shown;
     shown.open();
     QApplication::clipboard()->setText(QString::fromStdString(pastedText()));
     shown.paste();
@@ -151,7 +100,7 @@ struct BareTable {
     BareTable()
     {
         tool.PhotFiles.reset(1);
-        giveAngles(tool.PhotFiles(1));
+        setSquareAngles(tool.PhotFiles(1), kSide);
         table.newTable().content->swap();
     }
 
@@ -170,7 +119,7 @@ BENCHMARK(pastedIntoTheTable)->Unit(benchmark::kMillisecond);
 /// From the key to the repainted grid and plot, the clipboard's owner being this process.
 void pastedToRedrawnPlot(benchmark::State &state)
 {
-    ShownPage shown;
+    UsedPage shown;
     shown.open();
     QApplication::clipboard()->setText(QString::fromStdString(pastedText()));
     for (auto _ : state) {
@@ -184,7 +133,7 @@ void pastedToRedrawnPlot(benchmark::State &state)
 BENCHMARK(pastedToRedrawnPlot)->Unit(benchmark::kMillisecond);
 
 /// A paste over other values, which can be undone and redone.
-void pasteTwice(ShownPage &shown)
+void pasteTwice(UsedPage &shown)
 {
     shown.open();
     QApplication::clipboard()->setText(QString::fromStdString(pastedText()));
@@ -194,7 +143,7 @@ void pasteTwice(ShownPage &shown)
 
 void pasteUndoneToRedrawnPlot(benchmark::State &state)
 {
-    ShownPage shown;
+    UsedPage shown;
     pasteTwice(shown);
     for (auto _ : state) {
         shown.undo();
@@ -207,7 +156,7 @@ BENCHMARK(pasteUndoneToRedrawnPlot)->Unit(benchmark::kMillisecond);
 
 void pasteRedoneToRedrawnPlot(benchmark::State &state)
 {
-    ShownPage shown;
+    UsedPage shown;
     pasteTwice(shown);
     for (auto _ : state) {
         state.PauseTiming();
@@ -221,7 +170,7 @@ BENCHMARK(pasteRedoneToRedrawnPlot)->Unit(benchmark::kMillisecond);
 /// Pastes one over the other, each of which is a step until they take too much memory.
 void pastedWithItsSteps(benchmark::State &state)
 {
-    ShownPage shown;
+    UsedPage shown;
     pasteTwice(shown);
     for (auto _ : state)
         shown.paste();
@@ -231,7 +180,7 @@ BENCHMARK(pastedWithItsSteps)->Unit(benchmark::kMillisecond);
 
 void cellAcceptedToRedrawnPlot(benchmark::State &state)
 {
-    ShownPage shown;
+    UsedPage shown;
     shown.open();
     QAbstractItemModel *model = shown.grid()->model();
     for (int value = 1; auto _ : state) {
@@ -243,7 +192,7 @@ BENCHMARK(cellAcceptedToRedrawnPlot)->Unit(benchmark::kMicrosecond);
 
 void scrolledByAPage(benchmark::State &state)
 {
-    ShownPage shown;
+    UsedPage shown;
     shown.open();
     for (auto _ : state) {
         const bool isLast = shown.grid()->currentRow() == kSide;
@@ -267,7 +216,7 @@ BENCHMARK(copied)->Unit(benchmark::kMillisecond);
 void checkedBlank(benchmark::State &state)
 {
     PhotometricRecord record;
-    giveAngles(record);
+    setSquareAngles(record, kSide);
     const OneBasedTable<CandelaCell> cells(kSide, kSide);
     for (auto _ : state) {
         WarningList list;

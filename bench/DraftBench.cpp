@@ -7,28 +7,14 @@
 #include <QKeyEvent>
 
 #include "draft/DraftKeeper.h"
-#include "pages/candela/CandelaGrid.h"
-#include "pages/candela/CandelaPage.h"
-#include "platform/qt/Closing.h"
 #include "platform/sqlite/SqliteDraftStore.h"
-#include "support/FakeDialogs.h"
+#include "ShownPage.h"
 #include "support/TempFolder.h"
-#include "wizard/WarningDialog.h"
 
 namespace {
 
 using namespace penwright;
 using Clock = std::chrono::steady_clock;
-
-constexpr int kSide = 1000;
-
-struct Nowhere : Navigator {
-    void ShowPage(int) override {}
-    void ConfirmCancel() override {}
-    void ShowHelp(int) override {}
-    bool ReDo() override { return false; }
-    bool isBusy() const override { return false; }
-};
 
 std::string measuredValues()
 {
@@ -39,35 +25,23 @@ std::string measuredValues()
     return lines;
 }
 
-/// Page 5 with all its values, in a window of its own, and a keeper over a folder of its own.
-class KeptPage {
+/// The page with all its values, and a keeper over a folder of its own.
+class KeptPage : public ShownPage {
 public:
     KeptPage()
     {
-        m_state.PhotFiles.reset(1);
-        PhotometricRecord &record = m_state.PhotFiles(1);
-        record.PhotometricType = kTypeC;
-        record.NumHorzAngles = record.NumVertAngles = kSide;
-        for (int i = 0; i < kSide; ++i) {
-            record.HorAngles.append(360.0F * static_cast<float>(i) / (kSide - 1));
-            record.VertAngles.append(180.0F * static_cast<float>(i) / (kSide - 1));
-        }
-        page.resize(1000, 700);
-        page.show();
-        page.lsbStart();
-        CandelaGrid *grid = page.findChild<CandelaGrid *>("cdaGridCd");
-        grid->apply(grid->source().paste({}, measuredValues(), ""));
+        open();
+        grid()->apply(grid()->source().paste({}, measuredValues(), ""));
         QCoreApplication::processEvents();
     }
 
     /// Types a value over the next cell; the milliseconds of its slowest key, painting included.
     double slowestKey()
     {
-        CandelaGrid *grid = page.findChild<CandelaGrid *>("cdaGridCd");
         double slowest = 0;
         for (const int key : {int{Qt::Key_4}, int{Qt::Key_2}, int{Qt::Key_Return}}) {
             const auto start = Clock::now();
-            QWidget *focus = QApplication::focusWidget() ? QApplication::focusWidget() : grid;
+            QWidget *focus = QApplication::focusWidget() ? QApplication::focusWidget() : grid();
             QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, key == Qt::Key_Return ? "\r" : QString(QChar(key)));
             QCoreApplication::sendEvent(focus, &press);
             QCoreApplication::processEvents();
@@ -79,15 +53,9 @@ public:
     void keep() { keeper.keep({kCandelaPage, "", {{kCandelaPage, page.value()}}}); }
 
 private:
-    ToolState m_state;
-    Closing m_closing;
-    test::FakeDialogs m_dialogs;
-    Nowhere m_navigator;
-    WarningDialog m_dlgWarn{m_closing, nullptr};
     test::TempFolder m_folder;
 
 public:
-    CandelaPage page{PageContext{m_state, m_dialogs, m_navigator, m_dlgWarn}};
     DraftKeeper keeper{std::make_unique<SqliteDraftStore>(m_folder.file("drafts")),
                        [](const std::function<void()> &) {}, [] { return std::int64_t{1}; },
                        [](const std::string &) {}};

@@ -8,6 +8,7 @@
 #include "core/IesReader.h"
 #include "core/IesText.h"
 #include "Seconds.h"
+#include "SquareRecord.h"
 
 namespace {
 
@@ -16,20 +17,8 @@ using namespace penwright;
 /// The text of a file with a square table, its values with up to three decimals as laboratories give them.
 std::string squareFile(int side)
 {
-    PhotometricRecord record;
-    record.Keywords = {"IESNA:LM-63-2002"};
-    record.CandelaMultiplier = record.BallastFactor = 1;
-    record.PhotometricType = kTypeC;
-    record.UnitsType = kMeters;
-    record.NumVertAngles = record.NumHorzAngles = static_cast<std::int16_t>(side);
-    record.VertAngles.reset(side);
-    record.HorAngles.reset(side);
-    record.Candela.reset(side, side);
     std::mt19937 random(1);
-    for (int h = 1; h <= side; ++h)
-        for (int v = 1; v <= side; ++v)
-            record.Candela(h, v) = static_cast<double>(random() % 10'000'000) / 1000;
-    return iesFileText(record);
+    return iesFileText(squareRecord(side, [&](int, int) { return static_cast<double>(random() % 10'000'000) / 1000; }));
 }
 
 /// The bar: std::from_chars alone over the same text from its first number on, the values thrown away. One character

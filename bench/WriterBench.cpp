@@ -7,25 +7,17 @@
 
 #include "core/IesText.h"
 #include "Seconds.h"
+#include "SquareRecord.h"
 
 namespace {
 
 using namespace penwright;
 
 /// A square table of candela values as the pages leave them: singles widened to doubles.
-PhotometricRecord squareRecord(int side)
+PhotometricRecord measuredRecord(int side)
 {
-    PhotometricRecord record;
-    record.Keywords = {"IESNA:LM-63-2002"};
-    record.NumVertAngles = record.NumHorzAngles = static_cast<std::int16_t>(side);
-    record.VertAngles.reset(side);
-    record.HorAngles.reset(side);
-    record.Candela.reset(side, side);
     std::mt19937 random(1);
-    for (int h = 1; h <= side; ++h)
-        for (int v = 1; v <= side; ++v)
-            record.Candela(h, v) = static_cast<float>(random() % 10000000) / 1000.0F;
-    return record;
+    return squareRecord(side, [&](int, int) { return static_cast<float>(random() % 10000000) / 1000.0F; });
 }
 
 /// The bar: std::to_chars alone over the same values, its text thrown away.
@@ -46,7 +38,7 @@ void toChars(const PhotometricRecord &record, Form... form)
 /// goal's measure (at most 1.6), and over the best of the fifteen-digit form, which is the text that files hold.
 void BM_writerAgainstToChars(benchmark::State &state)
 {
-    const PhotometricRecord record = squareRecord(static_cast<int>(state.range(0)));
+    const PhotometricRecord record = measuredRecord(static_cast<int>(state.range(0)));
     std::string text;
     double writing = 1e9;
     double shortest = 1e9;

@@ -2,6 +2,7 @@
 #include "run/Desktop.h"
 #include "run/RunTest.h"
 #include "support/Captions.h"
+#include "support/RecordAngles.h"
 #include "x11/DisplayQuery.h"
 #include "x11/HostProcess.h"
 
@@ -33,14 +34,8 @@ PhotometricRecord typedRecord()
     record.InputWatts = 42;
     record.Width = 0.5F;
     record.UnitsType = kMeters;
-    record.PhotometricType = kTypeC;
-    record.VertAngles = {0, 10, 20, 30, 40, 50, 60, 70, 80, 90};
-    record.NumVertAngles = 10;
-    record.HorAngles = {0};
-    record.NumHorzAngles = 1;
-    record.Candela.reset(1, 10);
-    for (int v = 1; v <= 10; ++v)
-        record.Candela(1, v) = static_cast<float>(v) + 0.5;
+    setAngles(record, kTypeC, {0}, evenAngles(10, 90));
+    setCandela(record, [](int, int v) { return v + 0.5; });
     return record;
 }
 

@@ -33,14 +33,6 @@ inline std::vector<float> anglesTo(float last, float step, float first = 0)
     return angles;
 }
 
-inline std::vector<float> evenAngles(int count, float last)
-{
-    std::vector<float> angles;
-    for (int i = 0; i < count; ++i)
-        angles.push_back(last * static_cast<float>(i) / static_cast<float>(count - 1));
-    return angles;
-}
-
 inline PlotTableCase plotTable(std::string name, std::int16_t type, const std::vector<float> &horizontal,
                                const std::vector<float> &vertical, const PlotValues &values, float h, float v)
 {

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/PhotometricRecord.h"
+#include "support/RecordAngles.h"
 
 namespace penwright::test {
 
@@ -18,20 +19,13 @@ inline PhotometricRecord smallRecord()
     record.NumLamps = 1;
     record.LumensPerLamp = 1000;
     record.CandelaMultiplier = 1;
-    record.NumVertAngles = 3;
-    record.NumHorzAngles = 2;
-    record.PhotometricType = kTypeC;
     record.UnitsType = kFeet;
     record.Width = 0.5F;
     record.Length = -2;
     record.BallastFactor = 0.95F;
     record.InputWatts = 150;
-    record.VertAngles = {0, 45, 90};
-    record.HorAngles = {0, 90};
-    record.Candela.reset(2, 3);
-    for (int h = 1; h <= 2; ++h)
-        for (int v = 1; v <= 3; ++v)
-            record.Candela(h, v) = 100 * h + v;
+    setAngles(record, kTypeC, {0, 90}, {0, 45, 90});
+    setCandela(record, [](int h, int v) { return 100 * h + v; });
     return record;
 }
 
@@ -65,10 +59,7 @@ public:
         record.NumHorzAngles = static_cast<std::int16_t>(below(12));
         fill(record.VertAngles, record.NumVertAngles);
         fill(record.HorAngles, record.NumHorzAngles);
-        record.Candela.reset(record.NumHorzAngles, record.NumVertAngles);
-        for (int h = 1; h <= record.NumHorzAngles; ++h)
-            for (int v = 1; v <= record.NumVertAngles; ++v)
-                record.Candela(h, v) = single();
+        setCandela(record, [this](int, int) { return single(); });
         record.OptionalData = below(2) ? "" : "free, text\r\n" + std::to_string(below(9));
         record.PictureFilename = below(2) ? "" : "picture.png";
         return record;

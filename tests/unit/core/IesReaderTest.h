@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "core/IesReader.h"
+#include "support/RecordAngles.h"
 
 namespace penwright::test {
 
@@ -55,22 +56,14 @@ inline PhotometricRecord wholeRecord()
     record.NumLamps = 4;
     record.LumensPerLamp = 4450.5F;
     record.CandelaMultiplier = 1.25F;
-    record.NumVertAngles = 5;
-    record.NumHorzAngles = 2;
-    record.PhotometricType = kTypeC;
     record.UnitsType = kMeters;
     record.Width = 0.18F;
     record.Length = -1.183F;
     record.Height = 0.06F;
     record.BallastFactor = 0.97F;
     record.InputWatts = 117.4F;
-    record.VertAngles = {0, 22.5F, 45, 67.5F, 90};
-    record.HorAngles = {0, 180};
-    record.Candela.reset(2, 5);
-    for (int v = 1; v <= 5; ++v) {
-        record.Candela(1, v) = 100 + v;
-        record.Candela(2, v) = 200 + v;
-    }
+    setAngles(record, kTypeC, {0, 180}, {0, 22.5F, 45, 67.5F, 90});
+    setCandela(record, [](int h, int v) { return 100 * h + v; });
     record.Candela(2, 5) = 205.75;
     return record;
 }

@@ -39,10 +39,7 @@ inline PhotometricRecord withTable(PhotometricRecord record, std::int16_t type, 
                                    const std::vector<float> &vertical, const Solid &solid)
 {
     setAngles(record, type, horizontal, vertical);
-    record.Candela.reset(record.NumHorzAngles, record.NumVertAngles);
-    for (int h = 1; h <= record.NumHorzAngles; ++h)
-        for (int v = 1; v <= record.NumVertAngles; ++v)
-            record.Candela(h, v) = solid(record.HorAngles(h), record.VertAngles(v));
+    setCandela(record, [&](int h, int v) { return solid(record.HorAngles(h), record.VertAngles(v)); });
     return record;
 }
 
