@@ -186,15 +186,16 @@ void WizardDrafts::openList()
     list->setAttribute(Qt::WA_DeleteOnClose);
     for (std::size_t draft = 0; draft < m_found.free.size(); ++draft) {
         const DraftHead &head = m_found.free[draft].head;
-        // What was typed is no mark for a key.
-        const QString text = toQString(draftOffer(head, localTime(head.time))).replace('&', "&&");
-        connect(list->addAction(text), &QAction::triggered, this, [this, draft] {
+        const QString text = toQString(draftOffer(head, localTime(head.time)));
+        QString shown = list->fontMetrics().elidedText(text, Qt::ElideMiddle, m_line->width() / 2);
+        shown.replace('&', "&&");  // what was typed is no mark for a key
+        connect(list->addAction(shown), &QAction::triggered, this, [this, draft] {
             m_offered = draft;
             showOffer();
         });
     }
-    const QWidget &button = m_line->moreButton();
-    list->popup(button.mapToGlobal(button.rect().bottomLeft()));
+    const QWidget &button = m_line->moreButton();  // whose right edge is the page's
+    list->popup(button.mapToGlobal(QPoint(button.width() - list->sizeHint().width(), button.height())));
 }
 
 void WizardDrafts::takeOver()

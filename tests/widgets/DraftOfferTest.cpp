@@ -112,6 +112,22 @@ TEST_F(DraftOffer, latestOfManyIsOfferedAndTheListHasTheOthers)
     EXPECT_EQ(left().free.size(), 3U) << "what was taken over goes on as a draft";
 }
 
+TEST_F(DraftOffer, listStaysInThePageHoweverLongItsEntriesAre)
+{
+    leaveLamps("first", "1");
+    leaveLamps(std::string(250, 'M'), "2");
+    startRun();
+    waitForOffer();
+    click("draftMore");
+    auto *list = find<QMenu>("draftList");
+    ASSERT_TRUE(list->isVisible());
+    const QRect line(find("draftLine")->mapToGlobal(QPoint()), find("draftLine")->size());
+    EXPECT_GE(list->frameGeometry().left(), line.left());
+    EXPECT_LE(list->frameGeometry().right(), line.right());
+    EXPECT_EQ(list->actions()[0]->text().left(10), "Draft of M");
+    list->close();
+}
+
 TEST_F(DraftOffer, nextDraftIsOfferedWhenOneOfManyIsDiscarded)
 {
     leaveLamps("first", "1");
