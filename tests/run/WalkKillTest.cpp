@@ -1,0 +1,222 @@
+#include <csignal>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <random>
+#include <set>
+
+#include <gtest/gtest.h>
+
+#include "platform/sqlite/SqliteDraftStore.h"
+#include "support/Process.h"
+#include "support/TempFolder.h"
+
+namespace penwright::test {
+namespace {
+
+using FileClock = std::filesystem::file_time_type::clock;
+
+/// What is kept: a text for each page and control.
+using Kept = std::map<std::pair<int, std::string>, std::string>;
+
+Kept keptOf(const Draft &draft)
+{
+    Kept kept;
+    for (const DraftText &text : draft.texts)
+        kept[{text.page, text.name}] = text.text;
+    return kept;
+}
+
+std::set<std::string> cellsOf(const std::string &table)
+{
+    std::set<std::string> cells;
+    for (std::size_t at = 0; at <= table.size();) {
+        const std::size_t end = std::min(table.find_first_of("\t\n", at), table.size());
+        cells.insert(table.substr(at, end - at));
+        at = end + 1;
+    }
+    return cells;
+}
+
+/// The first child of a process, which it has started; 0 while it has none.
+pid_t childOf(pid_t process)
+{
+    const std::string number = std::to_string(process);
+    pid_t child = 0;
+    std::ifstream("/proc/" + number + "/task/" + number + "/children") >> child;
+    return child;
+}
+
+/// Whether a process runs; one that has ended and that nobody has asked for does not.
+bool isRunning(pid_t process)
+{
+    std::string text;
+    std::getline(std::ifstream("/proc/" + std::to_string(process) + "/stat"), text);
+    const std::size_t name = text.rfind(") ");
+    return name != std::string::npos && text.substr(name + 2, 1) != "Z";
+}
+
+/// The stand-in host that types a whole luminaire into the wizard by real keys. A picture of each page is written once
+/// all that belongs there stands on it.
+class WalkKill : public testing::Test {
+protected:
+    WalkKill() { std::filesystem::create_directories(m_folder.file("walk")); }
+
+    /// The walk keeps its settings and drafts in a temporary folder of its own.
+    void startWalk()
+    {
+        std::filesystem::remove_all(temporary());
+        std::filesystem::create_directories(temporary());
+        m_begun = FileClock::now();
+        m_host = std::make_unique<Process>(
+            std::vector<std::string>{HOSTBENCH, "--walk", m_folder.file("walk")},
+            Process::Environment{{"TMPDIR", temporary()}, {"LSAN_OPTIONS", "detect_leaks=0"}}, Process::Errors::Joined);
+    }
+
+    /// Walks to the last page; how long that took.
+    Milliseconds walkToTheLastPage()
+    {
+        startWalk();
+        EXPECT_TRUE(waitUntil([this] { return isWhole(kLastPage); }, 60s)) << m_host->readAll();
+        const auto taken = std::chrono::duration_cast<Milliseconds>(FileClock::now() - m_begun);
+        m_host->signal(SIGSTOP);
+        std::this_thread::sleep_for(2s);
+        killOne(false);
+        m_whole = left();
+        return taken;
+    }
+
+    /// Lets the host type on for a while, then holds it up as a user does who looks into the papers.
+    void pauseTyping(Milliseconds after) const
+    {
+        std::this_thread::sleep_for(after);
+        m_host->signal(SIGSTOP);
+        std::this_thread::sleep_for(800ms);
+        m_host->signal(SIGCONT);
+    }
+
+    /// Kills the tool, or the host first. The host is held before the tool is killed: it would clear its folder.
+    void killOne(bool isHost)
+    {
+        const pid_t tool = childOf(m_host->pid());
+        if (!isHost) {
+            m_host->signal(SIGSTOP);
+            if (tool > 0)
+                ::kill(tool, SIGKILL);
+        }
+        m_killed = FileClock::now();
+        m_host->signal(SIGKILL);
+        m_host->waitForEnd();
+        EXPECT_TRUE(tool == 0 || waitUntil([&] { return !isRunning(tool); }, 20s)) << "an orphan stays behind";
+    }
+
+    /// What a run that is gone has left as a draft; nothing where there is none.
+    Kept left() const
+    {
+        SqliteDraftStore store(drafts());
+        const DraftsFound found = store.look();
+        EXPECT_EQ(found.putAside, 0);
+        Draft draft;
+        if (!found.free.empty())
+            EXPECT_EQ(store.takeOver(found.free[0].name, draft), TakeEnd::Taken);
+        return keptOf(draft);
+    }
+
+    /// When all that belongs there stood on a page in this walk; never, where it did not.
+    FileClock::time_point wholeSince(int page) const
+    {
+        std::error_code missing;
+        const auto written =
+            std::filesystem::last_write_time(m_folder.file("walk/page-" + std::to_string(page + 1) + ".png"), missing);
+        return !missing && written > m_begun ? written : FileClock::time_point::max() - 1h;
+    }
+    bool isWhole(int page) const { return wholeSince(page) < FileClock::now(); }
+
+    /// Whether a page was whole two seconds before the kill.
+    bool isDue(int page) const { return wholeSince(page) + 2s < m_killed; }
+
+    /// Whether the host has taken the finished file, so that there is nothing to be lost any more.
+    bool isFinished() const { return SqliteDraftStore(drafts()).look().last.has_value(); }
+
+    /// Whether a text is one on the way to the one that stood at the end: of a table each cell, of a box its beginning,
+    /// of options and lists an entry before it.
+    bool isOnTheWay(const std::pair<int, std::string> &place, const std::string &text) const
+    {
+        const auto whole = m_whole.find(place);
+        if (whole == m_whole.end())
+            return place.second.ends_with(".editor");
+        if (whole->second.starts_with(text) || std::set<std::string>{"-1", "0", "1", "2"}.contains(text))
+            return true;
+        std::set<std::string> known = cellsOf(whole->second);
+        known.insert({"", " ", "0"});
+        for (const std::string &cell : cellsOf(text))
+            if (!known.contains(cell) && !isBuiltIn(cell))
+                return false;
+        return true;
+    }
+
+    std::string drafts() const
+    {
+        for (const auto &entry : std::filesystem::recursive_directory_iterator(temporary()))
+            if (entry.path().filename() == "drafts")
+                return entry.path();
+        return temporary() + "/none";
+    }
+
+    Kept m_whole;
+
+private:
+    /// Whether a text is one that a page begins with: a keyword line, the advice in a list.
+    static bool isBuiltIn(const std::string &cell)
+    {
+        return cell.starts_with("[") || cell.starts_with("IES") || cell.starts_with("Type in a number");
+    }
+
+    static constexpr int kLastPage = 5;
+
+    std::string temporary() const { return m_folder.file("tmp"); }
+
+    TempFolder m_folder;
+    std::unique_ptr<Process> m_host;
+    FileClock::time_point m_begun;
+    FileClock::time_point m_killed;
+};
+
+int rounds()
+{
+    const char *wanted = std::getenv("PENWRIGHT_KILLS");
+    return wanted ? std::atoi(wanted) : 2;
+}
+
+TEST_F(WalkKill, ofToolOrHostAtAnyMomentCostsTwoSecondsOfTypingAtMostAndNeverMakesAWrongValue)
+{
+    const Milliseconds whole = walkToTheLastPage();
+    ASSERT_FALSE(m_whole.empty());
+    std::mt19937 chance(20260514);
+    for (int round = 0; round < rounds(); ++round) {
+        startWalk();
+        std::this_thread::sleep_for(whole / 5);
+        for (auto pauses = chance() % 4; pauses > 0; --pauses)
+            pauseTyping(Milliseconds(chance() % static_cast<unsigned>(whole.count() / 4)));
+        std::this_thread::sleep_for(Milliseconds(chance() % static_cast<unsigned>(whole.count() / 4)));
+        killOne(round % 2 == 0);
+        const Kept kept = left();
+        for (const auto &[place, text] : kept)
+            EXPECT_TRUE(isOnTheWay(place, text)) << "round " << round << ": " << place.second << " holds " << text;
+        if (isFinished())
+            continue;
+        for (const auto &[place, text] : m_whole)
+            if (isDue(place.first)) {
+                const auto found = kept.find(place);
+                EXPECT_TRUE(found != kept.end() && found->second == text)
+                    << "round " << round << ": " << place.second << " lacks " << text << ", is "
+                    << (found == kept.end() ? "(none)" : found->second);
+            }
+    }
+}
+
+}  // namespace
+}  // namespace penwright::test
