@@ -94,6 +94,23 @@ TEST_F(RefusalTest, tableOfAnotherForm)
     EXPECT_EQ(refusalThatTouchesNothing().substr(0, path.size() + 5), "13\n" + path + ": ");
 }
 
+TEST_F(RefusalTest, tableOfAnotherFormThatSaysThatItIsAStore)
+{
+    const std::string columns =
+        "(position INTEGER PRIMARY KEY, application TEXT NOT NULL, section TEXT NOT NULL, name TEXT NOT NULL, ";
+    const std::string tables[]{
+        "CREATE TABLE setting (a, b)",
+        "CREATE TABLE setting " + columns + "data TEXT)",
+        "CREATE TABLE setting " + columns + "data TEXT AS (name) STORED, UNIQUE (application, section, name))",
+        "CREATE VIRTUAL TABLE setting USING fts5 (position, application, section, name, data)",
+    };
+    for (const std::string &table : tables) {
+        std::filesystem::remove(path);
+        Peer(path).sql(table + "; PRAGMA user_version = 1");
+        EXPECT_EQ(refusalThatTouchesNothing().substr(0, path.size() + 5), "13\n" + path + ": ") << table;
+    }
+}
+
 TEST_F(RefusalTest, brokenFirstPage)
 {
     Peer(path).sql("CREATE TABLE mine (x)");

@@ -30,15 +30,20 @@ bool hasTable(sqlite3 *database)
     return sqliteNumber(database, "SELECT count(*) FROM sqlite_schema WHERE type = 'table' AND name = 'setting'") > 0;
 }
 
+/// Refuses a table of the same name and another form, which does not take this.
+void expectForm(sqlite3 *database)
+{
+    const SqliteStatement probe(database,
+                                "INSERT INTO setting (position, application, section, name, data) VALUES (1, '', '', "
+                                "'', '') ON CONFLICT (application, section, name) DO UPDATE SET data = excluded.data");
+}
+
 void createTable(sqlite3 *database)
 {
     SqliteTransaction transaction(database);
     isMarked(database);  // again: another process may just have made it a newer one
     runSqlite(database, kTable);
-    // A table of the same name and another form does not take this.
-    const SqliteStatement probe(database,
-                                "INSERT INTO setting (position, application, section, name, data) VALUES (1, '', '', "
-                                "'', '') ON CONFLICT (application, section, name) DO NOTHING");
+    expectForm(database);
     runSqlite(database, "PRAGMA user_version = 1");
     transaction.commit();
 }
@@ -87,6 +92,7 @@ void makeSettingsStore(sqlite3 *database)
         throw SqliteFailure{SQLITE_READONLY, "the file is read-only"};
     if (!isMarked(database) || !hasTable(database))
         createTable(database);
+    expectForm(database);  // before the file is changed
     useWal(database);
     // In WAL mode a crash loses nothing and breaks nothing; waiting for the disk after each command is for power cuts.
     runSqlite(database, "PRAGMA synchronous = NORMAL");
