@@ -7,6 +7,8 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <utility>
@@ -52,6 +54,21 @@ QLabel *makeNote(const QString &name)
     return note;
 }
 
+/// Scrolls a form that has more than there is room for.
+QScrollArea *makeScrollArea(QWidget *form)
+{
+    constexpr int kLeastHeight = 120;  // below that the whole page scrolls
+    auto *area = new QScrollArea;
+    area->setWidget(form);
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setMinimumHeight(kLeastHeight);
+    area->viewport()->setAutoFillBackground(false);
+    form->setAutoFillBackground(false);
+    return area;
+}
+
 QWidget *makeLine()
 {
     auto *line = new QWidget;
@@ -79,7 +96,8 @@ PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_
     layout->setSpacing(14);
     layout->addWidget(makeHeading(caption()));
     layout->addWidget(makeLine());
-    layout->addWidget(m_formArea, 1);
+    m_scroll = makeScrollArea(m_formArea);
+    layout->addWidget(m_scroll, 1);
     layout->addWidget(m_note);
     layout->addWidget(makeLine());
     layout->addLayout(m_buttons);
@@ -94,6 +112,12 @@ PageFrame::~PageFrame()
 QString PageFrame::caption() const
 {
     return toQString(rowOf(m_index).caption);
+}
+
+void PageFrame::scrollToTop()
+{
+    for (QScrollBar *bar : {m_scroll->horizontalScrollBar(), m_scroll->verticalScrollBar()})
+        bar->setValue(0);
 }
 
 void PageFrame::showNote(const QString &text)
@@ -253,7 +277,7 @@ bool PageFrame::leaveByNext()
 void PageFrame::addTopLine(QWidget &line)
 {
     auto *layout = static_cast<QVBoxLayout *>(this->layout());
-    layout->insertWidget(layout->indexOf(m_formArea), &line);
+    layout->insertWidget(layout->indexOf(m_scroll), &line);
     line.lower();  // the first of the page's parts for a screen reader too
     for (auto *button : line.findChildren<QPushButton *>())
         button->installEventFilter(this);

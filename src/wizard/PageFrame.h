@@ -15,6 +15,7 @@
 class QAbstractButton;
 class QLabel;
 class QPushButton;
+class QScrollArea;
 
 namespace penwright {
 
@@ -107,6 +108,9 @@ public:
     /// Puts a line above the form. Enter in it presses Next.
     void addTopLine(QWidget &line);
 
+    /// Shows the form from its beginning, where it has more than there is room for.
+    void scrollToTop();
+
     /// Shows one quiet line under the form, which screen readers are told of as well; an empty one takes it away.
     void showNote(const QString &text);
 
@@ -173,6 +177,7 @@ private:
     int m_index;
     PageContext m_context;
     QWidget *m_formArea = nullptr;
+    QScrollArea *m_scroll = nullptr;  ///< around the form: caption and buttons stay in sight
     QLabel *m_note = nullptr;
     class QHBoxLayout *m_buttons = nullptr;
     QPushButton *m_next = nullptr;

@@ -154,6 +154,7 @@ void WizardWindow::turnTo(int index, Arrival arrival)
     page->show();
     for (QScrollBar *bar : {m_scroll->horizontalScrollBar(), m_scroll->verticalScrollBar()})
         bar->setValue(0);
+    page->scrollToTop();
     setWindowTitle(page->caption());
     if (arrival == Arrival::Back)
         page->focusLastField();

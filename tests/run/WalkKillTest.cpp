@@ -158,11 +158,15 @@ protected:
         return true;
     }
 
+    /// Whether something has been typed and kept. A tool whose host goes before it could look for it has no host, and
+    /// waits for one for minutes.
+    bool hasDraft() const { return std::filesystem::is_directory(drafts()); }
+
     std::string drafts() const
     {
-        for (const auto &entry : std::filesystem::recursive_directory_iterator(temporary()))
-            if (entry.path().filename() == "drafts")
-                return entry.path();
+        for (const auto &entry : std::filesystem::directory_iterator(temporary()))
+            if (const auto found = entry.path() / "Lumentor/drafts"; std::filesystem::exists(found))
+                return found;
         return temporary() + "/none";
     }
 
@@ -198,7 +202,7 @@ TEST_F(WalkKill, ofToolOrHostAtAnyMomentCostsTwoSecondsOfTypingAtMostAndNeverMak
     std::mt19937 chance(20260514);
     for (int round = 0; round < rounds(); ++round) {
         startWalk();
-        std::this_thread::sleep_for(whole / 5);
+        ASSERT_TRUE(waitUntil([this] { return hasDraft(); }, 60s)) << "nothing was typed";
         for (auto pauses = chance() % 4; pauses > 0; --pauses)
             pauseTyping(Milliseconds(chance() % static_cast<unsigned>(whole.count() / 4)));
         std::this_thread::sleep_for(Milliseconds(chance() % static_cast<unsigned>(whole.count() / 4)));
