@@ -30,10 +30,12 @@ Change lines(const OneBased<std::string> &keywords)
     return [=](PhotometricRecord &record) { record.Keywords = keywords; };
 }
 
-RuleCase refused(const std::string &version, float w, float l, float h, const std::string &numbers)
+const std::string kOtherShape = "use another shape or a rectangle.";
+const std::string kOtherVersion = "use the 2002 version, another shape or a rectangle.";
+
+RuleCase refused(const std::string &version, float w, float l, float h, const std::string &numbers,
+                 const std::string &cure)
 {
-    const std::string cure = version == kVersion2002 ? "use another shape or a rectangle."
-                                                     : "use the 2002 version, another shape or a rectangle.";
     return {version + numbers,
             RemarkRule::RefusedShape,
             dimensions(version, w, l, h),
@@ -57,19 +59,21 @@ INSTANTIATE_TEST_SUITE_P(Shapes, HeaderRemarks,
                              passed(kVersion2002, 3, -2, -2),
                              passed(kVersion2002, -2, 0, -3),
                              passed(kVersion2002, -2, -2, -0.0F),
-                             refused(kVersion2002, 2, 0, 0, "2 x 0 x 0"),
-                             refused(kVersion2002, 0, -3, -0.5F, "0 x -3 x -0.5"),
-                             refused(kVersion2002, -2, 0, 0, "-2 x 0 x 0"),
-                             refused(kVersion2002, 0, 3, -0.2F, "0 x 3 x -0.2"),
-                             refused(kVersion1995, -2, -2, 0, "-2 x -2 x 0"),
-                             refused(kVersion1991, -2, -2, 3, "-2 x -2 x 3"),
-                             refused(kVersion1991, -2, -2, -2, "-2 x -2 x -2"),
+                             refused(kVersion2002, 2, 0, 0, "2 x 0 x 0", kOtherShape),
+                             refused(kVersion2002, 0, -3, -0.5F, "0 x -3 x -0.5", kOtherShape),
+                             refused(kVersion2002, -2, 0, 0, "-2 x 0 x 0", kOtherShape),
+                             refused(kVersion2002, 0, 3, -0.2F, "0 x 3 x -0.2", kOtherShape),
+                             refused(kVersion1995, -2, -2, 0, "-2 x -2 x 0", kOtherVersion),
+                             refused(kVersion1995, 2, 0, 0, "2 x 0 x 0", kOtherShape),
+                             refused(kVersion1991, 0, -3, -0.5F, "0 x -3 x -0.5", kOtherShape),
+                             refused(kVersion1991, -2, -2, 3, "-2 x -2 x 3", kOtherVersion),
+                             refused(kVersion1991, -2, -2, -2, "-2 x -2 x -2", kOtherVersion),
                              passed(kVersion1995, -2, 0, 0),
                              passed(kVersion1995, -2, 0, 3),
                              passed(kVersion1991, -2, 0, -2),
                              passed(kVersion1991, 0.6F, 1.2F, 0),
                              passed("IES:LM-63-2019", -2, -2, 0),
-                             refused("[TEST] of 1986", -2, -2, 0, "-2 x -2 x 0"),
+                             refused("[TEST] of 1986", -2, -2, 0, "-2 x -2 x 0", kOtherVersion),
                          }));
 
 INSTANTIATE_TEST_SUITE_P(
