@@ -4,7 +4,7 @@
 #include <limits>
 #include <utility>
 
-#include "core/Blanks.h"
+#include "core/FormatYear.h"
 #include "core/LineEnds.h"
 #include "core/TextBytes.h"
 
@@ -15,18 +15,6 @@ constexpr std::int16_t kMost = std::numeric_limits<std::int16_t>::max();
 constexpr std::int16_t kLeast = std::numeric_limits<std::int16_t>::min();
 constexpr std::int16_t kTypeA = 3;
 constexpr int kLastYearWithCommas = 1995;
-
-struct VersionRow {
-    std::string_view word;
-    int year;
-};
-
-/// The first words of a file, in capitals, by which versions are known; a file of 1986 begins with any text.
-constexpr VersionRow kVersionRows[]{
-    {"IESNA86", 1986},          {"IESNA:LM-63-1986", 1986}, {"IESNA91", 1991},
-    {"IESNA:LM-63-1991", 1991}, {"IESNA:LM-63-1995", 1995}, {"IESNA:LM-63-2002", 2002},
-    {"IESNA:LM-63-2019", 2019}, {"IES:LM-63-2002", 2002},   {"IES:LM-63-2019", 2019},
-};
 
 std::string inCapitals(std::string_view text)
 {
@@ -110,14 +98,13 @@ void IesFileReading::readHeader()
            "the file ends without a line that begins with TILT=; it is no IES file, or its end is missing.");
 }
 
+/// A line that names no version is the first one of a file of 1986.
 void IesFileReading::readVersion(std::string_view line, std::size_t place)
 {
     m_hasVersion = true;
     const std::string word = inCapitals(line.substr(0, line.find_first_of(" \t")));
-    const auto row = std::find_if(std::begin(kVersionRows), std::end(kVersionRows),
-                                  [&word](const VersionRow &r) { return r.word == word; });
-    if (row != std::end(kVersionRows))
-        m_content.year = row->year;
+    if (const int year = formatYear(line); year > 0)
+        m_content.year = year;
     else if (word.starts_with("IES:LM-63-") || word.starts_with("IESNA:LM-63-"))
         refuse(place, shownWord(word) + " is a version that is not known here.");
 }

@@ -42,7 +42,7 @@ void checkKeywords(const Reviewed &file, RuleRemarks &remarks)
         const std::string lack = lackOf(file.record, keyword, row);
         if (!lack.empty())
             remarks.add({RecordField::Keywords, row}, [&] {
-                return std::string(keyword) + lack + std::string(file.format.year) + " format requires it.";
+                return std::string(keyword) + lack + std::to_string(file.format.year) + " format requires it.";
             });
     }
     const auto &unknown = file.format.unknown;
@@ -50,7 +50,7 @@ void checkKeywords(const Reviewed &file, RuleRemarks &remarks)
         const std::string_view key = keyOf(file.record.Keywords(row));
         if (std::find(unknown.begin(), unknown.end(), key) != unknown.end())
             remarks.add({RecordField::Keywords, row}, [&] {
-                return std::string(key) + " is unknown to the " + std::string(file.format.year) + " format.";
+                return std::string(key) + " is unknown to the " + std::to_string(file.format.year) + " format.";
             });
     }
 }
