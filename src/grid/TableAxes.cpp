@@ -140,9 +140,16 @@ bool TableAxes::isRowAbove(std::size_t line)
     return isRow(cells, false, false) || isRow(cells, true, false);
 }
 
-/// Whether the first line of numbers holds angles: with nothing over the column, or where both look like angles.
+/// Whether the first line of numbers holds angles: with nothing over the column, or where both look like angles. It is
+/// the table itself when no other line of numbers stands behind it.
 bool TableAxes::isRowOfNumbers()
 {
+    const auto behind = m_sample.lines.begin() + static_cast<std::ptrdiff_t>(m_sample.first) + 1;
+    const auto isOfTheTable = [this](const SampleLine &line) {
+        return line.isFull && line.cells.size() == m_sample.width;
+    };
+    if (std::none_of(behind, m_sample.lines.end(), isOfTheTable))
+        return false;
     const Cells &cells = cellsAt(m_sample.first);
     m_angleLine = m_sample.first;
     m_firstRow = m_sample.first + 1;
