@@ -111,7 +111,17 @@ TEST(TableText, oneLineHasNoMoreValuesThanThereAreAngles)
         return line;
     }();
     EXPECT_EQ(faultOf(oneLine, guessTable(oneLine)).text,
-              "Line 1: a table has 1 to 32767 lines and columns of values. Read before it: 1 line of 40000 values.");
+              "Line 1: a table has 1 to 32767 lines and columns of values.");
+}
+
+TEST(TableText, hasNoMoreLinesThanThereAreAngles)
+{
+    std::string text;
+    for (int line = 0; line < 32768; ++line)
+        text += "7\n";
+    EXPECT_EQ(
+        faultOf(text, TableReading()).text,
+        "Line 32768: a table has 1 to 32767 lines and columns of values. Read before it: 32767 lines of 1 value.");
 }
 
 TEST(TableText, readingCanBeStopped)
