@@ -124,6 +124,11 @@ TEST(TableText, hasNoMoreLinesThanThereAreAngles)
         "Line 32768: a table has 1 to 32767 lines and columns of values. Read before it: 32767 lines of 1 value.");
 }
 
+TEST(TableText, aTextWithoutATableHasNoUnit)
+{
+    EXPECT_EQ(guessTable("Intensities in cd/klm\nto follow\n"), TableReading());
+}
+
 TEST(TableText, readingCanBeStopped)
 {
     const std::string text = square(600);
