@@ -4,12 +4,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 
 #include "core/TextBytes.h"
 #include "support/Growth.h"
+#include "support/TempFolder.h"
 
 namespace penwright {
 namespace {
@@ -171,12 +170,8 @@ TEST(TableText, aGuessTakesTheSameTimeForAnyLength)
 TEST(TableText, damagedTablesAreReadOrRefused)
 {
     std::vector<std::string> files;
-    for (const auto &entry : std::filesystem::directory_iterator(TABLES_FOLDER)) {
-        std::ifstream in(entry.path(), std::ios::binary);
-        std::ostringstream out;
-        out << in.rdbuf();
-        files.push_back(out.str().substr(0, 400));
-    }
+    for (const auto &entry : std::filesystem::directory_iterator(TABLES_FOLDER))
+        files.push_back(test::contentOf(entry.path()).substr(0, 400));
     std::sort(files.begin(), files.end());
     std::mt19937 random(13);
     const auto below = [&random](std::size_t limit) { return random() % std::max<std::size_t>(limit, 1); };
