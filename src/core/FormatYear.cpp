@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string>
+
+#include "core/Ascii.h"
 
 namespace penwright {
 namespace {
@@ -18,11 +21,6 @@ constexpr VersionRow kVersionRows[]{
     {"IESNA:LM-63-2019", 2019}, {"IES:LM-63-2002", 2002},   {"IES:LM-63-2019", 2019},
 };
 
-char inCapitals(char c)
-{
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-}
-
 std::string_view firstWord(std::string_view line)
 {
     constexpr std::string_view kWhite = " \t\v\f";
@@ -34,12 +32,9 @@ std::string_view firstWord(std::string_view line)
 
 int formatYear(std::string_view firstLine)
 {
-    const std::string_view word = firstWord(firstLine);
-    const auto names = [word](const VersionRow &row) {
-        return std::equal(word.begin(), word.end(), row.word.begin(), row.word.end(),
-                          [](char c, char capital) { return inCapitals(c) == capital; });
-    };
-    const auto row = std::find_if(std::begin(kVersionRows), std::end(kVersionRows), names);
+    const std::string word = upperCase(firstWord(firstLine));
+    const auto row = std::find_if(std::begin(kVersionRows), std::end(kVersionRows),
+                                  [&word](const VersionRow &r) { return r.word == word; });
     return row == std::end(kVersionRows) ? 0 : row->year;
 }
 

@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "core/Ascii.h"
 #include "core/LineEnds.h"
 #include "core/NumberText.h"
 #include "core/TextBytes.h"
@@ -22,17 +23,12 @@ bool endsNumber(char c)
     return isWhite(c) || c == ',';
 }
 
-bool isInRange(double value)
-{
-    return std::isfinite(static_cast<float>(value));
-}
-
 /// Where the digits of a number begin, behind the "+" that std::from_chars does not know; nothing where no number can
 /// begin, "inf" and "nan" among it.
 const char *beginOfNumber(const char *at, const char *end)
 {
     const char *digit = at + (*at == '+' || *at == '-' ? 1 : 0);
-    if (digit == end || (*digit != '.' && (*digit < '0' || *digit > '9')))
+    if (digit == end || (*digit != '.' && !isDigit(*digit)))
         return nullptr;
     return *at == '+' ? digit : at;
 }
@@ -161,7 +157,7 @@ IesNumbers::Found IesNumbers::next(double &value)
         return Found::NoNumber;
     if (read.ec != std::errc())
         return slowNext(read.ptr, value);
-    if (!isInRange(value))
+    if (!fitsSingle(value))
         return Found::TooLarge;
     m_at = read.ptr;
     return Found::Number;

@@ -4,6 +4,7 @@
 #include <limits>
 #include <utility>
 
+#include "core/Ascii.h"
 #include "core/FormatYear.h"
 #include "core/LineEnds.h"
 #include "core/TextBytes.h"
@@ -15,15 +16,6 @@ constexpr std::int16_t kMost = std::numeric_limits<std::int16_t>::max();
 constexpr std::int16_t kLeast = std::numeric_limits<std::int16_t>::min();
 constexpr std::int16_t kTypeA = 3;
 constexpr int kLastYearWithCommas = 1995;
-
-std::string inCapitals(std::string_view text)
-{
-    std::string capitals(text);
-    for (char &c : capitals)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    return capitals;
-}
 
 std::string_view trimmed(std::string_view text)
 {
@@ -88,7 +80,7 @@ void IesFileReading::readHeader()
         m_place += line.size() + lineEndLength(rest.substr(line.size()));
         const std::string_view said = trimmed(line);
         const std::string_view behindTilt = trimmed(said.substr(std::min<std::size_t>(4, said.size())));
-        if (behindTilt.starts_with('=') && inCapitals(said.substr(0, 4)) == "TILT")
+        if (behindTilt.starts_with('=') && upperCase(said.substr(0, 4)) == "TILT")
             return readTiltLine(trimmed(behindTilt.substr(1)), begin);
         if (!m_hasVersion && !said.empty())
             readVersion(said, begin);
@@ -102,7 +94,7 @@ void IesFileReading::readHeader()
 void IesFileReading::readVersion(std::string_view line, std::size_t place)
 {
     m_hasVersion = true;
-    const std::string word = inCapitals(line.substr(0, line.find_first_of(" \t")));
+    const std::string word = upperCase(line.substr(0, line.find_first_of(" \t")));
     if (const int year = formatYear(line); year > 0)
         m_content.year = year;
     else if (word.starts_with("IES:LM-63-") || word.starts_with("IESNA:LM-63-"))
@@ -111,7 +103,7 @@ void IesFileReading::readVersion(std::string_view line, std::size_t place)
 
 void IesFileReading::readTiltLine(std::string_view what, std::size_t place)
 {
-    const std::string word = inCapitals(what);
+    const std::string word = upperCase(what);
     m_content.record.TiltIncl = word == "INCLUDE";
     if (what.empty())
         refuse(place, "NONE, INCLUDE or the name of a file belongs behind TILT=.");

@@ -12,9 +12,6 @@
 namespace penwright {
 namespace {
 
-/// How far above the first line of numbers the line of angles stands at most, with lines of units between them.
-constexpr std::size_t kLinesAbove = 3;
-
 /// The angles of a row or a column, and what words say of them.
 struct Axis {
     std::vector<double> degrees;

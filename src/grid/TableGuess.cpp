@@ -1,5 +1,6 @@
 #include <string>
 
+#include "core/Ascii.h"
 #include "grid/TableAxes.h"
 #include "grid/TableLines.h"
 #include "grid/TableSample.h"
@@ -13,10 +14,8 @@ namespace {
 std::string squeezed(std::string_view text)
 {
     std::string letters;
-    for (const char c : text)
-        if (c >= 'A' && c <= 'Z')
-            letters += static_cast<char>(c - 'A' + 'a');
-        else if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '/')
+    for (const char c : lowerCase(text))
+        if ((c >= 'a' && c <= 'z') || isDigit(c) || c == '/')
             letters += c;
     return letters;
 }
