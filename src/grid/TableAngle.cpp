@@ -89,7 +89,7 @@ constexpr WordRow kWords[]{
 /// Signs and words for degrees behind a number, or behind the name of an angle.
 constexpr std::string_view kDegrees[]{"\xC2\xB0", "\xC2\xBA", "\xCB\x9A", "degrees", "degree", "deg", "grad"};
 
-/// Takes signs for degrees, and brackets, from the end of a text; whether there was one.
+/// Takes a sign or a word for degrees from the end of letters, unless they are nothing else; whether there was one.
 bool takeDegrees(std::string &letters)
 {
     for (const std::string_view mark : kDegrees)
