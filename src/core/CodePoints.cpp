@@ -5,11 +5,6 @@
 namespace penwright {
 namespace {
 
-bool isContinuation(char byte)
-{
-    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
-}
-
 /// How many bytes the character has that begins with a byte.
 std::size_t announcedLength(char first)
 {
@@ -18,6 +13,11 @@ std::size_t announcedLength(char first)
 }
 
 }  // namespace
+
+bool isContinuation(char byte)
+{
+    return (static_cast<unsigned char>(byte) & 0xC0) == 0x80;
+}
 
 int codePointCount(std::string_view text)
 {

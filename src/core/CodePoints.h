@@ -5,6 +5,9 @@
 
 namespace penwright {
 
+/// Whether a byte of a UTF-8 text goes on with a character rather than beginning one.
+bool isContinuation(char byte);
+
 /// The number of characters of a UTF-8 text, counted as code points.
 int codePointCount(std::string_view text);
 

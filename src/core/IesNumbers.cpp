@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "core/Ascii.h"
 #include "core/LineEnds.h"
 #include "core/NumberText.h"
 #include "core/TextBytes.h"
@@ -22,17 +23,12 @@ bool endsNumber(char c)
     return isWhite(c) || c == ',';
 }
 
-bool isInRange(double value)
-{
-    return std::isfinite(static_cast<float>(value));
-}
-
 /// Where the digits of a number begin, behind the "+" that std::from_chars does not know; nothing where no number can
 /// begin, "inf" and "nan" among it.
 const char *beginOfNumber(const char *at, const char *end)
 {
     const char *digit = at + (*at == '+' || *at == '-' ? 1 : 0);
-    if (digit == end || (*digit != '.' && (*digit < '0' || *digit > '9')))
+    if (digit == end || (*digit != '.' && !isDigit(*digit)))
         return nullptr;
     return *at == '+' ? digit : at;
 }
@@ -61,7 +57,7 @@ double IesNumbers::number(std::string_view name)
     if (!isSound())
         return value;
     const Found found = next(value);
-    if (found != Found::number)
+    if (found != Found::Number)
         refuse(found, std::string(name), "the file ends where " + std::string(name) + " belongs.");
     return value;
 }
@@ -79,10 +75,8 @@ std::int16_t IesNumbers::whole(std::string_view name, std::int16_t least, std::i
 OneBased<float> IesNumbers::list(std::string_view kind, int count)
 {
     OneBased<float> numbers;
-    readEach(kind, static_cast<std::size_t>(count), [&numbers](double value) {
-        numbers.append(static_cast<float>(value));
-        return true;
-    });
+    readEach(kind, static_cast<std::size_t>(count),
+             [&numbers](double value) { numbers.append(static_cast<float>(value)); });
     return numbers;
 }
 
@@ -91,12 +85,10 @@ OneBased<float> IesNumbers::angles(std::string_view kind, int count)
     OneBased<float> numbers;
     readEach(kind, static_cast<std::size_t>(count), [&](double value) {
         const auto angle = static_cast<float>(value);
-        const bool falls = !numbers.empty() && angle < numbers(numbers.size());
-        if (falls)
+        if (!numbers.empty() && angle < numbers(numbers.size()))
             refuse(std::string(kind) + " " + generalText(angle) + " stands behind " +
                    generalText(numbers(numbers.size())) + "; angles must rise.");
         numbers.append(angle);
-        return !falls;
     });
     return numbers;
 }
@@ -114,7 +106,6 @@ OneBasedTable<double> IesNumbers::table(std::string_view kind, int rows, int col
             values(row, column) = value;
         row += column == columns ? 1 : 0;
         column = column == columns ? 1 : column + 1;
-        return true;
     });
     return values;
 }
@@ -135,13 +126,13 @@ void IesNumbers::readEach(std::string_view kind, std::size_t count, const Store 
     double value = 0;
     for (std::size_t i = 0; i < count && isSound(); ++i) {
         const Found found = next(value);
-        const bool goesOn = found == Found::number && store(value);
-        if (goesOn)
+        if (found == Found::Number) {
+            store(value);
             continue;
+        }
         const std::string of = " of " + std::to_string(count);
-        if (found != Found::number)
-            refuse(found, std::string(kind) + " " + std::to_string(i + 1) + of,
-                   "the file ends behind " + std::to_string(i) + of + " " + std::string(kind) + "s.");
+        refuse(found, std::string(kind) + " " + std::to_string(i + 1) + of,
+               "the file ends behind " + std::to_string(i) + of + " " + std::string(kind) + "s.");
     }
 }
 
@@ -154,22 +145,22 @@ bool IesNumbers::isRoomFor(std::size_t count) const
 IesNumbers::Found IesNumbers::next(double &value)
 {
     if (!skipSeparators())
-        return Found::comma;
+        return Found::Comma;
     if (m_at == m_end)
-        return Found::end;
+        return Found::End;
     m_last = m_at;
     const char *begin = beginOfNumber(m_at, m_end);
     if (begin == nullptr)
-        return Found::noNumber;
+        return Found::NoNumber;
     const auto read = std::from_chars(begin, m_end, value);
     if (read.ptr != m_end && !endsNumber(*read.ptr))
-        return Found::noNumber;
+        return Found::NoNumber;
     if (read.ec != std::errc())
         return slowNext(read.ptr, value);
-    if (!isInRange(value))
-        return Found::tooLarge;
+    if (!fitsSingle(value))
+        return Found::TooLarge;
     m_at = read.ptr;
-    return Found::number;
+    return Found::Number;
 }
 
 /// A number that no double holds, which is 0 when it is too small for one.
@@ -177,10 +168,10 @@ IesNumbers::Found IesNumbers::slowNext(const char *end, double &value)
 {
     const std::string_view number(m_at, static_cast<std::size_t>(end - m_at));
     if (!isNumeric(number))
-        return Found::tooLarge;
+        return Found::TooLarge;
     value = leadingNumber(number);
     m_at = end;
-    return Found::number;
+    return Found::Number;
 }
 
 /// Goes on to the next word; false at a comma that separates no numbers.
@@ -211,20 +202,20 @@ void IesNumbers::refuse(const std::string &wrong)
 
 void IesNumbers::refuse(Found found, const std::string &wanted, const std::string &atEnd)
 {
-    if (found == Found::end) {
+    if (found == Found::End) {
         m_fault = iesFaultAt(m_file, m_file.find_last_not_of(kWhiteSpace), atEnd);
         return;
     }
-    const char *begin = found == Found::comma ? m_at : m_last;
+    const char *begin = found == Found::Comma ? m_at : m_last;
     while (begin != m_last && !isWhite(begin[-1]))
         --begin;
     m_last = begin;
     const std::string word = shownWord(wordFrom(begin));
-    if (found == Found::comma)
+    if (found == Found::Comma)
         refuse("the comma in " + word +
                " does not belong there; write a point for decimals and blanks between numbers.");
     else
-        refuse(word + (found == Found::tooLarge ? " is too large a number; " : " is no number; ") + wanted +
+        refuse(word + (found == Found::TooLarge ? " is too large a number; " : " is no number; ") + wanted +
                " belongs there.");
 }
 

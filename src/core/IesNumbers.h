@@ -51,7 +51,7 @@ public:
     void refuse(const std::string &wrong);
 
 private:
-    enum class Found { number, end, noNumber, tooLarge, comma };
+    enum class Found { Number, End, NoNumber, TooLarge, Comma };
 
     Found next(double &value);
     Found slowNext(const char *end, double &value);

@@ -4,7 +4,8 @@
 #include <limits>
 #include <utility>
 
-#include "core/Blanks.h"
+#include "core/Ascii.h"
+#include "core/FormatYear.h"
 #include "core/LineEnds.h"
 #include "core/TextBytes.h"
 
@@ -15,27 +16,6 @@ constexpr std::int16_t kMost = std::numeric_limits<std::int16_t>::max();
 constexpr std::int16_t kLeast = std::numeric_limits<std::int16_t>::min();
 constexpr std::int16_t kTypeA = 3;
 constexpr int kLastYearWithCommas = 1995;
-
-struct VersionRow {
-    std::string_view word;
-    int year;
-};
-
-/// The first words of a file, in capitals, by which versions are known; a file of 1986 begins with any text.
-constexpr VersionRow kVersionRows[]{
-    {"IESNA86", 1986},          {"IESNA:LM-63-1986", 1986}, {"IESNA91", 1991},
-    {"IESNA:LM-63-1991", 1991}, {"IESNA:LM-63-1995", 1995}, {"IESNA:LM-63-2002", 2002},
-    {"IESNA:LM-63-2019", 2019}, {"IES:LM-63-2002", 2002},   {"IES:LM-63-2019", 2019},
-};
-
-std::string inCapitals(std::string_view text)
-{
-    std::string capitals(text);
-    for (char &c : capitals)
-        if (c >= 'a' && c <= 'z')
-            c = static_cast<char>(c - 'a' + 'A');
-    return capitals;
-}
 
 std::string_view trimmed(std::string_view text)
 {
@@ -100,7 +80,7 @@ void IesFileReading::readHeader()
         m_place += line.size() + lineEndLength(rest.substr(line.size()));
         const std::string_view said = trimmed(line);
         const std::string_view behindTilt = trimmed(said.substr(std::min<std::size_t>(4, said.size())));
-        if (behindTilt.starts_with('=') && inCapitals(said.substr(0, 4)) == "TILT")
+        if (behindTilt.starts_with('=') && upperCase(said.substr(0, 4)) == "TILT")
             return readTiltLine(trimmed(behindTilt.substr(1)), begin);
         if (!m_hasVersion && !said.empty())
             readVersion(said, begin);
@@ -110,21 +90,20 @@ void IesFileReading::readHeader()
            "the file ends without a line that begins with TILT=; it is no IES file, or its end is missing.");
 }
 
+/// A line that names no version is the first one of a file of 1986.
 void IesFileReading::readVersion(std::string_view line, std::size_t place)
 {
     m_hasVersion = true;
-    const std::string word = inCapitals(line.substr(0, line.find_first_of(" \t")));
-    const auto row = std::find_if(std::begin(kVersionRows), std::end(kVersionRows),
-                                  [&word](const VersionRow &r) { return r.word == word; });
-    if (row != std::end(kVersionRows))
-        m_content.year = row->year;
+    const std::string word = upperCase(line.substr(0, line.find_first_of(" \t")));
+    if (const int year = formatYear(line); year > 0)
+        m_content.year = year;
     else if (word.starts_with("IES:LM-63-") || word.starts_with("IESNA:LM-63-"))
         refuse(place, shownWord(word) + " is a version that is not known here.");
 }
 
 void IesFileReading::readTiltLine(std::string_view what, std::size_t place)
 {
-    const std::string word = inCapitals(what);
+    const std::string word = upperCase(what);
     m_content.record.TiltIncl = word == "INCLUDE";
     if (what.empty())
         refuse(place, "NONE, INCLUDE or the name of a file belongs behind TILT=.");

@@ -5,16 +5,12 @@
 #include <cmath>
 #include <limits>
 
+#include "core/Ascii.h"
 #include "core/Blanks.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {
 namespace {
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 std::size_t digitsAt(std::string_view text, std::size_t place)
 {
@@ -116,12 +112,16 @@ double toDouble(std::string_view text)
     return leadingNumber(text);
 }
 
+bool fitsSingle(double value)
+{
+    return std::isfinite(static_cast<float>(value));
+}
+
 float toSingle(double value)
 {
-    const auto single = static_cast<float>(value);
-    if (!std::isfinite(single))
+    if (!fitsSingle(value))
         throw overflow();
-    return single;
+    return static_cast<float>(value);
 }
 
 float toSingle(std::string_view text)

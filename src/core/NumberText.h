@@ -33,6 +33,9 @@ double leadingNumber(std::string_view text);
 /// The value of a numeric text; error 13 when it is not numeric.
 double toDouble(std::string_view text);
 
+/// Whether the nearest single is a number.
+bool fitsSingle(double value);
+
 /// The value narrowed to the nearest single; error 6 beyond the single range, 13 when the text is not numeric.
 float toSingle(std::string_view text);
 float toSingle(double value);

@@ -48,7 +48,6 @@ std::size_t characterLength(std::string_view bytes)
     const std::size_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
     if (first < 0xC2 || first > 0xF4 || bytes.size() < length)
         return 0;
-    const auto isContinuation = [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; };
     if (!std::all_of(bytes.begin() + 1, bytes.begin() + static_cast<std::ptrdiff_t>(length), isContinuation))
         return 0;
     const unsigned second = byteAt(bytes, 1);

@@ -11,14 +11,16 @@ namespace penwright {
 void appendHeldNumber(std::string &to, float value);
 void appendHeldNumber(std::string &to, double value);
 
-/// The number of a text that appendHeldNumber makes; nothing for any other text, be it a number of another kind.
+/// The number that a text is, with a point and without "+", blanks or signs between thousands: what appendHeldNumber
+/// makes, and "1.50" or ".5" as well. Nothing for any other text and for a number that the type does not hold.
 template <typename Number>
 std::optional<Number> heldNumber(std::string_view text);
 
 /// Appends a text so that no tab and no line end stands in it.
 void appendHeldText(std::string &to, std::string_view text);
 
-/// What appendHeldText was given; nothing for a text that it does not make.
+/// What appendHeldText was given; nothing for a text with a backslash in it that none of its marks is behind. Tabs and
+/// line ends that stand there all the same are kept.
 std::optional<std::string> heldText(std::string_view text);
 
 /// The memory that a text has taken beside itself, in bytes.

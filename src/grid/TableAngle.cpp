@@ -3,16 +3,12 @@
 #include <algorithm>
 #include <string>
 
+#include "core/Ascii.h"
 #include "grid/TableLines.h"
 #include "grid/TableNumber.h"
 
 namespace penwright {
 namespace {
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 /// Small letters of ASCII, without blanks, brackets and what else stands between words and numbers.
 std::string lettersOf(std::string_view text)
@@ -21,7 +17,7 @@ std::string lettersOf(std::string_view text)
     std::string letters;
     for (const char c : text)
         if (kBetween.find(c) == std::string_view::npos)
-            letters += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+            letters += lowerCase(c);
     return letters;
 }
 
@@ -93,7 +89,7 @@ constexpr WordRow kWords[]{
 /// Signs and words for degrees behind a number, or behind the name of an angle.
 constexpr std::string_view kDegrees[]{"\xC2\xB0", "\xC2\xBA", "\xCB\x9A", "degrees", "degree", "deg", "grad"};
 
-/// Takes signs for degrees, and brackets, from the end of a text; whether there was one.
+/// Takes a sign or a word for degrees from the end of letters, unless they are nothing else; whether there was one.
 bool takeDegrees(std::string &letters)
 {
     for (const std::string_view mark : kDegrees)

@@ -12,9 +12,6 @@
 namespace penwright {
 namespace {
 
-/// How far above the first line of numbers the line of angles stands at most, with lines of units between them.
-constexpr std::size_t kLinesAbove = 3;
-
 /// The angles of a row or a column, and what words say of them.
 struct Axis {
     std::vector<double> degrees;
@@ -67,12 +64,29 @@ AngleWord cornerWord(std::string_view corner)
     return angleWord(corner.substr(0, corner.find_first_of("\\/|")));
 }
 
+/// What a line of angles stands beside: nothing, so that it is over values alone, or a column of angles.
+enum class Beside { Nothing, Column };
+
+/// What makes a line of angles of a line of numbers: that they look like angles, or a word, a sign or an open corner
+/// too.
+enum class Proof { Look, Any };
+
+/// A line of angles over the values.
+struct AngleRow {
+    std::size_t line = 0;         ///< its place
+    std::size_t firstValues = 0;  ///< place of the first line of values
+    Beside beside = Beside::Nothing;
+    Axis axis;
+    AngleWord corner = AngleWord::None;
+    std::vector<std::size_t> columns;  ///< cells that hold values
+};
+
 /// The table of the sample as it is found out.
 class TableAxes {
 public:
-    TableAxes(const TableSample &sample, TableReading &reading)
-        : m_sample(sample), m_reading(reading), m_firstRow(sample.first)
+    TableAxes(const TableSample &sample, TableReading &reading) : m_sample(sample), m_reading(reading)
     {
+        m_row.firstValues = sample.first;
     }
 
     void find();
@@ -81,129 +95,128 @@ private:
     using Cells = std::vector<std::string_view>;
 
     const Cells &cellsAt(std::size_t line) const { return m_sample.lines[line].cells; }
-    void findRow();
-    bool isRowAbove(std::size_t line);
-    bool isRowOfNumbers();
-    bool isRow(const Cells &cells, bool hasColumn, bool needsLook);
-    void readColumn();
+    Axis columnFrom(std::size_t line) const;
+    std::optional<AngleRow> rowFound() const;
+    std::optional<AngleRow> rowOfNumbers() const;
+    std::optional<AngleRow> rowAt(std::size_t line, Beside beside, Proof proof) const;
     bool isVerticalDown() const;
     bool isConstantDown() const;
     bool isConstantAcross() const;
 
     const TableSample &m_sample;
     TableReading &m_reading;
-    std::size_t m_firstRow;       ///< place of the first line of values
-    std::size_t m_angleLine = 0;  ///< place of the line of angles
-    Axis m_row;
+    AngleRow m_row;  ///< without a line of angles, where the values stand
     Axis m_column;
-    AngleWord m_corner = AngleWord::None;
-    std::vector<std::size_t> m_columns;  ///< cells that hold values
 };
 
 void TableAxes::find()
 {
-    readColumn();
+    m_column = columnFrom(m_sample.first);
     m_reading.hasAngleColumn = m_sample.width > 1 && (m_column.isMarked || looksLikeAngles(m_column.degrees));
-    findRow();
-    if (!m_reading.hasAngleRow)
+    if (std::optional<AngleRow> row = rowFound()) {
+        m_row = *std::move(row);
+        m_reading.hasAngleRow = true;
+        m_reading.hasAngleColumn = m_row.beside == Beside::Column;
+        m_column = columnFrom(m_row.firstValues);
+    } else {
         for (std::size_t i = m_reading.hasAngleColumn ? 1 : 0; i < m_sample.width; ++i)
-            m_columns.push_back(i);
-    readColumn();
-    const std::size_t first = m_reading.hasAngleRow ? m_angleLine : m_firstRow;
+            m_row.columns.push_back(i);
+    }
+    const std::size_t first = m_reading.hasAngleRow ? m_row.line : m_row.firstValues;
     m_reading.linesToSkip = static_cast<int>(m_sample.lines[first].number) - 1;
     m_reading.verticalDown = isVerticalDown();
 }
 
-/// The angles of the first column from the first line of values on.
-void TableAxes::readColumn()
+/// The angles of the first column from a line on.
+Axis TableAxes::columnFrom(std::size_t line) const
 {
-    m_column = Axis();
-    for (std::size_t line = m_firstRow; line < m_sample.lines.size(); ++line)
+    Axis column;
+    for (; line < m_sample.lines.size(); ++line)
         if (cellsAt(line).size() == m_sample.width)
             if (const std::optional<TableAngle> angle = tableAngle(cellsAt(line).front(), m_reading))
-                add(m_column, *angle);
+                add(column, *angle);
+    return column;
 }
 
-void TableAxes::findRow()
+std::optional<AngleRow> TableAxes::rowFound() const
 {
     const std::size_t first = m_sample.first;
-    for (std::size_t up = 1; up <= std::min(first, kLinesAbove) && !m_reading.hasAngleRow; ++up)
-        m_reading.hasAngleRow = isRowAbove(first - up);
-    if (!m_reading.hasAngleRow)
-        m_reading.hasAngleRow = isRowOfNumbers();
+    for (std::size_t up = 1; up <= std::min(first, kLinesAbove); ++up)
+        for (const Beside beside : {Beside::Nothing, Beside::Column})
+            if (std::optional<AngleRow> row = rowAt(first - up, beside, Proof::Any))
+                return row;
+    return rowOfNumbers();
 }
 
-bool TableAxes::isRowAbove(std::size_t line)
+/// The first line of numbers where it holds angles: with nothing over the column, or where both look like angles. It is
+/// the table itself when no other line of numbers stands behind it.
+std::optional<AngleRow> TableAxes::rowOfNumbers() const
+{
+    const std::size_t first = m_sample.first;
+    const auto behind = m_sample.lines.begin() + static_cast<std::ptrdiff_t>(first) + 1;
+    const auto isOfTheTable = [this](const SampleLine &line) {
+        return line.isFull && line.cells.size() == m_sample.width;
+    };
+    if (std::none_of(behind, m_sample.lines.end(), isOfTheTable))
+        return std::nullopt;
+    const Cells &cells = cellsAt(first);
+    if (cells.front().empty())
+        return rowAt(first, Beside::Column, Proof::Any);
+    const Axis column = columnFrom(first + 1);
+    if (looksLikeAngles(column.degrees) || column.isMarked)
+        return rowAt(first, Beside::Column, Proof::Look);
+    return cells.size() > 2 ? rowAt(first, Beside::Nothing, Proof::Look) : std::nullopt;
+}
+
+/// The line as one of angles, nothing where it is none.
+std::optional<AngleRow> TableAxes::rowAt(std::size_t line, Beside beside, Proof proof) const
 {
     const Cells &cells = cellsAt(line);
-    m_angleLine = line;
-    return isRow(cells, false, false) || isRow(cells, true, false);
-}
-
-/// Whether the first line of numbers holds angles: with nothing over the column, or where both look like angles.
-bool TableAxes::isRowOfNumbers()
-{
-    const Cells &cells = cellsAt(m_sample.first);
-    m_angleLine = m_sample.first;
-    m_firstRow = m_sample.first + 1;
-    readColumn();
-    const bool isOverColumn = cells.front().empty() || looksLikeAngles(m_column.degrees) || m_column.isMarked;
-    if (isOverColumn ? isRow(cells, true, !cells.front().empty()) : cells.size() > 2 && isRow(cells, false, true))
-        return true;
-    m_firstRow = m_sample.first;
-    return false;
-}
-
-/// Whether the cells are a line of angles, beside a column of angles or not; notes what they say.
-bool TableAxes::isRow(const Cells &cells, bool hasColumn, bool needsLook)
-{
+    const bool hasColumn = beside == Beside::Column;
+    if (!hasColumn && (cells.size() != m_sample.width || m_reading.hasAngleColumn))
+        return std::nullopt;
     TableReading reading = m_reading;
     reading.hasAngleColumn = hasColumn;
     const TableHeading heading = tableHeading(cells, m_sample.width, reading);
-    Axis row;
+    Axis axis;
     for (const TableAngle &angle : heading.angles)
-        add(row, angle);
+        add(axis, angle);
     const std::size_t values = m_sample.width - (hasColumn ? 1 : 0);
     const bool hasCorner = heading.begin > 0;
     const AngleWord corner = hasCorner ? cornerWord(cells.front()) : AngleWord::None;
-    const bool isNamed = row.isMarked || corner != AngleWord::None || (hasCorner && cells.front().empty());
+    const bool isNamed = axis.isMarked || corner != AngleWord::None || (hasCorner && cells.front().empty());
+    const bool hasLook = looksLikeAngles(axis.degrees);
     // Without a word, a sign or an open corner numbers must look like angles: others may stand in a title. With one, a
     // slip among them is for the user to be told of.
-    const bool isPlain = !heading.wrong && isMonotone(row.degrees) && (isNamed || looksLikeAngles(row.degrees));
-    const bool hasSlip =
-        hasColumn && isNamed && row.degrees.size() > 1 && 2 * row.degrees.size() >= values && areInRange(row.degrees);
-    if (values == 0 || !(isPlain || hasSlip) || (needsLook && !looksLikeAngles(row.degrees)))
-        return false;
-    if (!hasColumn && (cells.size() != m_sample.width || m_reading.hasAngleColumn))
-        return false;
-    m_row = row;
-    m_columns = heading.columns;
-    m_corner = corner;
-    m_reading.hasAngleColumn = hasColumn;
-    return true;
+    const bool isPlain = !heading.wrong && isMonotone(axis.degrees) && (isNamed || hasLook);
+    const bool hasSlip = hasColumn && isNamed && axis.degrees.size() > 1 && 2 * axis.degrees.size() >= values &&
+                         areInRange(axis.degrees);
+    if (values == 0 || !(isPlain || hasSlip) || (proof == Proof::Look && !hasLook))
+        return std::nullopt;
+    return AngleRow{line, std::max(line + 1, m_sample.first), beside, axis, corner, heading.columns};
 }
 
 bool TableAxes::isVerticalDown() const
 {
-    if (m_row.word != AngleWord::None || m_column.word != AngleWord::None)
-        return m_row.word == AngleWord::Horizontal || m_column.word == AngleWord::Vertical;
+    if (m_row.axis.word != AngleWord::None || m_column.word != AngleWord::None)
+        return m_row.axis.word == AngleWord::Horizontal || m_column.word == AngleWord::Vertical;
     // A word between the angles and the values names the column, whatever stands in the corner.
-    for (std::size_t line = m_angleLine + 1; m_reading.hasAngleRow && line < m_firstRow; ++line)
+    for (std::size_t line = m_row.line + 1; m_reading.hasAngleRow && line < m_row.firstValues; ++line)
         if (const AngleWord word = cornerWord(cellsAt(line).front()); word == AngleWord::Vertical)
             return true;
     const auto isRound = [](const Axis &axis) {
         return std::any_of(axis.degrees.begin(), axis.degrees.end(), [](double angle) { return angle > 180; });
     };
-    if (m_reading.hasAngleRow && isRound(m_row))
+    if (m_reading.hasAngleRow && isRound(m_row.axis))
         return true;
     if (m_reading.hasAngleColumn && isRound(m_column))
         return false;
     if (const bool down = isConstantDown(); m_reading.hasAngleRow && down != isConstantAcross())
         return down;
-    if (m_corner == AngleWord::Vertical || m_corner == AngleWord::Horizontal)
-        return m_corner == AngleWord::Vertical;
+    if (m_row.corner == AngleWord::Vertical || m_row.corner == AngleWord::Horizontal)
+        return m_row.corner == AngleWord::Vertical;
     if (m_reading.hasAngleRow && m_reading.hasAngleColumn)
-        return m_column.degrees.size() >= m_row.degrees.size();
+        return m_column.degrees.size() >= m_row.axis.degrees.size();
     return !m_reading.hasAngleRow;
 }
 
@@ -219,13 +232,13 @@ bool areEqual(const std::vector<double> &values)
 /// vertical.
 bool TableAxes::isConstantDown() const
 {
-    for (std::size_t line = m_firstRow; line < m_sample.lines.size() && m_reading.hasAngleColumn; ++line) {
+    for (std::size_t line = m_row.firstValues; line < m_sample.lines.size() && m_reading.hasAngleColumn; ++line) {
         const Cells &cells = cellsAt(line);
         const std::optional<TableAngle> angle = tableAngle(cells.front(), m_reading);
         if (cells.size() != m_sample.width || !angle || (angle->degrees != 0 && angle->degrees != 180))
             continue;
         std::vector<double> values;
-        for (const std::size_t column : m_columns)
+        for (const std::size_t column : m_row.columns)
             values.push_back(tableNumber(cells[column], m_reading).value_or(0));
         if (areEqual(values))
             return true;
@@ -236,13 +249,13 @@ bool TableAxes::isConstantDown() const
 /// The same of the columns.
 bool TableAxes::isConstantAcross() const
 {
-    for (std::size_t i = 0; i < m_row.degrees.size(); ++i) {
-        if (m_row.degrees[i] != 0 && m_row.degrees[i] != 180)
+    for (std::size_t i = 0; i < m_row.axis.degrees.size(); ++i) {
+        if (m_row.axis.degrees[i] != 0 && m_row.axis.degrees[i] != 180)
             continue;
         std::vector<double> values;
-        for (std::size_t line = m_firstRow; line < m_sample.lines.size(); ++line)
+        for (std::size_t line = m_row.firstValues; line < m_sample.lines.size(); ++line)
             if (cellsAt(line).size() == m_sample.width)
-                values.push_back(tableNumber(cellsAt(line)[m_columns[i]], m_reading).value_or(0));
+                values.push_back(tableNumber(cellsAt(line)[m_row.columns[i]], m_reading).value_or(0));
         if (areEqual(values))
             return true;
     }

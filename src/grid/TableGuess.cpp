@@ -1,5 +1,6 @@
 #include <string>
 
+#include "core/Ascii.h"
 #include "grid/TableAxes.h"
 #include "grid/TableLines.h"
 #include "grid/TableSample.h"
@@ -13,18 +14,29 @@ namespace {
 std::string squeezed(std::string_view text)
 {
     std::string letters;
-    for (const char c : text)
-        if (c >= 'A' && c <= 'Z')
-            letters += static_cast<char>(c - 'A' + 'a');
-        else if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '/')
+    for (const char c : lowerCase(text))
+        if ((c >= 'a' && c <= 'z') || isDigit(c) || c == '/')
             letters += c;
     return letters;
 }
 
+/// Whether a unit per kilolumen stands there. "10 W / 1000 lm" is no such unit, but says what the lamps give.
 bool namesKilolumen(std::string_view text)
 {
-    static constexpr std::string_view kWords[]{"/klm",    "cdklm",      "perklm",       "proklm",    "kilolumen",
-                                               "/1000lm", "/1000lumen", "per1000lumen", "per1000lm", "pro1000lm"};
+    static constexpr std::string_view kWords[]{"/klm",
+                                               "cdklm",
+                                               "perklm",
+                                               "proklm",
+                                               "kilolumen",
+                                               "cd/1000lm",
+                                               "cd/1000lumen",
+                                               "candela/1000lm",
+                                               "candela/1000lumen",
+                                               "candelas/1000lm",
+                                               "candelas/1000lumen",
+                                               "per1000lumen",
+                                               "per1000lm",
+                                               "pro1000lm"};
     const std::string letters = squeezed(text);
     for (const std::string_view word : kWords)
         if (letters.find(word) != std::string::npos)
@@ -40,9 +52,9 @@ TableReading guessTable(std::string_view text)
     const std::string_view beginning = sampleText(text);
     const TableSample sample = tableSample(beginning);
     reading.separator = sample.separator;
-    reading.isPerKilolumen = namesKilolumen(beginning);
     if (sample.width == 0)
         return reading;
+    reading.isPerKilolumen = namesKilolumen(beginning);
     findSigns(sample, reading);
     findAxes(sample, reading);
     return reading;

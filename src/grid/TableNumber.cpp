@@ -6,16 +6,12 @@
 #include <cmath>
 #include <string>
 
+#include "core/Ascii.h"
 #include "core/NumberText.h"
 #include "grid/TableLines.h"
 
 namespace penwright {
 namespace {
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 struct SignRow {
     char sign;
@@ -114,11 +110,6 @@ std::optional<double> plainValue(std::string_view cell)
     return read.ec == std::errc() && read.ptr == end ? std::optional(value) : std::nullopt;
 }
 
-bool isInRange(double value)
-{
-    return std::isfinite(static_cast<float>(value));
-}
-
 constexpr std::array<TableReading, 8> kAllSigns = [] {
     std::array<TableReading, 8> all;
     std::size_t at = 0;
@@ -142,7 +133,7 @@ std::optional<double> tableNumber(std::string_view cell, const TableReading &rea
         if (isNumeric(plain))
             value = leadingNumber(plain);
     }
-    return value && isInRange(*value) ? value : std::nullopt;
+    return value && fitsSingle(*value) ? value : std::nullopt;
 }
 
 bool isLikeNumber(std::string_view cell)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,6 +8,9 @@
 #include "grid/TableReading.h"
 
 namespace penwright {
+
+/// How far above the first line of numbers the line of angles stands at most, with lines of units between them.
+inline constexpr std::size_t kLinesAbove = 3;
 
 /// One of the first lines of a text, cut into cells.
 struct SampleLine {

@@ -5,18 +5,12 @@
 #include <string_view>
 #include <vector>
 
+#include "core/Ascii.h"
 #include "grid/TableAngle.h"
 #include "grid/TableNumber.h"
 
 namespace penwright {
 namespace {
-
-constexpr std::size_t kLinesAbove = 3;
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
 
 /// What the cells of a table say of one sign, a point or a comma.
 struct SignUse {

@@ -167,9 +167,9 @@ void TableTextReading::readRow(const TableLine &line)
             return refuseCell(line, column);
         m_values.push_back(*value);
     }
+    if (m_columns.empty() || m_rows == kMostAngles || m_columns.size() > kMostAngles)
+        return refuse(line.number, 0, "a table has 1 to 32767 lines and columns of values.");
     ++m_rows;
-    if (m_columns.empty() || m_rows > kMostAngles || m_columns.size() > kMostAngles)
-        refuse(line.number, 0, "a table has 1 to 32767 lines and columns of values.");
 }
 
 void TableTextReading::readAngle(const TableLine &line)

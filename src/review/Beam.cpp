@@ -7,7 +7,6 @@
 #include "plot/PlotRuns.h"
 #include "plot/PlotSymmetry.h"
 #include "review/Profile.h"
-#include "review/TableFault.h"
 
 namespace penwright {
 namespace {
@@ -110,13 +109,12 @@ BeamWidth horizontalPlane(const PhotometricRecord &record)
 
 }  // namespace
 
-std::vector<BeamWidth> beamWidths(const PhotometricRecord &record, const std::string &fault)
+std::vector<BeamWidth> beamWidths(const PhotometricRecord &record, const std::string &angleFault)
 {
     constexpr std::string_view kFirstPlane = "in plane 0-180";
     constexpr std::string_view kSecondPlane = "in plane 90-270";
-    const std::string reason = fault.empty() ? fallingAngles(record) : fault;
-    if (!reason.empty())
-        return {unknownWidth(kFirstPlane, reason), unknownWidth(kSecondPlane, reason)};
+    if (!angleFault.empty())
+        return {unknownWidth(kFirstPlane, angleFault), unknownWidth(kSecondPlane, angleFault)};
     if (record.PhotometricType == kTypeC)
         return {typeCPlane(record, kFirstPlane, 0), typeCPlane(record, kSecondPlane, 90)};
     return {verticalPlane(record), horizontalPlane(record)};

@@ -20,8 +20,8 @@ struct BeamWidth {
 
 /// The two main planes: of type C those of 0 and 90 with what lies opposite of each, of any other type the vertical
 /// plane through horizontal angle 0 and the horizontal one through vertical angle 0, a list from 0 mirrored. Between
-/// neighbours values go in proportion to the angle. `fault` is the sentence why the table cannot be read, "" when it
-/// can.
-std::vector<BeamWidth> beamWidths(const PhotometricRecord &record, const std::string &fault);
+/// neighbours values go in proportion to the angle. `angleFault` is the sentence why nothing lies between the angles,
+/// "" when values do.
+std::vector<BeamWidth> beamWidths(const PhotometricRecord &record, const std::string &angleFault);
 
 }  // namespace penwright

@@ -5,7 +5,6 @@
 #include "core/NumberText.h"
 #include "plot/PlotSymmetry.h"
 #include "review/ShownNumber.h"
-#include "review/TableFault.h"
 #include "review/Units.h"
 
 namespace penwright {
@@ -111,12 +110,11 @@ std::string typeBSymmetry(bool isLeftRight, bool isUpDown)
     return isUpDown ? "up as down" : "none";
 }
 
-Figure symmetryFigure(const PhotometricRecord &record, const std::string &fault)
+Figure symmetryFigure(const PhotometricRecord &record, const std::string &angleFault)
 {
     constexpr const char *kName = "Symmetry";
-    const std::string reason = fault.empty() ? fallingAngles(record) : fault;
-    if (!reason.empty())
-        return missing(kName, reason);
+    if (!angleFault.empty())
+        return missing(kName, angleFault);
     const float first = record.HorAngles(1);
     const std::string words = record.PhotometricType == kTypeC
                                   ? typeCSymmetry(first, record.HorAngles(record.NumHorzAngles))
@@ -155,7 +153,7 @@ std::vector<Figure> figuresOf(const PhotometricRecord &record, const Photometry 
     addLargest(figures, record, photometry);
     addBeams(figures, photometry);
     addShares(figures, photometry.lumens);
-    figures.push_back(symmetryFigure(record, photometry.fault));
+    figures.push_back(symmetryFigure(record, photometry.angleFault));
     addDimensions(figures, record);
     return figures;
 }

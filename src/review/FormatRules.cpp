@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "core/Blanks.h"
+#include "core/FormatYear.h"
 
 namespace penwright {
 namespace {
@@ -24,24 +25,26 @@ constexpr Names kUnknownIn1991[]{"[TESTLAB]",   "[TESTDATE]", "[ISSUEDATE]", "[L
 constexpr int kOlderLine = 80;
 constexpr int kLineOf2002 = 253;
 
+constexpr int kOldest = 1986;
+constexpr int kLatest = 2019;
+
 constexpr FormatRules kFormats[]{
-    {"IESNA:LM-63-2002", "2002", kLineOf2002, kShapesOf2002, kRequiredIn2002, kUnknownIn2002},
-    {"IESNA:LM-63-1995", "1995", kOlderLine, kOlderShapes, {}, kUnknownIn1995},
-    {"IESNA91", "1991", kOlderLine, kOlderShapes, kRequiredIn1991, kUnknownIn1991},
+    {kOldest, kOlderLine, kOlderShapes, {}, {}},
+    {1991, kOlderLine, kOlderShapes, kRequiredIn1991, kUnknownIn1991},
+    {1995, kOlderLine, kOlderShapes, {}, kUnknownIn1995},
+    {2002, kLineOf2002, kShapesOf2002, kRequiredIn2002, kUnknownIn2002},
+    {kLatest, kLineOf2002, kShapesOf2002, {}, {}},
 };
-constexpr FormatRules kLaterFormat{"", "", kLineOf2002, kShapesOf2002, {}, {}};
-constexpr FormatRules kOldestFormat{"", "", kOlderLine, kOlderShapes, {}, {}};
 
 }  // namespace
 
 const FormatRules &formatRules(std::string_view firstLine)
 {
-    const std::string_view line = withoutOuterBlanks(firstLine);
-    const auto format = std::find_if(std::begin(kFormats), std::end(kFormats),
-                                     [line](const FormatRules &rules) { return rules.versionLine == line; });
-    if (format != std::end(kFormats))
-        return *format;
-    return line.starts_with("IES") ? kLaterFormat : kOldestFormat;
+    const int named = formatYear(firstLine);
+    const int other = withoutOuterBlanks(firstLine).starts_with("IES") ? kLatest : kOldest;
+    const int year = named > 0 ? named : other;
+    return *std::find_if(std::begin(kFormats), std::end(kFormats),
+                         [year](const FormatRules &rules) { return rules.year == year; });
 }
 
 }  // namespace penwright

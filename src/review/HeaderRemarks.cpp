@@ -20,38 +20,43 @@ bool isAscii(std::string_view line)
     return std::all_of(line.begin(), line.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
 }
 
-/// What is wrong with a keyword's line, "" when it is there and says something.
-std::string lackOf(const PhotometricRecord &record, std::string_view keyword, int &row)
+struct KeywordLine {
+    int row = 0;  ///< of the first line that says something, or the last one that does not; 0 without a line
+    bool isFilled = false;
+};
+
+KeywordLine lineOf(const PhotometricRecord &record, std::string_view keyword)
 {
-    row = 0;
-    for (int i = 1; i <= record.Keywords.size(); ++i)
+    KeywordLine line;
+    for (int i = 1; i <= record.Keywords.size() && !line.isFilled; ++i)
         if (keyOf(record.Keywords(i)) == keyword) {
-            row = i;
-            if (!withoutOuterBlanks(std::string_view(record.Keywords(i)).substr(keyword.size())).empty())
-                return "";
+            const auto value = std::string_view(record.Keywords(i)).substr(keyword.size());
+            line = {i, !withoutOuterBlanks(value).empty()};
         }
-    return row == 0 ? " is missing; the " : " is empty; the ";
+    return line;
 }
 
 }  // namespace
 
 void checkKeywords(const Reviewed &file, RuleRemarks &remarks)
 {
+    const std::string year = std::to_string(file.format.year);
     for (const std::string_view keyword : file.format.required) {
-        int row = 0;
-        const std::string lack = lackOf(file.record, keyword, row);
-        if (!lack.empty())
-            remarks.add({RecordField::Keywords, row}, [&] {
-                return std::string(keyword) + lack + std::string(file.format.year) + " format requires it.";
-            });
+        const std::string name(keyword);
+        const KeywordLine line = lineOf(file.record, keyword);
+        if (line.row == 0)
+            remarks.add({RecordField::Keywords},
+                        [&] { return name + " is missing; the " + year + " format requires it."; });
+        else if (!line.isFilled)
+            remarks.add({RecordField::Keywords, line.row},
+                        [&] { return name + " is empty; the " + year + " format requires it."; });
     }
     const auto &unknown = file.format.unknown;
     for (int row = 1; row <= file.record.Keywords.size(); ++row) {
         const std::string_view key = keyOf(file.record.Keywords(row));
         if (std::find(unknown.begin(), unknown.end(), key) != unknown.end())
-            remarks.add({RecordField::Keywords, row}, [&] {
-                return std::string(key) + " is unknown to the " + std::string(file.format.year) + " format.";
-            });
+            remarks.add({RecordField::Keywords, row},
+                        [&] { return std::string(key) + " is unknown to the " + year + " format."; });
     }
 }
 

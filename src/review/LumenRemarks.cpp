@@ -1,3 +1,4 @@
+#include "core/NumberText.h"
 #include "review/RemarkRules.h"
 #include "review/ShownNumber.h"
 
@@ -39,10 +40,12 @@ void checkPerKilolumen(const Reviewed &file, RuleRemarks &remarks)
     if (!lumens || file.record.CandelaMultiplier != 1 || !(lumens->table > 0))
         return;
     const bool isNearAThousand = lumens->table <= 1010 && lumens->lamps > 1500;
-    if (isNearAThousand || lumens->table < 0.3 * lumens->lamps)
+    // The multiplier as it is typed, for the user types it; for lamps of a kilolumen it is the one there is.
+    const std::string proposed = generalText(static_cast<float>(lumens->lamps / 1000));
+    const bool isAnother = proposed != generalText(file.record.CandelaMultiplier);
+    if (isAnother && (isNearAThousand || lumens->table < 0.3 * lumens->lamps))
         remarks.add({RecordField::CandelaMultiplier}, [&] {
-            return "This looks like candela per kilolumen: should the multiplier be " +
-                   roundedText(lumens->lamps / 1000) + "?";
+            return "This looks like candela per kilolumen: should the multiplier be " + proposed + "?";
         });
 }
 

@@ -6,8 +6,6 @@
 #include <numbers>
 #include <vector>
 
-#include "review/TableFault.h"
-
 namespace penwright {
 namespace {
 
@@ -68,11 +66,9 @@ std::string typeBFault(const PhotometricRecord &record)
     return "";
 }
 
-/// Why the table gives no lumens although it can be read, "" when it does.
+/// Why a table whose angles rise gives no lumens, "" when it does.
 std::string lumensFault(const PhotometricRecord &record)
 {
-    if (std::string falling = fallingAngles(record); !falling.empty())
-        return falling;
     if (firstOf(record.VertAngles) == lastOf(record.VertAngles, record.NumVertAngles))
         return "The vertical angles span nothing.";
     if (record.PhotometricType == kTypeC)
@@ -140,9 +136,9 @@ double candelaFactor(const PhotometricRecord &record)
     return double{record.CandelaMultiplier} * double{record.BallastFactor};
 }
 
-TableLumens tableLumens(const PhotometricRecord &record, const std::string &fault)
+TableLumens tableLumens(const PhotometricRecord &record, const std::string &angleFault)
 {
-    if (const std::string reason = fault.empty() ? lumensFault(record) : fault; !reason.empty())
+    if (const std::string reason = angleFault.empty() ? lumensFault(record) : angleFault; !reason.empty())
         return {Measure::unknown(reason), Measure::unknown(reason)};
     const Sums sums = sumsOf(record);
     if (record.PhotometricType == kTypeB)

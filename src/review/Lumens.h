@@ -16,9 +16,9 @@ struct TableLumens {
     Measure below;  ///< type C: what goes below the horizontal
 };
 
-/// Integrates the table; what the lists do not hold gives no light. `fault` is the sentence why the table cannot be
-/// read, "" when it can. Unknown too where angles fall, or where the lists do not say what the directions between them
-/// hold: horizontal angles of type C that do not begin at 0 or span none of 90, 180 and 360, a single one apart.
-TableLumens tableLumens(const PhotometricRecord &record, const std::string &fault);
+/// Integrates the table; what the lists do not hold gives no light. `angleFault` is the sentence why nothing lies
+/// between the angles, "" when values do. Unknown too where the lists do not say what the directions between them hold:
+/// horizontal angles of type C that do not begin at 0 or span none of 90, 180 and 360, a single one apart.
+TableLumens tableLumens(const PhotometricRecord &record, const std::string &angleFault);
 
 }  // namespace penwright

@@ -22,12 +22,14 @@ std::optional<LargestValue> largestOf(const PhotometricRecord &record)
 Photometry photometryOf(const PhotometricRecord &record)
 {
     const std::string fault = tableFault(record);
+    const std::string angleFault = fault.empty() ? fallingAngles(record) : fault;
     return {.fault = fault,
+            .angleFault = angleFault,
             .isAbsolute = record.LumensPerLamp == -1,
             .lampLumens = double{record.LumensPerLamp} * record.NumLamps,
-            .lumens = tableLumens(record, fault),
+            .lumens = tableLumens(record, angleFault),
             .largest = fault.empty() ? largestOf(record) : std::nullopt,
-            .planes = beamWidths(record, fault)};
+            .planes = beamWidths(record, angleFault)};
 }
 
 }  // namespace penwright

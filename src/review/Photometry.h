@@ -22,6 +22,7 @@ struct LargestValue {
 /// The numbers of a record that figures and remarks are made of.
 struct Photometry {
     std::string fault;                    ///< why the table cannot be read, "" when it can
+    std::string angleFault;               ///< why nothing lies between its angles: the fault, or a list that falls
     bool isAbsolute = false;              ///< the lumens of a lamp are -1
     double lampLumens = 0;                ///< of all lamps together; of a record that is absolute without meaning
     TableLumens lumens;                   ///< of the luminaire

@@ -54,6 +54,10 @@ public:
             xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, m_top, first);  // 0 is the current time
         else if (word == "leavefocus")
             xcb_set_input_focus(m_connection, XCB_INPUT_FOCUS_PARENT, XCB_INPUT_FOCUS_POINTER_ROOT, XCB_CURRENT_TIME);
+        else if (word == "usertime")
+            setUserTime(m_top, first);
+        else if (word == "usertimeapart")
+            setUserTimeApart(first);
         else if (word == "destroy")
             xcb_destroy_window(m_connection, m_top);
         sync();
@@ -72,6 +76,31 @@ private:
         xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, id, XCB_ATOM_WM_NAME, XCB_ATOM_STRING, 8,
                             std::strlen(title), title);
         return id;
+    }
+
+    /// Tells when the user pressed something in the window last.
+    void setUserTime(std::uint32_t window, std::uint32_t time)
+    {
+        setNumber(window, "_NET_WM_USER_TIME", XCB_ATOM_CARDINAL, time);
+    }
+
+    /// Tells so on a window that is there for this alone.
+    void setUserTimeApart(std::uint32_t time)
+    {
+        const std::uint32_t keeper = makeWindow(m_top, 0, 0, 1, 1);
+        setUserTime(keeper, time);
+        setNumber(m_top, "_NET_WM_USER_TIME_WINDOW", XCB_ATOM_WINDOW, keeper);
+    }
+
+    void setNumber(std::uint32_t window, const std::string &property, xcb_atom_t type, std::uint32_t number)
+    {
+        const auto asked =
+            xcb_intern_atom(m_connection, 0, static_cast<std::uint16_t>(property.size()), property.c_str());
+        xcb_intern_atom_reply_t *atom = xcb_intern_atom_reply(m_connection, asked, nullptr);
+        if (!atom)
+            std::exit(1);
+        xcb_change_property(m_connection, XCB_PROP_MODE_REPLACE, window, atom->atom, type, 32, 1, &number);
+        std::free(atom);
     }
 
     /// Returns once the server has obeyed.

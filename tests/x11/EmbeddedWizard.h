@@ -18,6 +18,7 @@
 #include "platform/qt/OwnerWindow.h"
 #include "platform/qt/QtDialogs.h"
 #include "platform/x11/X11Embedding.h"
+#include "platform/x11/X11Window.h"
 #include "support/DialogDriver.h"
 #include "support/ForeignLines.h"
 #include "x11/DisplayQuery.h"
@@ -62,20 +63,24 @@ public:
         xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, kMark, XCB_ATOM_STRING, 8, 0, nullptr);
         xcb_flush(connection);
     }
-    bool isReached() const { return m_reached; }
+    bool isReached() const { return m_time != x11::kNoTime; }
+
+    /// When the display obeyed, by its clock.
+    x11::Time time() const { return m_time; }
 
     bool nativeEventFilter(const QByteArray &, void *message, qintptr *) override
     {
         const auto *event = static_cast<const xcb_property_notify_event_t *>(message);
-        if ((event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && event->window == m_window)
-            m_reached = m_reached || event->atom == kMark;
+        const bool isProperty = (event->response_type & 0x7f) == XCB_PROPERTY_NOTIFY && event->window == m_window;
+        if (isProperty && event->atom == kMark && !isReached())
+            m_time = event->time;
         return false;
     }
 
 private:
     static constexpr xcb_atom_t kMark = XCB_ATOM_NOTICE;
     std::uint32_t m_window;
-    bool m_reached = false;
+    x11::Time m_time = x11::kNoTime;
 };
 
 /// A window as large as a page, with two text boxes and a button, to be embedded in a host process.
@@ -156,6 +161,14 @@ protected:
             const EventBarrier barrier(id());
             ASSERT_TRUE(spinUntil([&] { return barrier.isReached(); }));
         }
+    }
+
+    /// The display's clock.
+    x11::Time displayTime()
+    {
+        const EventBarrier barrier(id());
+        EXPECT_TRUE(spinUntil([&] { return barrier.isReached(); }));
+        return barrier.time();
     }
 
     std::uint32_t id() const { return static_cast<std::uint32_t>(window->winId()); }

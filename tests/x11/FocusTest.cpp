@@ -134,5 +134,24 @@ TEST_F(Focus, isTakenAtTheTimeOfThePress)
     EXPECT_EQ(display.focus(), host.topWindow());
 }
 
+/// The host tells when its user pressed something last, as what opened the wizard did.
+class UserTime : public Focus, public testing::WithParamInterface<const char *> {};
+
+INSTANTIATE_TEST_SUITE_P(Places, UserTime, testing::Values("usertime ", "usertimeapart "));
+
+// The display ignores what is asked for with an earlier time than that of the last change of the focus.
+TEST_P(UserTime, isThatAtWhichTheFocusIsTaken)
+{
+    embedAndShow();
+    giveFocusToHost();
+    const x11::Time pressed = displayTime();
+    host.obey(GetParam() + std::to_string(pressed));
+    ASSERT_TRUE(spinUntil([&] { return displayTime() > pressed; }));
+    embedding.takeFocus();
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+    host.obey("takefocus " + std::to_string(pressed));
+    EXPECT_EQ(display.focus(), host.topWindow());
+}
+
 }  // namespace
 }  // namespace penwright::test

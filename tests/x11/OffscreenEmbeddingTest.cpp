@@ -3,9 +3,25 @@
 #include <QWidget>
 
 #include "platform/x11/X11Embedding.h"
+#include "platform/x11/X11Window.h"
 
 namespace penwright::test {
 namespace {
+
+TEST(DisplayTime, laterOfTwoIsFoundInEitherOrder)
+{
+    static constexpr struct {
+        x11::Time one;
+        x11::Time later;
+    } kPairs[]{
+        {5, 7},          {7, 7},           {x11::kNoTime, 7}, {x11::kNoTime, 0xFFFFFFF0}, {x11::kNoTime, x11::kNoTime},
+        {1, 0x7FFFFFFF}, {0xFFFFFFF0, 16},  // when the clock has started anew
+    };
+    for (const auto &[one, later] : kPairs) {
+        EXPECT_EQ(x11::laterOf(one, later), later) << one;
+        EXPECT_EQ(x11::laterOf(later, one), later) << one;
+    }
+}
 
 /// On a display without X11 windows the wizard is a plain window.
 class WithoutX11 : public testing::Test {

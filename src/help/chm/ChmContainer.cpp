@@ -4,7 +4,7 @@
 #include <tuple>
 #include <utility>
 
-#include "help/chm/HelpLinks.h"
+#include "core/Ascii.h"
 #include "help/chm/Limits.h"
 #include "help/chm/MemorySystem.h"
 

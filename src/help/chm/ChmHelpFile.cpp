@@ -8,6 +8,7 @@
 #include <map>
 #include <utility>
 
+#include "core/Ascii.h"
 #include "help/chm/ChmContainer.h"
 #include "help/chm/ChmSystem.h"
 #include "help/chm/ContentsTree.h"

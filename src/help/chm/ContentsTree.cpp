@@ -4,8 +4,8 @@
 #include <optional>
 #include <string_view>
 
+#include "core/Ascii.h"
 #include "help/chm/Entities.h"
-#include "help/chm/HelpLinks.h"
 #include "help/chm/Limits.h"
 
 namespace penwright::chm {

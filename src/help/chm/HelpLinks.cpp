@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "core/Ascii.h"
 #include "help/chm/Limits.h"
 
 namespace penwright::chm {
@@ -52,15 +53,6 @@ bool isAbsolutePath(std::string_view link)
 }
 
 }  // namespace
-
-std::string lowerCase(std::string_view text)
-{
-    std::string result(text);
-    for (char &character : result)
-        if (character >= 'A' && character <= 'Z')
-            character = static_cast<char>(character - 'A' + 'a');
-    return result;
-}
 
 bool isPageName(std::string_view name)
 {

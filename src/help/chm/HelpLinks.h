@@ -8,9 +8,6 @@
 
 namespace penwright::chm {
 
-/// ASCII letters in lower case; all else as it is.
-std::string lowerCase(std::string_view text);
-
 /// Whether an object is a page by its name.
 bool isPageName(std::string_view name);
 

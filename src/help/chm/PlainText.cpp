@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "core/Ascii.h"
 #include "help/chm/Entities.h"
-#include "help/chm/HelpLinks.h"
 
 namespace penwright::chm {
 namespace {

@@ -198,19 +198,17 @@ std::function<std::string()> CandelaTable::held() const
 
 std::optional<GridEdit> CandelaTable::fromHeld(std::string_view text)
 {
-    if (!m_numbers.flags().GridReady)
-        return text.empty() ? std::optional(GridEdit()) : std::nullopt;
     if (text.empty())  // of a table that was not built
         return GridEdit();
-    const auto held = cellsFromHeld(text);
+    const auto held = m_numbers.flags().GridReady ? cellsFromHeld(text) : std::nullopt;
     if (!held)
         return std::nullopt;
-    auto cells = std::optional(CandelaCells());
-    for (int h = 1; h <= std::min(cells->rows(), held->rows()); ++h)
-        for (int v = 1; v <= std::min(cells->columns(), held->columns()); ++v)
-            (*cells)(h, v) = (*held)(h, v);
+    OneBasedTable<CandelaCell> cells = CandelaCells();
+    for (int h = 1; h <= std::min(cells.rows(), held->rows()); ++h)
+        for (int v = 1; v <= std::min(cells.columns(), held->columns()); ++v)
+            cells(h, v) = (*held)(h, v);
     GridEdit edit{.reach = GridReach::Values};
-    edit.content = m_numbers.withFirst(*std::move(cells), CandelaCells().rows() * CandelaCells().columns());
+    edit.content = m_numbers.withFirst(std::move(cells), CandelaCells().rows() * CandelaCells().columns());
     return edit;
 }
 

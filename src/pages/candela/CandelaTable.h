@@ -72,7 +72,8 @@ public:
     /// The rows as lines: blanks are empty, singles and doubles told apart. Nothing before there is a table.
     std::function<std::string()> held() const override;
 
-    /// Only for a table of the size that there is.
+    /// Of a table of another size what fits; the other cells stay as they are, and all of them for "". Nothing for a
+    /// text that is no table, and for any but "" before there is one.
     std::optional<GridEdit> fromHeld(std::string_view text) override;
 
     /// Nothing, which is refused, but for a blank cell, which stays as it is.

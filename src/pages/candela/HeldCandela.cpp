@@ -42,6 +42,9 @@ std::optional<OneBasedTable<CandelaCell>> cellsFromHeld(std::string_view text)
     const std::string_view first = text.substr(0, text.find('\n'));
     const auto horizontal = 1 + static_cast<int>(std::count(first.begin(), first.end(), '\t'));
     const auto vertical = static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+    // Each cell has its separator, so that no text takes more memory than its length is worth.
+    if (static_cast<std::size_t>(horizontal) * static_cast<std::size_t>(vertical) > text.size())
+        return std::nullopt;
     OneBasedTable<CandelaCell> cells(horizontal, vertical);
     HeldCells held(text);
     for (int v = 1; v <= vertical; ++v)

@@ -13,7 +13,8 @@ namespace penwright {
 /// cell for each horizontal one. A blank is an empty cell, a double has a "d" behind it.
 std::string heldCells(const OneBasedTable<CandelaCell> &cells);
 
-/// The cells of such a text, as many as it has; nothing for a text that heldCells does not make.
+/// The cells of such a text, as many as it has; nothing for one with lines of unequal length, or with something else in
+/// a cell. Takes memory in proportion to the text.
 std::optional<OneBasedTable<CandelaCell>> cellsFromHeld(std::string_view text);
 
 }  // namespace penwright

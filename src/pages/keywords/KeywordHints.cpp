@@ -78,13 +78,4 @@ std::string spokenHint(const std::string &keyword, int characters, const std::st
     return text;
 }
 
-std::string subjectOf(const OneBased<KeywordRow> &rows)
-{
-    for (const char *key : {"[LUMCAT]", "[MANUFAC]"})
-        for (const KeywordRow &row : rows)
-            if (row.key == key && !row.value.empty())
-                return row.value;
-    return "";
-}
-
 }  // namespace penwright

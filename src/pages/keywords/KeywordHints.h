@@ -21,7 +21,4 @@ std::string emptyRowsHint(const std::vector<int> &rows);
 /// characters is too long, and leaves out the count, which is another one at each key.
 std::string spokenHint(const std::string &keyword, int characters, const std::string &emptyRows);
 
-/// What the file is about, by its lines: the catalog number, else the maker, else "".
-std::string subjectOf(const OneBased<KeywordRow> &rows);
-
 }  // namespace penwright

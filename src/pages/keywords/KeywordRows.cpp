@@ -33,6 +33,15 @@ int KeywordRow::length() const
     return codePointCount(key) + codePointCount(value);
 }
 
+std::string subjectOf(const OneBased<KeywordRow> &rows)
+{
+    for (const char *key : {"[LUMCAT]", "[MANUFAC]"})
+        for (const KeywordRow &row : rows)
+            if (const std::string_view value = withoutOuterBlanks(row.value); row.key == key && !value.empty())
+                return std::string(value);
+    return "";
+}
+
 std::string HeldKeywords::textOf(const OneBased<KeywordRow> &rows)
 {
     std::string text;

@@ -24,6 +24,9 @@ struct KeywordRow {
     bool operator==(const KeywordRow &) const = default;
 };
 
+/// What the file is about, by its lines: the catalog number, else the maker, else "". Blanks around it are left out.
+std::string subjectOf(const OneBased<KeywordRow> &rows);
+
 /// Their text: a line for each, key and value.
 struct HeldKeywords {
     static std::string textOf(const OneBased<KeywordRow> &rows);

@@ -5,9 +5,9 @@
 #include <cerrno>
 
 #include "platform/RunTimeError.h"
+#include "support/AllocationLimit.h"
 #include "support/FakeDialogs.h"
 #include "support/FakeTextFiles.h"
-#include "unit/core/AllocationLimit.h"
 
 namespace penwright {
 namespace {

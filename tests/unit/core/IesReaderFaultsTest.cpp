@@ -1,7 +1,7 @@
 #include "core/IesReader.h"
 
+#include "support/AllocationLimit.h"
 #include "support/Growth.h"
-#include "unit/core/AllocationLimit.h"
 #include "unit/core/IesReaderTest.h"
 
 namespace penwright {

@@ -2,25 +2,16 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "core/NumberText.h"
 #include "core/TextBytes.h"
 #include "grid/TableText.h"
+#include "support/TempFolder.h"
 
 namespace penwright {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string bytesOf(const fs::path &path)
-{
-    std::ifstream in(path, std::ios::binary);
-    std::ostringstream out;
-    out << in.rdbuf();
-    return out.str();
-}
 
 std::string choicesText(const TableReading &reading)
 {
@@ -88,7 +79,7 @@ INSTANTIATE_TEST_SUITE_P(All, TableFiles, testing::ValuesIn(tableNames()), [](co
 TEST_P(TableFiles, areReadAsTheyAreMeant)
 {
     const fs::path file = fs::path(TABLES_FOLDER) / GetParam();
-    EXPECT_EQ(readingText(bytesOf(file.string() + ".txt")), bytesOf(file.string() + ".expected"));
+    EXPECT_EQ(readingText(test::contentOf(file.string() + ".txt")), test::contentOf(file.string() + ".expected"));
 }
 
 TEST(TableFiles, areMany)

@@ -4,12 +4,11 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <random>
-#include <sstream>
 
 #include "core/TextBytes.h"
 #include "support/Growth.h"
+#include "support/TempFolder.h"
 
 namespace penwright {
 namespace {
@@ -111,7 +110,22 @@ TEST(TableText, oneLineHasNoMoreValuesThanThereAreAngles)
         return line;
     }();
     EXPECT_EQ(faultOf(oneLine, guessTable(oneLine)).text,
-              "Line 1: a table has 1 to 32767 lines and columns of values. Read before it: 1 line of 40000 values.");
+              "Line 1: a table has 1 to 32767 lines and columns of values.");
+}
+
+TEST(TableText, hasNoMoreLinesThanThereAreAngles)
+{
+    std::string text;
+    for (int line = 0; line < 32768; ++line)
+        text += "7\n";
+    EXPECT_EQ(
+        faultOf(text, TableReading()).text,
+        "Line 32768: a table has 1 to 32767 lines and columns of values. Read before it: 32767 lines of 1 value.");
+}
+
+TEST(TableText, aTextWithoutATableHasNoUnit)
+{
+    EXPECT_EQ(guessTable("Intensities in cd/klm\nto follow\n"), TableReading());
 }
 
 TEST(TableText, readingCanBeStopped)
@@ -156,12 +170,8 @@ TEST(TableText, aGuessTakesTheSameTimeForAnyLength)
 TEST(TableText, damagedTablesAreReadOrRefused)
 {
     std::vector<std::string> files;
-    for (const auto &entry : std::filesystem::directory_iterator(TABLES_FOLDER)) {
-        std::ifstream in(entry.path(), std::ios::binary);
-        std::ostringstream out;
-        out << in.rdbuf();
-        files.push_back(out.str().substr(0, 400));
-    }
+    for (const auto &entry : std::filesystem::directory_iterator(TABLES_FOLDER))
+        files.push_back(test::contentOf(entry.path()).substr(0, 400));
     std::sort(files.begin(), files.end());
     std::mt19937 random(13);
     const auto below = [&random](std::size_t limit) { return random() % std::max<std::size_t>(limit, 1); };

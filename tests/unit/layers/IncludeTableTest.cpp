@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <regex>
 #include <set>
@@ -10,10 +9,13 @@
 #include <string>
 #include <vector>
 
+#include "support/TempFolder.h"
+
 namespace {
 
 namespace fs = std::filesystem;
 using Room = std::string;
+using penwright::test::contentOf;
 
 const fs::path kSource = SOURCE_FOLDER;
 
@@ -30,14 +32,6 @@ const std::set<Room> kRules{"pages", "wizard", "draft",    "review", "plot",
 
 /// The rooms that wrap a library or the system and know nothing of the toolkit.
 const std::set<Room> kWithoutToolkit{"hostlib", "help/chm", "platform/posix", "platform/sqlite"};
-
-std::string contentOf(const fs::path &path)
-{
-    std::ifstream in(path);
-    std::ostringstream out;
-    out << in.rdbuf();
-    return out.str();
-}
 
 std::vector<std::string> includesOf(const fs::path &path, const std::regex &form)
 {

@@ -1,5 +1,5 @@
 #include "review/Beam.h"
-#include "review/TableFault.h"
+#include "review/Photometry.h"
 #include "ReviewTest.h"
 
 namespace penwright::test {
@@ -9,7 +9,7 @@ std::vector<BeamWidth> widthsOf(std::int16_t type, const std::vector<float> &hor
                                 const std::vector<float> &vertical, const Solid &solid)
 {
     const PhotometricRecord record = withTable(plainRecord(), type, horizontal, vertical, solid);
-    return beamWidths(record, tableFault(record));
+    return photometryOf(record).planes;
 }
 
 /// Falls from the axis in a straight line to 0 at 40 degrees: half at 20, a tenth at 36.

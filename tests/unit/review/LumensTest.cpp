@@ -1,4 +1,5 @@
 #include "review/Lumens.h"
+#include "review/Photometry.h"
 #include "review/TableFault.h"
 #include "ReviewTest.h"
 
@@ -50,7 +51,7 @@ double facing(double h, double v)
 
 TableLumens lumensOf(const PhotometricRecord &record)
 {
-    return tableLumens(record, tableFault(record));
+    return photometryOf(record).lumens;
 }
 
 struct SolidCase {

@@ -7,6 +7,11 @@
 
 namespace penwright::test {
 
+// First lines as the keyword page stores them.
+inline const std::string kVersion2002 = "IESNA:LM-63-2002 ";
+inline const std::string kVersion1995 = "IESNA:LM-63-1995 ";
+inline const std::string kVersion1991 = "IESNA91 ";
+
 /// Changes one thing of a record that nothing is remarked on.
 using Change = std::function<void(PhotometricRecord &)>;
 

@@ -1,5 +1,5 @@
 #include <algorithm>
-#include <set>
+#include <map>
 
 #include "RemarkTest.h"
 #include "support/RandomRecord.h"
@@ -59,12 +59,31 @@ TEST(Remarks, areNotMadeOnWhatIsRight)
     EXPECT_EQ(textsOf(remarksOf(record)), std::vector<std::string>());
 }
 
-TEST(Remarks, ofAnAnchorEachLeadToTheirOwn)
+TEST(Remarks, ofARuleLeadToItsHeading)
 {
-    EXPECT_EQ(std::set<std::string_view>(kRemarkAnchors.begin(), kRemarkAnchors.end()).size(), kRemarkRuleCount);
-    EXPECT_EQ(anchorOf(RemarkRule::MoreThanLamps), "more-than-lamps");
-    EXPECT_EQ(anchorOf(RemarkRule::OddDimensions), "dimensions");
-    EXPECT_EQ(anchorOf(RemarkRule::ThousandsSign), "thousands");
+    const std::map<RemarkRule, std::string_view> anchors{
+        {RemarkRule::MoreThanLamps, "more-than-lamps"},
+        {RemarkRule::PerKilolumen, "per-kilolumen"},
+        {RemarkRule::OddEfficacy, "efficacy"},
+        {RemarkRule::FullEfficiency, "efficiency"},
+        {RemarkRule::BallastTwice, "ballast"},
+        {RemarkRule::RefusedShape, "shape"},
+        {RemarkRule::AngleList, "angle-list"},
+        {RemarkRule::FirstAndLastPlane, "first-last"},
+        {RemarkRule::StopsAtHorizon, "horizon"},
+        {RemarkRule::TurnedTable, "turned"},
+        {RemarkRule::OddDimensions, "dimensions"},
+        {RemarkRule::Keywords, "keywords"},
+        {RemarkRule::KeywordText, "keyword-text"},
+        {RemarkRule::TiltData, "tilt"},
+        {RemarkRule::TypeBList, "type-b"},
+        {RemarkRule::Spike, "spike"},
+        {RemarkRule::CoarseSteps, "coarse-steps"},
+        {RemarkRule::ThousandsSign, "thousands"},
+    };
+    EXPECT_EQ(anchors.size(), kRemarkRuleCount);
+    for (const auto &[rule, anchor] : anchors)
+        EXPECT_EQ(anchorOf(rule), anchor);
 }
 
 double disc(double, double v)

@@ -1,3 +1,4 @@
+#include "support/AllocationLimit.h"
 #include "support/HeldGrid.h"
 #include "unit/pages/candela/CandelaTest.h"
 
@@ -55,6 +56,16 @@ TEST_F(HeldCandela, isRefusedWhereItIsNone)
     for (const char *text :
          {"1\t2\n3\n", "1\n2\t3\n", "1\t2\n3\tx\n", "1\t2\n3\t4d5\n", "1\t2\n3\tinf\n", "1\t2\n3\t4"})
         EXPECT_FALSE(bringBack(table, text)) << text;
+    EXPECT_EQ(table.CopyCandelaTable(), "1\t2\r\n3\t4\r\n");
+}
+
+// A damaged text announces in few bytes what no memory holds.
+TEST_F(HeldCandela, takesNoMemoryForCellsThatItDoesNotHave)
+{
+    build({0, 90}, {0, 90});
+    apply(table, table.PasteCandelaTable("1\t2\n3\t4\n"));
+    const AllocationLimit limit(10'000'000);
+    EXPECT_FALSE(bringBack(table, std::string(30'000, '\t') + std::string(30'000, '\n')));
     EXPECT_EQ(table.CopyCandelaTable(), "1\t2\r\n3\t4\r\n");
 }
 

@@ -30,6 +30,14 @@ std::string shown(const KeywordRows &rows)
     return text;
 }
 
+TEST(KeywordRows, tellWhatTheFileIsAbout)
+{
+    EXPECT_EQ(subjectOf({}), "");
+    EXPECT_EQ(subjectOf({{"[TEST]", "1"}, {"[MANUFAC]", "M"}}), "M");
+    EXPECT_EQ(subjectOf({{"[MANUFAC]", "M"}, {"[LUMCAT]", ""}, {"[LUMCAT]", "D 10"}}), "D 10");
+    EXPECT_EQ(subjectOf({{"[LUMCAT]", "  "}, {"[MANUFAC]", " M "}}), "M");
+}
+
 TEST(KeywordRows, haveTwoColumnsUnderTheirCaptions)
 {
     const KeywordRows rows;

@@ -1,4 +1,4 @@
-#include "unit/core/AllocationLimit.h"
+#include "support/AllocationLimit.h"
 
 #include <atomic>
 #include <cstdlib>

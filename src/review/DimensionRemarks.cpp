@@ -49,14 +49,15 @@ void checkRefusedShape(const Reviewed &file, RuleRemarks &remarks)
         signs += signOf(extent.value);
         numbers += (numbers.empty() ? "" : " x ") + typedText(double{extent.value});
     }
-    const auto &shapes = file.format.shapes;
-    if (std::find(shapes.begin(), shapes.end(), signs) != shapes.end())
+    const auto takesSigns = [&signs](const FormatRules &format) {
+        return std::find(format.shapes.begin(), format.shapes.end(), signs) != format.shapes.end();
+    };
+    if (takesSigns(file.format))
         return;
     remarks.add({RecordField::Width}, [&] {
-        const bool isOf2002 = formatRules("IESNA:LM-63-2002").shapes.data() == shapes.data();
         return "Some programs refuse the dimensions " + numbers +
-               (isOf2002 ? ": use another shape or a rectangle."
-                         : ": use the 2002 version, another shape or a rectangle.");
+               (takesSigns(formatRules("IESNA:LM-63-2002")) ? ": use the 2002 version, another shape or a rectangle."
+                                                            : ": use another shape or a rectangle.");
     });
 }
 
