@@ -93,7 +93,7 @@ void WizardDrafts::followWindow()
     connect(&m_window, &WizardWindow::cancelled, this, &WizardDrafts::drop);
     connect(&m_window, &WizardWindow::fileTaken, this, &WizardDrafts::finish);
     for (int page = 0; page < kPageCount; ++page)
-        connect(&m_window.page(page), &PageFrame::changed, this, &WizardDrafts::noteChange);
+        connect(&m_window.page(page), &PageFrame::changed, this, [this, page] { noteChange(page); });
 }
 
 void WizardDrafts::turnTo(int page)
@@ -104,10 +104,12 @@ void WizardDrafts::turnTo(int page)
     m_replay.fill(page);
 }
 
-void WizardDrafts::noteChange()
+void WizardDrafts::noteChange(int page)
 {
     if (m_visited.none() || m_closing.isClosing())  // what an editor held when it began to close is kept
         return;
+    if (page == kCandelaPage)
+        m_visited.set(kCandelaPage);  // a table can be pasted before it is shown
     m_isTyped = true;
     if (!m_timer->isActive())
         m_timer->start();
