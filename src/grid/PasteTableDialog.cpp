@@ -300,6 +300,9 @@ void PasteTableDialog::say(const std::string &words, const std::string &problem,
     m_words->setVisible(!words.empty());
     m_problem->setText(toQString(problem));
     m_problem->setVisible(!problem.empty());
+    QFont font = m_words->font();
+    font.setWeight(isTaken ? QFont::Normal : QFont::DemiBold);
+    m_problem->setFont(font);
     m_ok->setEnabled(isTaken);
     describe(*m_preview, toQString(problem.empty() ? words : words.empty() ? problem : words + " " + problem));
 }

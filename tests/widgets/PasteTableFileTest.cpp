@@ -1,6 +1,7 @@
 // Tables that come from files.
 #include <atomic>
 #include <chrono>
+#include <fstream>
 #include <thread>
 
 #include "widgets/PasteTableTest.h"
@@ -127,6 +128,30 @@ TEST_F(PasteTableFile, anotherTextStopsTheReading)
     EXPECT_TRUE(spinUntil([&] { return slow.hasEnded.load(); }));
     EXPECT_TRUE(isOffered());
     EXPECT_FALSE(in("tableProgress").isVisible());
+}
+
+TEST_F(PasteTableFile, chosenInTheToolkitsDialogIsRead)
+{
+    useRealDialogs();
+    window.reset();
+    startWizard();
+    fillPageOne();
+    openPageFive();
+    const std::string path = folder.file("a table.csv");
+    std::ofstream(path) << "for the chooser";
+    files.contents[path] = {0, kTable};
+    open("", [&](PasteTableDialog &) {
+        whenDialogIsUp([&](QDialog &chooser) {
+            EXPECT_EQ(chooser.windowTitle(), "Paste Table From File");
+            auto *name = chooser.findChild<QLineEdit *>("fileNameEdit");
+            name->setText(QString::fromStdString(path));
+            QTest::keyClick(name, Qt::Key_Return);
+        });
+        QTest::mouseClick(&in("chooseFile"), Qt::LeftButton);
+        EXPECT_TRUE(spinUntil([&] { return isOffered(); })) << problem();
+        EXPECT_EQ(focusName(), "tablePreview");
+        leave();
+    });
 }
 
 TEST_F(PasteTableFile, chooserAndDialogEndWithTheProgram)
