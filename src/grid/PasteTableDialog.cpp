@@ -40,6 +40,17 @@ QLabel *makeWords(const char *name)
     return label;
 }
 
+/// A line of widgets at its end, behind one that has all the room, or room behind it.
+QLayout *makeLine(QWidget *first, std::initializer_list<QWidget *> atEnd)
+{
+    auto *line = new QHBoxLayout;
+    line->setSpacing(8);
+    line->addWidget(first, 1, qobject_cast<QPushButton *>(first) ? Qt::AlignLeft : Qt::Alignment());
+    for (QWidget *widget : atEnd)
+        line->addWidget(widget);
+    return line;
+}
+
 /// On a small screen the choices scroll, so that the buttons stay in sight.
 QWidget *makeScrolled(QWidget *choices)
 {
@@ -103,10 +114,10 @@ void PasteTableDialog::makeLayout()
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(12);
-    layout->addWidget(makeSourceLine());
+    layout->addLayout(makeSourceLine());
     layout->addLayout(middle, 1);
     layout->addLayout(words);
-    layout->addWidget(makeButtons());
+    layout->addLayout(makeButtons());
     m_preview->setMinimumSize(120, 80);
     setMinimumSize(440, 300);
     resize(QSize(780, 520).boundedTo(screen()->availableSize() * kMostOfScreen));
@@ -136,31 +147,18 @@ QPushButton *PasteTableDialog::addButton(const char *name, const QString &text, 
     return button;
 }
 
-QWidget *PasteTableDialog::makeSourceLine()
+QLayout *PasteTableDialog::makeSourceLine()
 {
-    auto *line = new QWidget;
-    auto *layout = new QHBoxLayout(line);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
     m_source = makeWords("tableSource");
-    layout->addWidget(m_source, 1);
-    layout->addWidget(addButton("takeClipboard", "From Clipboard", &PasteTableDialog::takeClipboard));
-    layout->addWidget(addButton("chooseFile", "From File...", &PasteTableDialog::chooseFile));
-    return line;
+    return makeLine(m_source, {addButton("takeClipboard", "From Clipboard", &PasteTableDialog::takeClipboard),
+                               addButton("chooseFile", "From File...", &PasteTableDialog::chooseFile)});
 }
 
-QWidget *PasteTableDialog::makeButtons()
+QLayout *PasteTableDialog::makeButtons()
 {
-    auto *line = new QWidget;
-    auto *layout = new QHBoxLayout(line);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(8);
-    layout->addWidget(addButton("helpButton", "Help", &PasteTableDialog::showHelp));
-    layout->addStretch();
-    layout->addWidget(addButton("cancelButton", "Cancel", &QDialog::reject));
     m_ok = addButton("okButton", "OK", &QDialog::accept);
-    layout->addWidget(m_ok);
-    return line;
+    return makeLine(addButton("helpButton", "Help", &PasteTableDialog::showHelp),
+                    {addButton("cancelButton", "Cancel", &QDialog::reject), m_ok});
 }
 
 bool PasteTableDialog::ask()

@@ -10,6 +10,7 @@
 #include "grid/TableText.h"
 
 class QLabel;
+class QLayout;
 class QProgressBar;
 class QPushButton;
 
@@ -57,8 +58,8 @@ public:
     double factor() const;
 
 private:
-    QWidget *makeSourceLine();
-    QWidget *makeButtons();
+    QLayout *makeSourceLine();
+    QLayout *makeButtons();
     void makeLayout();
     void followTheEye();
     QPushButton *addButton(const char *name, const QString &text, void (PasteTableDialog::*act)());

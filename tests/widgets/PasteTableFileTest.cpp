@@ -96,15 +96,24 @@ struct SlowFiles : TextFiles {
     std::atomic<bool> hasEnded = false;
 };
 
-TEST_F(PasteTableFile, readingShowsHowFarItIsAndEndsWithCancel)
-{
+/// The dialog by itself, over a disk that is slow.
+class PasteTableSlowFile : public PasteTableFile {
+protected:
+    void SetUp() override
+    {
+        PasteTableFile::SetUp();
+        dialogUp = &dialog;
+        dialog.show();
+        chooseFile("/tables/a.csv");
+    }
+
     SlowFiles slow;
-    dialogs.names.push_back("/tables/a.csv");
-    PasteTableDialog dialog({.judge = [](const TableContent &, double) { return TableVerdict{true}; }}, dialogs, slow,
-                            closing, window.get());
-    dialogUp = &dialog;
-    dialog.show();
-    QTest::mouseClick(&in("chooseFile"), Qt::LeftButton);
+    PasteTableDialog dialog{
+        {.judge = [](const TableContent &, double) { return TableVerdict{true}; }}, dialogs, slow, closing, nullptr};
+};
+
+TEST_F(PasteTableSlowFile, showsHowFarItIsReadAndEndsWithCancel)
+{
     auto &progress = in<QProgressBar>("tableProgress");
     EXPECT_TRUE(spinUntil([&] { return progress.isVisible() && progress.value() == 250; }));
     EXPECT_FALSE(isOffered());
@@ -113,15 +122,8 @@ TEST_F(PasteTableFile, readingShowsHowFarItIsAndEndsWithCancel)
     EXPECT_TRUE(spinUntil([&] { return slow.hasEnded.load(); }));
 }
 
-TEST_F(PasteTableFile, anotherTextStopsTheReading)
+TEST_F(PasteTableSlowFile, isReadNoMoreOnceThereIsAnotherText)
 {
-    SlowFiles slow;
-    dialogs.names.push_back("/tables/a.csv");
-    PasteTableDialog dialog({.judge = [](const TableContent &, double) { return TableVerdict{true}; }}, dialogs, slow,
-                            closing, window.get());
-    dialogUp = &dialog;
-    dialog.show();
-    QTest::mouseClick(&in("chooseFile"), Qt::LeftButton);
     QGuiApplication::clipboard()->setText(QString::fromStdString(kTable));
     QTest::mouseClick(&in("takeClipboard"), Qt::LeftButton);
     EXPECT_TRUE(isOffered());
@@ -149,7 +151,7 @@ TEST_F(PasteTableFile, chosenInTheToolkitsDialogIsRead)
         });
         QTest::mouseClick(&in("chooseFile"), Qt::LeftButton);
         EXPECT_TRUE(spinUntil([&] { return isOffered(); })) << problem();
-        EXPECT_EQ(focusName(), "tablePreview");
+        EXPECT_EQ(dialogUp->focusWidget(), &in("tablePreview"));
         leave();
     });
 }
