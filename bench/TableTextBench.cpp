@@ -6,6 +6,7 @@
 #include <string>
 
 #include "grid/TableText.h"
+#include "grid/TableWords.h"
 #include "Seconds.h"
 
 namespace {
@@ -42,6 +43,18 @@ void fromChars(const std::string &text)
             ++at;
     }
 }
+
+/// What stands between a text of 10 MB and the first look at its table: a guess, and its first part read.
+void BM_firstLook(benchmark::State &state)
+{
+    const std::string text = squareTable(1000, '.');
+    for ([[maybe_unused]] auto _ : state) {
+        const bool isRead = readTable(firstPart(text), guessTable(text)).index() == 0;
+        if (!isRead)
+            state.SkipWithError("the first part is refused");
+    }
+}
+BENCHMARK(BM_firstLook)->Unit(benchmark::kMillisecond);
 
 /// A guess and the whole table, for a text of 10 MB. The
 /// counter is the time of the whole over the bar's.

@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "app/TablePaste.h"
 #include "pages/candela/CandelaPage.h"
 #include "pages/distribution/DistributionPage.h"
 #include "pages/finish/FinishPage.h"
@@ -23,15 +24,17 @@ namespace {
 
 using namespace std::chrono_literals;
 
-void addPages(WizardWindow &window, const Services &services)
+void addPages(WizardWindow &window, const Services &services, const Closing &closing)
 {
     const PageContext context = window.pageContext();
     auto *candelaPage = new CandelaPage(context);
     window.addPage(new LampPage(context, services.store));
     window.addPage(new TiltPage(context));
     window.addPage(new KeywordPage(context, services.store));
-    window.addPage(new DistributionPage(context, [candelaPage] { candelaPage->lsbStart(); }));
+    auto *distributionPage = new DistributionPage(context, [candelaPage] { candelaPage->lsbStart(); });
+    window.addPage(distributionPage);
     window.addPage(candelaPage);
+    new TablePaste(window, *distributionPage, *candelaPage, services.files, closing);
     window.addPage(
         new FinishPage(context, services.store, services.files, services.wait, [&window] { emit window.fileTaken(); }));
 }
@@ -64,7 +67,7 @@ std::unique_ptr<WizardWindow> assembleWizard(ToolState &state, const Services &s
 {
     const WindowServices forWindow{services.store, services.dialogs, services.wait, services.embedding, services.help};
     auto window = std::make_unique<WizardWindow>(state, forWindow, closing);
-    addPages(*window, services);
+    addPages(*window, services, closing);
     owner.widget = window.get();
     services.embedding.adopt(window->winId());
     window->load();

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "core/TextBytes.h"
+
 namespace penwright {
 namespace {
 
@@ -48,6 +50,22 @@ constexpr SavingTextRow kSavingTexts[]{
     {31036, "Invalid file handle or insufficient disk space to save file."},
 };
 
+struct ReadingTextRow {
+    int errnoValue;
+    std::string_view text;
+};
+
+constexpr ReadingTextRow kReadingTexts[]{
+    {ENOENT, " is not there any more."},
+    {ENOTDIR, " is not there any more."},
+    {EACCES, " may not be read by you: permission denied."},
+    {EPERM, " may not be read by you: permission denied."},
+    {EISDIR, " is a folder, not a file."},
+    {ENODEV, " is no file but a pipe or a device."},
+    {EFBIG, " has more than 100 MB, far more than a table can have."},
+    {ESTALE, " was changed while it was read. Choose it again."},
+};
+
 }  // namespace
 
 RunTimeError errorFromErrno(int errnoValue)
@@ -65,6 +83,16 @@ std::string savingErrorText(const RunTimeError &error)
     if (row != std::end(kSavingTexts))
         return std::string(row->text);
     return "Windows Error " + std::to_string(error.number()) + " " + error.description() + " " + error.source();
+}
+
+std::string readingErrorText(const std::string &path, int errnoValue)
+{
+    const std::string name = shownWord(path.substr(path.rfind('/') + 1));
+    const auto row = std::find_if(std::begin(kReadingTexts), std::end(kReadingTexts),
+                                  [errnoValue](const ReadingTextRow &r) { return r.errnoValue == errnoValue; });
+    if (row != std::end(kReadingTexts))
+        return name + std::string(row->text);
+    return name + " cannot be read: " + std::generic_category().message(errnoValue) + ".";
 }
 
 std::string writingQuestionText(const RunTimeError &error)

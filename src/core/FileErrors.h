@@ -16,4 +16,7 @@ std::string savingErrorText(const RunTimeError &error);
 /// The same with the line that asks whether to try again.
 std::string writingQuestionText(const RunTimeError &error);
 
+/// The sentence that tells the user why a file could not be read, with the file's name.
+std::string readingErrorText(const std::string &path, int errnoValue);
+
 }  // namespace penwright

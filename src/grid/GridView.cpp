@@ -21,6 +21,11 @@
 #include "grid/GridRefusal.h"
 
 namespace penwright {
+namespace {
+
+constexpr QKeyCombination kTablePaste = Qt::CTRL | Qt::SHIFT | Qt::Key_V;
+
+}  // namespace
 
 GridView::GridView(QWidget *parent)
     : QTableView(parent),
@@ -83,6 +88,29 @@ void GridView::addMenuAction(const char *name, const QString &text, QKeySequence
     action->setShortcutContext(Qt::WidgetShortcut);
     action->setShortcutVisibleInContextMenu(true);
     connect(action, &QAction::triggered, this, [this, act] { (m_steering.*act)(); });
+}
+
+void GridView::offerTablePaste()
+{
+    m_takesTables = true;
+    auto *action = m_menu->addAction("Paste &Table...");
+    action->setObjectName("pasteTable");
+    action->setShortcut(kTablePaste);
+    action->setShortcutContext(Qt::WidgetShortcut);
+    action->setShortcutVisibleInContextMenu(true);
+    connect(action, &QAction::triggered, this, &GridView::askForTable);
+}
+
+bool GridView::asksForTable(const QKeyEvent &event) const
+{
+    return m_takesTables && event.keyCombination() == kTablePaste;
+}
+
+/// Commits what is being typed first: it is not lost when a table comes in its place.
+void GridView::askForTable()
+{
+    if (commitEdit())
+        QMetaObject::invokeMethod(this, &GridView::tablePasteAsked, Qt::QueuedConnection);
 }
 
 void GridView::setStepActions(QAction *undo, QAction *redo)
@@ -243,6 +271,8 @@ bool GridView::eventFilter(QObject *watched, QEvent *event)
     if (!m_editor->is(watched) || event->type() != QEvent::KeyPress)
         return QTableView::eventFilter(watched, event);
     auto &key = *static_cast<QKeyEvent *>(event);
+    if (asksForTable(key))
+        return askForTable(), true;
     return follow(m_steering.editorKey(key), key) || QTableView::eventFilter(watched, event);
 }
 
@@ -250,6 +280,8 @@ void GridView::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape)
         event->ignore();  // the window asks the cancel question
+    else if (asksForTable(*event))
+        askForTable();
     else if (follow(m_steering.gridKey(*event), *event))
         event->accept();
     else

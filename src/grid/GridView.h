@@ -45,6 +45,9 @@ public:
     /// The entries for undo and redo in the menu of the grid, which has one to copy and one to paste as well.
     virtual void setStepActions(QAction *undo, QAction *redo);
 
+    /// From here on the menu and Ctrl+Shift+V ask for a table to be pasted that is yet to be understood.
+    void offerTablePaste();
+
     void setTabWay(TabWay way) { m_steering.setTabWay(way); }
 
     /// How the cells' texts stand, in editors too; left unless told.
@@ -88,6 +91,9 @@ public:
     const GridCellEditor &editor() const { return *m_editor; }
 
 signals:
+    /// A table is to be pasted that is yet to be understood; the event that asks for it is over.
+    void tablePasteAsked();
+
     /// The text in an open editor has changed; no cell holds it yet.
     void halfTypedChanged();
 
@@ -130,6 +136,8 @@ protected slots:
 
 private:
     bool follow(KeyUse use, QKeyEvent &event);
+    bool asksForTable(const QKeyEvent &event) const;
+    void askForTable();
     void announceCurrent();
     void showRebuilt();
     void showRefused(int row, int column);
@@ -144,6 +152,7 @@ private:
     std::unique_ptr<GridCellEditor> m_editor;
     GridSteering m_steering;
     QMenu *m_menu;
+    bool m_takesTables = false;
     GridCell m_before;            ///< the current cell while rows and columns are read anew
     GridCell m_announced{0, -1};  ///< what currentCellChanged told last
 };

@@ -34,6 +34,12 @@ struct SaveNameQuestion {
     std::string defaultSuffix;
 };
 
+/// The question of a dialog that opens a file; `filter` as that of a save dialog.
+struct OpenNameQuestion {
+    std::string title;
+    std::string filter;
+};
+
 /// What blocks and asks the user. Each call returns at once, unshown, while the program is unloading.
 class Dialogs {
 public:
@@ -43,6 +49,9 @@ public:
 
     /// The chosen path, possibly empty; nothing when the user cancelled or the program is unloading.
     virtual std::optional<std::string> chooseSaveName(const SaveNameQuestion &question) = 0;
+
+    /// The path of a file that is to be read; nothing when the user cancelled or the program is unloading.
+    virtual std::optional<std::string> chooseOpenName(const OpenNameQuestion &question) = 0;
 };
 
 }  // namespace penwright

@@ -11,6 +11,7 @@
 #include "grid/GridModel.h"
 #include "grid/GridView.h"
 #include "wizard/PageFields.h"
+#include "wizard/StepPair.h"
 
 namespace penwright {
 namespace {
@@ -58,6 +59,8 @@ PageStep::PageStep(std::vector<ChangedBox> boxes, std::vector<ChangedGrid> grids
 PageStep::~PageStep()
 {
     m_total -= m_content->bytes;
+    if (m_content->pair)
+        m_content->pair->sideOf(*this).step = nullptr;
 }
 
 void PageStep::undo()
@@ -113,6 +116,14 @@ void PageStep::forget() const
     m_content->grids.clear();
     m_content->isForgotten = true;
     measure();
+}
+
+bool PageStep::isInReach(bool isUndo) const
+{
+    if (isForgotten() || !m_content->pair)
+        return !isForgotten();
+    const PageStep *other = m_content->pair->sideBeside(*this).step;
+    return other && !other->isForgotten() && (!isUndo || m_content->pair->sideOf(*this).isUndoneHere);
 }
 
 void PageStep::measure() const

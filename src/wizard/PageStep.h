@@ -16,6 +16,7 @@ namespace penwright {
 
 class GridView;
 struct GridEdit;
+struct StepPair;
 
 /// A box that an act of the user has changed.
 struct ChangedBox {
@@ -56,6 +57,15 @@ public:
     void forget() const;
     bool isForgotten() const { return m_content->isForgotten; }
 
+    /// Makes it half of a pair, the other half of which is on another page.
+    void pairUp(std::shared_ptr<StepPair> pair) const { m_content->pair = std::move(pair); }
+
+    /// The pair that it is half of, if it is.
+    const StepPair *pair() const { return m_content->pair.get(); }
+
+    /// Whether it can be undone, or redone, on its own page.
+    bool isInReach(bool isUndo) const;
+
     /// Puts the focus on what it has changed and goes to the cells, once it has been undone or redone.
     void goThere(bool isUndone) const;
 
@@ -63,6 +73,7 @@ private:
     struct Content {
         std::vector<ChangedBox> boxes;
         std::vector<ChangedGrid> grids;
+        std::shared_ptr<StepPair> pair;
         std::size_t bytes = 0;
         bool isForgotten = false;
     };

@@ -11,6 +11,7 @@
 #include "grid/GridModel.h"
 #include "grid/GridView.h"
 #include "wizard/PageFields.h"
+#include "wizard/StepPair.h"
 
 namespace penwright {
 namespace {
@@ -219,16 +220,57 @@ void PageSteps::step(bool isUndo)
     endAct();
     if (m_isBusy() || !(isUndo ? canUndo() : canRedo()))
         return;
+    prepareStep();
+    const PageStep &step = *stepAt(m_stack.index() - (isUndo ? 1 : 0));
+    isUndo ? m_stack.undo() : m_stack.redo();
+    if (step.pair()) {
+        const StepPair::Side &beside = step.pair()->sideBeside(step);
+        beside.page->stepTo(*beside.step, isUndo);
+    }
+    m_follow();
+    step.goThere(isUndo);
+    endStep();
+}
+
+/// Undoes or redoes up to and with a step, whose other half on another page has just been.
+void PageSteps::stepTo(const PageStep &step, bool isUndo)
+{
+    endAct();
+    prepareStep();
+    const int place = placeOf(step);
+    while (isUndo ? m_stack.index() > place : m_stack.index() <= place)
+        isUndo ? m_stack.undo() : m_stack.redo();
+    m_follow();
+    endStep();
+}
+
+void PageSteps::prepareStep()
+{
     m_go.end();
     for (GridView *grid : m_fields.grids())
         grid->dropEdit();
-    isUndo ? m_stack.undo() : m_stack.redo();
-    m_follow();
-    stepAt(m_stack.index() - (isUndo ? 0 : 1))->goThere(isUndo);
+}
+
+void PageSteps::endStep()
+{
     look();
     giveUpOldest();
     showActions();
     emit stepped();
+}
+
+void PageSteps::pairLatest(PageSteps &other, bool isUndoneThere)
+{
+    const PageStep *here = stepAt(m_stack.index() - 1);
+    const PageStep *there = other.stepAt(other.m_stack.index() - 1);
+    const auto pair = std::make_shared<StepPair>(StepPair{{this, here, true}, {&other, there, isUndoneThere}});
+    here->pairUp(pair);
+    there->pairUp(pair);
+    // What one page gives up, the other one cannot offer any more.
+    connect(&other, &PageSteps::stepped, this, &PageSteps::showActions, Qt::UniqueConnection);
+    connect(this, &PageSteps::stepped, &other, &PageSteps::showActions, Qt::UniqueConnection);
+    showActions();
+    other.showActions();
 }
 
 const PageStep *PageSteps::stepAt(int index) const
@@ -236,14 +278,22 @@ const PageStep *PageSteps::stepAt(int index) const
     return static_cast<const PageStep *>(m_stack.command(index));
 }
 
+int PageSteps::placeOf(const PageStep &step) const
+{
+    int place = 0;
+    while (stepAt(place) != &step)
+        ++place;
+    return place;
+}
+
 bool PageSteps::canUndo() const
 {
-    return m_stack.canUndo() && !stepAt(m_stack.index() - 1)->isForgotten();
+    return m_stack.canUndo() && stepAt(m_stack.index() - 1)->isInReach(true);
 }
 
 bool PageSteps::canRedo() const
 {
-    return m_stack.canRedo() && !stepAt(m_stack.index())->isForgotten();
+    return m_stack.canRedo() && stepAt(m_stack.index())->isInReach(false);
 }
 
 // What has been undone goes last, and of that the farthest first: what is next stays in reach.

@@ -51,6 +51,11 @@ public:
     /// Makes one step of what has changed since the last act ended.
     void endAct();
 
+    /// Makes a pair of the latest step of this page and that of another one, both by the same act. To undo it on either
+    /// page is to undo it on both, with what was done on the other page since, which can be redone there; to redo it
+    /// likewise. `isUndoneThere` says whether the other page can ask for it.
+    void pairLatest(PageSteps &other, bool isUndoneThere);
+
     /// Gives up all steps; what stands now is where undo ends.
     void forgetAll();
 
@@ -76,7 +81,11 @@ private:
     std::vector<ChangedBox> changedBoxes() const;
     QWidget *boxInFocus(const std::vector<ChangedBox> &boxes) const;
     void step(bool isUndo);
+    void stepTo(const PageStep &step, bool isUndo);
+    void prepareStep();
+    void endStep();
     const PageStep *stepAt(int index) const;
+    int placeOf(const PageStep &step) const;
     void giveUpOldest();
     void showActions();
 

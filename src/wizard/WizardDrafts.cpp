@@ -110,6 +110,8 @@ void WizardDrafts::noteChange(int page)
         return;
     if (page == m_window.shownPage())
         m_replay.giveUp(page);
+    if (page == kCandelaPage)
+        m_visited.set(kCandelaPage);  // a table can be pasted before it is shown
     m_isTyped = true;
     if (!m_timer->isActive())
         m_timer->start();

@@ -55,7 +55,7 @@ private:
     DraftReplay m_replay;
     DraftKeeper m_keeper;
     QTimer *m_timer;                    ///< runs from the first change that is not kept
-    std::bitset<kPageCount> m_visited;  ///< pages that have been shown, and so may hold something
+    std::bitset<kPageCount> m_visited;  ///< pages that have been shown or changed, and so may hold something
     bool m_isReplayDue = false;         ///< a draft has been taken over that no page holds yet
     bool m_isTyped = false;             ///< something has been typed since the last finished file
     DraftsFound m_found;                ///< what is still offered

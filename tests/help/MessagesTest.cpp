@@ -65,6 +65,7 @@ const std::set<std::string> kNoMessages{
     "Problem parsing horizontal angles",
     "New Photometric File",
     "IES files (*.ies)|*.ies;*.IES",
+    "Tables as text (*.csv, *.tsv, *.txt)|*.csv;*.tsv;*.txt",
     "each shape has its solid, in the order of the list",
 };
 

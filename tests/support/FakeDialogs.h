@@ -36,6 +36,16 @@ public:
         return name;
     }
 
+    std::optional<std::string> chooseOpenName(const OpenNameQuestion &question) override
+    {
+        transcript += "[open|" + question.title + "|" + question.filter + "]\n";
+        if (names.empty())
+            return std::nullopt;
+        const std::optional<std::string> name = names.front();
+        names.pop_front();
+        return name;
+    }
+
     std::string transcript;
     std::deque<Answer> answers;
     std::deque<std::optional<std::string>> names;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cerrno>
 #include <deque>
 #include <string>
 #include <string_view>
@@ -21,6 +22,12 @@ struct FakeTextFiles : TextFiles {
         failures.pop_front();
         return failure;
     }
+
+    FileContent read(const std::string &, std::size_t, const std::function<bool(double)> &) override
+    {
+        return {ENOENT, {}};
+    }
+
     std::vector<std::pair<std::string, std::string>> written;
     std::deque<int> failures;
 };

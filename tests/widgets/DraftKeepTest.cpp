@@ -1,3 +1,4 @@
+#include "support/DialogDriver.h"
 #include "widgets/DraftsTest.h"
 
 namespace penwright::test {
@@ -52,6 +53,30 @@ TEST_F(DraftKeep, pageTurnIsKeptAtOnce)
     EXPECT_EQ(draft.head.about, "EL-2054");
     EXPECT_EQ(textOf(draft, kTiltPage, "lmpTxtNumAngles"), "2");
     EXPECT_EQ(textOf(draft, kCandelaPage, "cdaGridCd"), "(none)") << "a page that was never shown holds nothing";
+}
+
+TEST_F(DraftKeep, tableThatIsPastedBeforeItsPageWasShownIsKeptToo)
+{
+    startRun();
+    fillPagesBefore(kDistributionPage);
+    click("rdoC");
+    QGuiApplication::clipboard()->setText("\t0\n0\t5.5\n90\t4\n");
+    bool isTaken = false;
+    whenDialogIsUp([&](QDialog &dialog) {
+        isTaken = true;
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    });
+    find("phoGridVert")->setFocus();
+    press(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(spinUntil([&] { return isTaken; }));
+    waitUntilKept();
+    kill();
+    EXPECT_EQ(textOf(leftDraft(), kCandelaPage, "cdaGridCd"), "5.5d\n4d\n");
+    startRun();
+    takeOver();
+    ASSERT_EQ(shownPage(), kDistributionPage);
+    click("cmdNext30");
+    EXPECT_EQ(textsOf(window->page(kCandelaPage)).at("cdaGridCd"), "5.5d\n4d\n");
 }
 
 TEST_F(DraftKeep, closeLeavesWhatWasTypedUpToIt)

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <QTest>
@@ -32,8 +34,13 @@ namespace penwright::test {
 
 struct RecordingFiles : TextFiles {
     int replace(const std::string &path, std::string_view) override { return paths.push_back(path), failure; }
+    FileContent read(const std::string &path, std::size_t, const std::function<bool(double)> &) override
+    {
+        return contents.count(path) ? contents.at(path) : FileContent{ENOENT, {}};
+    }
     std::vector<std::string> paths;
-    int failure = 0;  ///< what each writing ends with
+    std::map<std::string, FileContent> contents;  ///< of the files that there are
+    int failure = 0;                              ///< what each writing ends with
 };
 
 /// The whole wizard window as start-up makes it, over a store of its own, with dialogs that only note what they were

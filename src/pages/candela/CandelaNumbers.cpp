@@ -96,22 +96,27 @@ class CandelaNumbers::NewTable : public GridContent {
 public:
     NewTable(CandelaNumbers &numbers, const PhotometricRecord &from) : m_numbers(numbers), m_angles(from)
     {
-        const int horizontal = from.NumHorzAngles;
-        const int vertical = from.NumVertAngles;
-        m_work.NumHorzAngles = from.NumHorzAngles;
-        m_work.NumVertAngles = from.NumVertAngles;
-        m_work.PhotometricType = from.PhotometricType;
-        m_work.HorAngles = m_angles.horizontal;
-        m_work.VertAngles = m_angles.vertical;
-        m_work.Candela.reset(horizontal, vertical);
-        m_cells.reset(horizontal, vertical);
+        takeCounts(from);
+        m_cells.reset(from.NumHorzAngles, from.NumVertAngles);
         if (m_numbers.m_flags.GridStarted)
             keepWhatFits();
+    }
+
+    NewTable(CandelaNumbers &numbers, const PhotometricRecord &from, OneBasedTable<CandelaCell> cells)
+        : m_numbers(numbers), m_angles(from), m_cells(std::move(cells))
+    {
+        takeCounts(from);
+        for (int h = 1; h <= m_cells.rows(); ++h)
+            for (int v = 1; v <= m_cells.columns(); ++v)
+                m_work.Candela(h, v) = numberOf(m_cells(h, v)).value_or(0);
     }
 
     void swap() override
     {
         OneBased<PhotometricRecord> &work = m_numbers.m_state.CandelaWorkRecord;
+        const bool hasTable = m_numbers.m_cells.rows() > 0;
+        if (!hasTable)
+            m_numbers.noteAngles();
         if (work.empty())
             work.reset(1);
         swapBuilt(work(1), m_work);
@@ -123,8 +128,8 @@ public:
         std::swap(m_numbers.m_angles, m_angles);
         std::swap(m_numbers.m_cells, m_cells);
         m_numbers.giveAngles();
-        m_numbers.m_flags.GridReady = true;
-        m_numbers.m_flags.GridStarted = true;
+        m_numbers.m_flags.GridReady = std::exchange(m_isThere, hasTable);
+        m_numbers.m_flags.GridStarted = m_numbers.m_flags.GridReady;
     }
 
     std::size_t bytes() const override
@@ -134,6 +139,16 @@ public:
     }
 
 private:
+    void takeCounts(const PhotometricRecord &from)
+    {
+        m_work.NumHorzAngles = from.NumHorzAngles;
+        m_work.NumVertAngles = from.NumVertAngles;
+        m_work.PhotometricType = from.PhotometricType;
+        m_work.HorAngles = m_angles.horizontal;
+        m_work.VertAngles = m_angles.vertical;
+        m_work.Candela.reset(from.NumHorzAngles, from.NumVertAngles);
+    }
+
     void keepWhatFits()
     {
         const OneBasedTable<double> none;
@@ -151,6 +166,7 @@ private:
     Angles m_angles;
     PhotometricRecord m_work;
     OneBasedTable<CandelaCell> m_cells;
+    bool m_isThere = true;  ///< whether there is a table once this one is, or is not any more
 };
 
 std::unique_ptr<GridContent> CandelaNumbers::withCells(std::vector<Cell> cells)
@@ -166,6 +182,23 @@ std::unique_ptr<GridContent> CandelaNumbers::withFirst(OneBasedTable<CandelaCell
 std::unique_ptr<GridContent> CandelaNumbers::ofAngles(const PhotometricRecord &from)
 {
     return std::make_unique<NewTable>(*this, from);
+}
+
+std::unique_ptr<GridContent> CandelaNumbers::ofAnglesAndCells(const PhotometricRecord &from,
+                                                              OneBasedTable<CandelaCell> cells)
+{
+    return std::make_unique<NewTable>(*this, from, std::move(cells));
+}
+
+/// Keeps, while there is no table, the angles that the record has, for the time when there is none again.
+void CandelaNumbers::noteAngles()
+{
+    m_angles = {};
+    if (m_state.PhotFiles.empty())
+        return;
+    const PhotometricRecord &record = m_state.PhotFiles(1);
+    if (record.NumHorzAngles >= 0 && record.NumVertAngles >= 0)
+        m_angles = Angles(record);
 }
 
 /// Gives the record the type, counts and angles that the table is of; it has others where the table comes back from

@@ -46,6 +46,11 @@ public:
     /// their memory serves the new ones.
     std::unique_ptr<GridContent> ofAngles(const PhotometricRecord &from);
 
+    /// A table for the angles of a record with cells of as many, which the record in slot 1 need not have yet. Taken
+    /// back where it is the first one since the wizard started, there is no table again, and the record has the angles
+    /// that it had.
+    std::unique_ptr<GridContent> ofAnglesAndCells(const PhotometricRecord &from, OneBasedTable<CandelaCell> cells);
+
 private:
     class SingleCells;
     class PastedTable;
@@ -61,6 +66,7 @@ private:
         OneBased<float> vertical;
     };
 
+    void noteAngles();
     void giveAngles();
     void keep(int h, int v);
 

@@ -61,6 +61,8 @@ void CandelaPage::start()
 void CandelaPage::connectGrid()
 {
     CandelaGrid *grid = m_form->cdaGridCd;
+    grid->offerTablePaste();
+    connect(grid, &GridView::tablePasteAsked, this, &CandelaPage::tablePasteAsked);
     connect(grid, &GridView::rebuilt, this, &CandelaPage::showTable);
     connect(grid, &GridView::cellWritten, this, [this] { m_isTypedInto = true; });
     connect(grid, &GridView::cellWritten, this, &CandelaPage::refreshPlot);
@@ -80,6 +82,19 @@ void CandelaPage::lsbStart()
         steps().forgetAll();  // there was no table before it
     if (m_tmrFlip)
         m_tmrFlip->start();
+}
+
+bool CandelaPage::pasteTable(const PhotometricRecord &angles, OneBasedTable<CandelaCell> cells)
+{
+    const bool hadTable = flags().GridReady;
+    m_form->cdaGridCd->dropEdit();
+    steps().beginAct("Paste Table");
+    m_form->cdaGridCd->apply(m_table->pastedTable(angles, std::move(cells)));
+    if (m_form->cdaGridCd->currentColumn() == CandelaTable::kLabelColumn)
+        m_form->cdaGridCd->makeCurrent(1, 1);
+    showCurrentCell();
+    steps().endAct();
+    return hadTable;
 }
 
 bool CandelaPage::followRecord()

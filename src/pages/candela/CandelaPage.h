@@ -31,10 +31,18 @@ public:
     /// Error 9 when the record's angles are fewer than it counts.
     void lsbStart();
 
+    /// Fills the table with cells by (horizontal index, vertical index), and builds it for other angles first where it
+    /// is not of these, as one step. Whether it can be taken back on this page too: there was a table before.
+    bool pasteTable(const PhotometricRecord &angles, OneBasedTable<CandelaCell> cells);
+
     /// Builds the table anew where it is of another type, other counts or other angles; what fits is kept.
     bool followRecord() override;
 
     CandelaState &flags() { return m_table->flags(); }
+
+signals:
+    /// A table is to be pasted that is yet to be understood.
+    void tablePasteAsked();
 
 protected:
     void followValue() override;

@@ -30,6 +30,19 @@ GridEdit CandelaTable::newTable()
     return {.name = "New Table", .reach = GridReach::Table, .content = m_numbers.ofAngles(from)};
 }
 
+GridEdit CandelaTable::pastedTable(const PhotometricRecord &angles, OneBasedTable<CandelaCell> cells)
+{
+    GridEdit edit{.name = "Paste Table"};
+    if (m_numbers.flags().GridReady && m_numbers.isFor(angles)) {
+        edit.reach = GridReach::Values;
+        edit.content = m_numbers.withFirst(std::move(cells), CandelaCells().rows() * CandelaCells().columns());
+    } else {
+        edit.reach = GridReach::Table;
+        edit.content = m_numbers.ofAnglesAndCells(angles, std::move(cells));
+    }
+    return edit;
+}
+
 bool CandelaTable::isOutdated() const
 {
     const PhotometricRecord *now = record();

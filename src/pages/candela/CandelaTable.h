@@ -32,6 +32,10 @@ public:
     /// blank or is new becomes 0. Error 9 when the record's angles are fewer than it counts.
     GridEdit newTable();
 
+    /// The values of a table of these angles, with a new table for them unless there is one: as one change, which gives
+    /// record slot 1 the angles.
+    GridEdit pastedTable(const PhotometricRecord &angles, OneBasedTable<CandelaCell> cells);
+
     /// Whether there is a table and record slot 1 has another type, other counts or other angles than it was built for.
     bool isOutdated() const;
 

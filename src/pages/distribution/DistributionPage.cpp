@@ -21,6 +21,10 @@ DistributionPage::DistributionPage(const PageContext &context, std::function<voi
     m_form->phoHintVert->follow(*m_form->phoGridVert);
     m_form->phoHintHorz->follow(*m_form->phoGridHorz);
     m_form->fraAngles->hide();
+    for (GridView *grid : {m_form->phoGridVert, m_form->phoGridHorz}) {
+        grid->offerTablePaste();
+        connect(grid, &GridView::tablePasteAsked, this, &DistributionPage::tablePasteAsked);
+    }
     onClick(m_form->rdoC, [this] { rdoC_Click(); });
     onClick(m_form->rdoB, [this] { rdoB_Click(); });
     connect(m_form->phoCmbVert, &AngleListBox::changed, this, &DistributionPage::phoCmbVert_Change);
@@ -48,13 +52,12 @@ void DistributionPage::rdoB_Click()
 
 void DistributionPage::followValue()
 {
-    const bool hasType = m_form->rdoC->isChecked() || m_form->rdoB->isChecked();
-    const auto entries = [&](AngleAxis axis) {
-        return hasType ? predefinedAngles(photometricType(), axis) : std::span<const std::string_view>();
+    const auto entries = [this](AngleAxis axis) {
+        return hasType() ? predefinedAngles(photometricType(), axis) : std::span<const std::string_view>();
     };
     m_form->phoCmbVert->setEntries(entries(AngleAxis::Vertical));
     m_form->phoCmbHorz->setEntries(entries(AngleAxis::Horizontal));
-    m_form->fraAngles->setVisible(hasType);
+    m_form->fraAngles->setVisible(hasType());
 }
 
 void DistributionPage::offerAngles()
@@ -110,6 +113,11 @@ void DistributionPage::cmdBack30_Click()
     m_form->phoGridVert->commitEditIfValid();
     m_form->phoGridHorz->commitEditIfValid();
     navigator().ShowPage(index() - 1);
+}
+
+bool DistributionPage::hasType() const
+{
+    return m_form->rdoC->isChecked() || m_form->rdoB->isChecked();
 }
 
 std::int16_t DistributionPage::photometricType() const

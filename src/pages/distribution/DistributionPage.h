@@ -27,6 +27,16 @@ public:
     DistributionPage(const PageContext &context, std::function<void()> lsbStart);
     ~DistributionPage() override;
 
+    /// Whether a photometric type has been chosen.
+    bool hasType() const;
+
+    /// What stands on the page.
+    DistributionFields readFields() const;
+
+signals:
+    /// A table is to be pasted that is yet to be understood.
+    void tablePasteAsked();
+
 protected:
     void followValue() override;
     void focusFault(const FaultPlace &place) override;
@@ -43,7 +53,6 @@ private:
     static void tellSign(AngleListBox &list, QLabel &hint, bool isPending);
     void resizeAngles(AngleListBox &list, AngleList &angles, AngleGrid &grid);
     std::int16_t photometricType() const;
-    DistributionFields readFields() const;
 
     std::unique_ptr<Ui::DistributionPage> m_form;
     std::function<void()> m_lsbStart;

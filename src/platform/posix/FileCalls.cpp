@@ -18,6 +18,11 @@ int FileCalls::open(const char *path, int flags, mode_t mode)
     return ::open(path, flags, mode);
 }
 
+ssize_t FileCalls::read(int file, void *data, std::size_t size)
+{
+    return ::read(file, data, size);
+}
+
 ssize_t FileCalls::write(int file, const void *data, std::size_t size)
 {
     return ::write(file, data, size);

@@ -6,11 +6,12 @@
 
 namespace penwright {
 
-/// The system calls that writing a file needs, each as the system has it: -1 with errno set on failure.
+/// The system calls that files need, each as the system has it: -1 with errno set on failure.
 class FileCalls {
 public:
     virtual ~FileCalls() = default;
     virtual int open(const char *path, int flags, mode_t mode);
+    virtual ssize_t read(int file, void *data, std::size_t size);
     virtual ssize_t write(int file, const void *data, std::size_t size);
     virtual int truncate(int file, off_t size);
     virtual int fsync(int file);

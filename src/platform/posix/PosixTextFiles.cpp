@@ -14,6 +14,7 @@
 #include <optional>
 
 #include "platform/posix/TemporaryFile.h"
+#include "platform/posix/WholeFile.h"
 
 namespace penwright {
 namespace {
@@ -115,6 +116,11 @@ int PosixTextFiles::replace(const std::string &path, std::string_view text)
 {
     const SurvivableSignals guard;
     return replaceAny(path, text);
+}
+
+FileContent PosixTextFiles::read(const std::string &path, std::size_t most, const std::function<bool(double)> &goOn)
+{
+    return readWholeFile(m_calls, path, most, goOn);
 }
 
 int PosixTextFiles::replaceAny(const std::string &path, std::string_view text)

@@ -17,6 +17,7 @@ public:
     explicit PosixTextFiles(FileCalls &calls);
 
     int replace(const std::string &path, std::string_view text) override;
+    FileContent read(const std::string &path, std::size_t most, const std::function<bool(double)> &goOn) override;
 
 private:
     int replaceAny(const std::string &path, std::string_view text);

@@ -110,6 +110,12 @@ QString withSuffix(const QString &path, const QString &suffix)
     return path + '.' + suffix;
 }
 
+/// The folder to begin in: that of the file chosen last while it is there, else the user's home.
+QString folderOf(const QFileInfo &last)
+{
+    return last.dir().exists() && !last.filePath().isEmpty() ? last.absolutePath() : QDir::homePath();
+}
+
 /// A dialog blocks every window of the program unless it is told to block the one it stands over.
 void blockParentAlone(QDialog &dialog)
 {
@@ -147,8 +153,7 @@ std::optional<std::string> QtDialogs::chooseSaveName(const SaveNameQuestion &que
     if (m_closing.isClosing())
         return std::nullopt;
     const QFileInfo last(QString::fromStdString(m_lastName));
-    const QString folder = last.dir().exists() && !m_lastName.empty() ? last.absolutePath() : QDir::homePath();
-    QFileDialog dialog(dialogParent(), QString::fromStdString(question.title), folder);
+    QFileDialog dialog(dialogParent(), QString::fromStdString(question.title), folderOf(last));
     dialog.setObjectName("commonDialog");
     dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::DontConfirmOverwrite |
                       QFileDialog::HideNameFilterDetails);
@@ -167,6 +172,25 @@ std::optional<std::string> QtDialogs::chooseSaveName(const SaveNameQuestion &que
         return std::string();
     m_lastName = withSuffix(chosen, QString::fromStdString(question.defaultSuffix)).toStdString();
     return m_lastName;
+}
+
+std::optional<std::string> QtDialogs::chooseOpenName(const OpenNameQuestion &question)
+{
+    if (m_closing.isClosing())
+        return std::nullopt;
+    const QFileInfo last(QString::fromStdString(m_lastOpened));
+    QFileDialog dialog(dialogParent(), QString::fromStdString(question.title), folderOf(last));
+    dialog.setObjectName("openDialog");
+    dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::HideNameFilterDetails);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    dialog.setNameFilter(nameFilter(question.filter));
+    widenPlaces(dialog);
+    blockParentAlone(dialog);
+    if (dialog.exec() != QDialog::Accepted || m_closing.isClosing())
+        return std::nullopt;
+    m_lastOpened = dialog.selectedFiles().value(0).toStdString();
+    return m_lastOpened;
 }
 
 }  // namespace penwright

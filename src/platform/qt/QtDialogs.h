@@ -11,7 +11,7 @@ namespace penwright {
 class Closing;
 struct OwnerWindow;
 
-/// Message boxes and the toolkit's own save dialog, modal over their owner. They block the owner alone, so that a help
+/// Message boxes and the toolkit's own file dialogs, modal over their owner. They block the owner alone, so that a help
 /// window stays usable; a system-modal box, or one without an owner, blocks every window of the program.
 class QtDialogs : public Dialogs {
 public:
@@ -24,12 +24,16 @@ public:
     /// Starts in the user's home, later in the folder of the name chosen last. The dialog is called `commonDialog`.
     std::optional<std::string> chooseSaveName(const SaveNameQuestion &question) override;
 
+    /// Starts in the user's home, later in the folder of the file chosen last. The dialog is called `openDialog`.
+    std::optional<std::string> chooseOpenName(const OpenNameQuestion &question) override;
+
 private:
     QWidget *dialogParent() const;
 
     const Closing &m_closing;
     const OwnerWindow &m_owner;
-    std::string m_lastName;  ///< chosen last, with its folder
+    std::string m_lastName;    ///< chosen last, with its folder
+    std::string m_lastOpened;  ///< the same of a file to be read
 };
 
 }  // namespace penwright

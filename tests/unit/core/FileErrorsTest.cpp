@@ -100,5 +100,14 @@ TEST(RunTimeErrors, bearTheirDescriptions)
     EXPECT_EQ(typeMismatch().source(), "PenwrightPE");
 }
 
+TEST(ReadingErrorText, namesTheFileAndTheReason)
+{
+    EXPECT_EQ(readingErrorText("/home/me/a.csv", ENOENT), "\"a.csv\" is not there any more.");
+    EXPECT_EQ(readingErrorText("a.csv", EACCES), "\"a.csv\" may not be read by you: permission denied.");
+    EXPECT_EQ(readingErrorText("/a.csv", EISDIR), "\"a.csv\" is a folder, not a file.");
+    EXPECT_EQ(readingErrorText("/a.csv", ENODEV), "\"a.csv\" is no file but a pipe or a device.");
+    EXPECT_EQ(readingErrorText("/a.csv", EIO), "\"a.csv\" cannot be read: Input/output error.");
+}
+
 }  // namespace
 }  // namespace penwright

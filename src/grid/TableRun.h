@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <variant>
+
+#include "grid/TableText.h"
+
+class QTimer;
+
+namespace penwright {
+
+class TextFiles;
+
+/// A text that is shared with the thread that reads it.
+using SharedText = std::shared_ptr<const std::string>;
+
+/// Reads texts and tables without holding up the window: what takes longer than a blink runs on a thread of its own,
+/// and what was asked for last is all that is told. A thread that a disk holds up is left behind, not waited for.
+class TableRun : public QObject {
+    Q_OBJECT
+
+public:
+    /// The longest file that is read, in bytes.
+    static constexpr std::size_t kMostBytes = 100'000'000;
+
+    explicit TableRun(QObject *parent);
+    ~TableRun() override;
+
+    /// Reads a file and makes UTF-8 of it; `files` outlives the thread.
+    void readFile(TextFiles &files, const std::string &path);
+
+    /// Reads the table of a text.
+    void readTable(const SharedText &text, const TableReading &reading);
+
+    /// Nothing more is told of what runs.
+    void stop();
+
+signals:
+    /// How much is done, 0 to 1; told while something runs for longer than a moment.
+    void progressed(double part);
+
+    /// The file's text, or its error, an errno.
+    void fileRead(const penwright::SharedText &text, int error);
+
+    void tableRead(const std::variant<penwright::TableContent, penwright::TableFault> &table);
+
+private:
+    struct Run;
+    using GoOn = std::function<bool(double)>;
+
+    /// Has `work` done, on a thread unless it is short, and then what it answers, on this one.
+    void start(bool isShort, std::function<std::function<void()>(const GoOn &)> work);
+
+    std::shared_ptr<Run> m_run;
+    QTimer *m_look;
+};
+
+}  // namespace penwright
