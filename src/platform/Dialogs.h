@@ -32,6 +32,7 @@ struct SaveNameQuestion {
     std::string title;
     std::string filter;
     std::string defaultSuffix;
+    std::string proposedName;  ///< "" for the name that was chosen last with that suffix
 };
 
 /// What blocks and asks the user. Each call returns at once, unshown, while the program is unloading.

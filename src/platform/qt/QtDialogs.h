@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "platform/Dialogs.h"
@@ -29,7 +30,8 @@ private:
 
     const Closing &m_closing;
     const OwnerWindow &m_owner;
-    std::string m_lastName;  ///< chosen last, with its folder
+    std::string m_lastName;                          ///< chosen last, with its folder
+    std::map<std::string, std::string> m_lastNames;  ///< the same for each suffix
 };
 
 }  // namespace penwright
