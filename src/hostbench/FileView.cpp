@@ -143,11 +143,11 @@ void FileView::followPalette()
     m_coneLabel->setText(line(m_picture->look().cone, tr("Cone through V")));
 }
 
-void FileView::showFile(const PhotometricRecord &record)
+void FileView::showFile(const HeldFile &file)
 {
-    m_record = record;
+    m_record = file.record;
     try {
-        m_text->setPlainText(QString::fromStdString(iesFileText(record)));
+        m_text->setPlainText(QString::fromStdString(file.text.empty() ? iesFileText(file.record) : file.text));
         fillChoices();
     } catch (const RunTimeError &error) {
         clear();

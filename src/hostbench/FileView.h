@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-#include "core/PhotometricRecord.h"
+#include "hostbench/HeldFiles.h"
 
 class QComboBox;
 class QLabel;
@@ -19,8 +19,8 @@ class FileView : public QWidget {
 public:
     explicit FileView(QWidget *parent = nullptr);
 
-    /// Shows a file; the plane first shown goes through its largest value.
-    void showFile(const PhotometricRecord &record);
+    /// Shows a file, its text as it stands on disk; the plane first shown goes through its largest value.
+    void showFile(const HeldFile &file);
 
     /// Shows that no file is selected.
     void clear();

@@ -45,7 +45,7 @@ protected:
 
 TEST_F(FileViewTest, showsThePlaneOfTheLargestValueAndACone)
 {
-    m_view.showFile(sampleLuminaire());
+    m_view.showFile({sampleLuminaire(), false, {}});
     EXPECT_EQ(choice("plane")->currentText(), "0\u00b0");
     EXPECT_EQ(choice("cone")->currentText(), "45\u00b0");
     EXPECT_EQ(choice("plane")->count(), 5);
@@ -60,7 +60,7 @@ TEST_F(FileViewTest, theLargestValueNeedNotBeTheFirst)
 {
     PhotometricRecord record = sampleLuminaire();
     record.Candela(4, 13) = 9000;
-    m_view.showFile(record);
+    m_view.showFile({record, false, {}});
     EXPECT_EQ(choice("plane")->currentText(), "67.5\u00b0");
     EXPECT_EQ(choice("cone")->currentText(), "60\u00b0");
     EXPECT_TRUE(picture()->accessibleDescription().contains("9000"));
@@ -68,7 +68,7 @@ TEST_F(FileViewTest, theLargestValueNeedNotBeTheFirst)
 
 TEST_F(FileViewTest, anotherPlaneIsAnotherPicture)
 {
-    m_view.showFile(sampleLuminaire());
+    m_view.showFile({sampleLuminaire(), false, {}});
     const QString before = picture()->accessibleDescription();
     const QImage picturedBefore = picture()->grab().toImage();
     choice("plane")->setFocus();
@@ -82,17 +82,17 @@ TEST_F(FileViewTest, typeBHasNoCone)
 {
     PhotometricRecord record = sampleLuminaire();
     record.PhotometricType = kTypeB;
-    m_view.showFile(record);
+    m_view.showFile({record, false, {}});
     EXPECT_FALSE(choice("cone")->isVisible());
     EXPECT_GT(count(picture()->look().plane), 100);
     EXPECT_EQ(count(picture()->look().cone), 0);
-    m_view.showFile(sampleLuminaire());
+    m_view.showFile({sampleLuminaire(), false, {}});
     EXPECT_TRUE(choice("cone")->isVisible());
 }
 
 TEST_F(FileViewTest, withoutAFileTheGridIsEmpty)
 {
-    m_view.showFile(sampleLuminaire());
+    m_view.showFile({sampleLuminaire(), false, {}});
     m_view.clear();
     EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "");
     EXPECT_EQ(count(picture()->look().plane), 0);
@@ -104,7 +104,7 @@ TEST_F(FileViewTest, aRecordWhoseListsDisagreeShowsWhy)
 {
     PhotometricRecord torn = sampleLuminaire();
     torn.NumVertAngles = 40;
-    m_view.showFile(torn);
+    m_view.showFile({torn, false, {}});
     EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "Subscript out of range");
     EXPECT_EQ(count(picture()->look().plane), 0);
 }
@@ -112,7 +112,7 @@ TEST_F(FileViewTest, aRecordWhoseListsDisagreeShowsWhy)
 TEST_F(FileViewTest, curvesStandOutOnDarkToo)
 {
     const QPalette light = QApplication::palette();
-    m_view.showFile(sampleLuminaire());
+    m_view.showFile({sampleLuminaire(), false, {}});
     const QColor onLight = picture()->look().plane;
     QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
     EXPECT_TRUE(QTest::qWaitFor([&] { return picture()->look().plane.lightness() > onLight.lightness() + 40; }));
