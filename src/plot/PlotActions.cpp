@@ -7,11 +7,14 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QSaveFile>
+#include <QWidget>
+
+#include <utility>
 
 #include "core/NumberText.h"
 #include "platform/Dialogs.h"
 #include "plot/PlotExport.h"
-#include "plot/PlotView.h"
+#include "plot/PlotPicture.h"
 
 namespace penwright {
 
@@ -29,14 +32,14 @@ QString writeFile(const QString &path, const QByteArray &bytes)
 
 }  // namespace
 
-PlotActions::PlotActions(PlotView &view) : QObject(&view), m_view(view), m_menu(new QMenu(&view))
+PlotActions::PlotActions(QWidget &box, std::function<const PlotPicture &()> picture)
+    : QObject(&box), m_picture(std::move(picture)), m_menu(new QMenu(&box))
 {
     m_menu->setObjectName("mnuPlot");
     m_linear = m_menu->addAction(QStringLiteral("&Linear View"));
     m_linear->setObjectName("linearView");
     m_linear->setCheckable(true);
-    connect(m_linear, &QAction::triggered, this,
-            [this](bool isLinear) { m_view.setShape(isLinear ? PlotShape::Linear : PlotShape::Polar); });
+    connect(m_linear, &QAction::triggered, this, &PlotActions::linearChosen);
     m_menu->addSeparator();
     QAction *copyAction = add("copyPicture", QStringLiteral("&Copy Picture"), &PlotActions::copy);
     copyAction->setShortcut(QKeySequence::Copy);  // shown alone: the key itself is the view's
@@ -63,33 +66,33 @@ void PlotActions::setDialogs(Dialogs &dialogs)
     m_savePng->setVisible(true);
 }
 
-void PlotActions::popUp(const QPoint &place)
+void PlotActions::popUp(const QPoint &place, bool isLinear)
 {
-    m_linear->setChecked(m_view.shape() == PlotShape::Linear);
+    m_linear->setChecked(isLinear);
     m_menu->popup(place);
 }
 
 void PlotActions::copy()
 {
     auto *data = new QMimeData;
-    data->setImageData(plotImage(m_view.picture()));
-    data->setData("image/svg+xml", plotSvg(m_view.picture()));
+    data->setImageData(plotImage(m_picture()));
+    data->setData("image/svg+xml", plotSvg(m_picture()));
     QGuiApplication::clipboard()->setMimeData(data);
 }
 
 void PlotActions::saveSvg()
 {
-    save(plotSvg(m_view.picture()), "svg", "SVG pictures (*.svg)|*.svg");
+    save(plotSvg(m_picture()), "svg", "SVG pictures (*.svg)|*.svg");
 }
 
 void PlotActions::savePng()
 {
-    save(plotPng(m_view.picture()), "png", "PNG pictures (*.png)|*.png");
+    save(plotPng(m_picture()), "png", "PNG pictures (*.png)|*.png");
 }
 
 void PlotActions::save(const QByteArray &picture, const char *suffix, const char *filter)
 {
-    const std::string proposed = "candela-plot-H" + generalText(m_view.picture().curves.horizontalAngle) + "." + suffix;
+    const std::string proposed = "candela-plot-H" + generalText(m_picture().curves.horizontalAngle) + "." + suffix;
     const auto chosen = m_dialogs->chooseSaveName({kTitle, filter, suffix, proposed});
     if (!chosen || chosen->empty())
         return;

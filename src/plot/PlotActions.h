@@ -3,14 +3,17 @@
 #include <QByteArray>
 #include <QObject>
 
+#include <functional>
+
 class QAction;
 class QMenu;
 class QPoint;
+class QWidget;
 
 namespace penwright {
 
 class Dialogs;
-class PlotView;
+struct PlotPicture;
 
 /// The menu of a picture box: another shape, a copy for the clipboard, a file. A file is written whole or not at all;
 /// why it was not is told in one sentence.
@@ -18,13 +21,17 @@ class PlotActions : public QObject {
     Q_OBJECT
 
 public:
-    explicit PlotActions(PlotView &view);
+    /// `picture` finds what is shown at the time in `box`.
+    PlotActions(QWidget &box, std::function<const PlotPicture &()> picture);
 
     /// Without dialogs nothing can be saved.
     void setDialogs(Dialogs &dialogs);
 
-    void popUp(const QPoint &place);
+    void popUp(const QPoint &place, bool isLinear);
     void copy();
+
+signals:
+    void linearChosen(bool isLinear);
 
 private:
     QAction *add(const char *name, const QString &text, void (PlotActions::*act)());
@@ -33,7 +40,7 @@ private:
     void save(const QByteArray &picture, const char *suffix, const char *filter);
     void tell(const QString &text);
 
-    PlotView &m_view;
+    std::function<const PlotPicture &()> m_picture;
     Dialogs *m_dialogs = nullptr;
     QMenu *m_menu = nullptr;
     QAction *m_linear = nullptr;

@@ -11,6 +11,7 @@ namespace {
 
 constexpr double kGap = 3;  // pixels, as all lengths here
 constexpr double kMargin = 6;
+constexpr double kAside = 7;  // of figures and letters beside the grid, where a mark may stand in its corner
 constexpr double kLeastLetteredWidth = 90;
 constexpr double kLeastLetteredHeight = 60;
 constexpr const char *kWidestAngle = "360\u00B0";
@@ -64,7 +65,7 @@ std::vector<PlotFigure> candelasBeside(const PlotField &field, const PlotTextRoo
         if (top < free)
             return;
         const double width = room.figureWidth(text);
-        figures.push_back({text, {field.box.left - kGap - width, top, width, room.figureHeight}});
+        figures.push_back({text, {field.box.left - kAside - width, top, width, room.figureHeight}});
         free = top + room.figureHeight + kGap;
     };
     for (auto ring = rings.rbegin(); ring != rings.rend(); ++ring)
@@ -120,9 +121,9 @@ PlotField plotField(const PlotBox &area, const PlotTextRoom &room, const PlotPic
     const double bottom = area.top + area.height;
     if (field.lettered) {
         const double letters = std::max(room.letterSize("H").width, room.letterSize("V").width);
-        const double beside = std::max(room.figureWidth(kWidestAngle) / 2, letters + kGap) + kMargin;
-        const double line = room.figureHeight + kGap + kMargin;
-        const double before = std::max(widestCandela(picture.rings, room) + kGap, room.figureWidth(kWidestAngle) / 2);
+        const double beside = std::max(room.figureWidth(kWidestAngle) / 2, letters + kAside) + kGap;
+        const double line = room.figureHeight + kAside + kGap;
+        const double before = std::max(widestCandela(picture.rings, room) + kAside, room.figureWidth(kWidestAngle) / 2);
         const double above = picture.curves.typeC ? line : room.figureHeight / 2 + kMargin;
         field.box = sharp(area.left + before + kMargin, area.top + above, right - beside, bottom - line);
     } else {
@@ -141,12 +142,12 @@ PlotLettering fieldLettering(const PlotField &field, const PlotTextRoom &room, c
     if (!field.lettered)
         return lettering;
     const double bottom = field.box.top + field.box.height;
-    const double right = field.box.left + field.box.width + kGap;
+    const double right = field.box.left + field.box.width + kAside;
     const bool typeC = picture.curves.typeC;
-    appendAngles(lettering.degrees, field, field.plane, room, bottom + kGap, typeC ? fromZero : asListed);
+    appendAngles(lettering.degrees, field, field.plane, room, bottom + kAside, typeC ? fromZero : asListed);
     lettering.letters.push_back({"V", {right, bottom}});
     if (typeC) {
-        const double top = field.box.top - kGap - room.figureHeight;
+        const double top = field.box.top - kAside - room.figureHeight;
         appendAngles(lettering.degrees, field, field.cone, room, top, horizontalAngle);
         lettering.letters.push_back({"H", {right, field.box.top + room.letterSize("H").height}});
     }

@@ -48,7 +48,8 @@ std::optional<PlotStep> stepOf(int key)
 
 }  // namespace
 
-PlotView::PlotView(QWidget *parent) : QFrame(parent), m_actions(new PlotActions(*this))
+PlotView::PlotView(QWidget *parent)
+    : QFrame(parent), m_actions(new PlotActions(*this, [this]() -> const PlotPicture & { return m_picture; }))
 {
     setScreenReaderRole(*this, QAccessible::Graphic);
     setFrameStyle(QFrame::StyledPanel | QFrame::Sunken);
@@ -60,6 +61,8 @@ PlotView::PlotView(QWidget *parent) : QFrame(parent), m_actions(new PlotActions(
     m_rest.setSingleShot(true);
     m_rest.setInterval(kRest);
     connect(&m_rest, &QTimer::timeout, this, &PlotView::tellReading);
+    connect(m_actions, &PlotActions::linearChosen, this,
+            [this](bool isLinear) { setShape(isLinear ? PlotShape::Linear : PlotShape::Polar); });
 }
 
 PlotView::~PlotView() = default;
@@ -187,7 +190,7 @@ void PlotView::focusOutEvent(QFocusEvent *event)
 void PlotView::contextMenuEvent(QContextMenuEvent *event)
 {
     const bool isKey = event->reason() == QContextMenuEvent::Keyboard;
-    m_actions->popUp(isKey ? mapToGlobal(rect().center()) : event->globalPos());
+    m_actions->popUp(isKey ? mapToGlobal(rect().center()) : event->globalPos(), m_shape == PlotShape::Linear);
 }
 
 void PlotView::paintReading(QPainter &painter) const
