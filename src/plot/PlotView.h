@@ -53,7 +53,7 @@ public:
     /// The value that is marked.
     const std::optional<PlotReading> &reading() const { return m_reading; }
 
-    QSize sizeHint() const override { return {280, 280}; }
+    QSize sizeHint() const override { return {280, 176}; }
     QSize minimumSizeHint() const override { return {80, 80}; }
 
 signals:
