@@ -4,34 +4,52 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QSaveFile>
 #include <QTimer>
 #include <QVBoxLayout>
 
-#include "core/IesText.h"
 #include "core/StartupState.h"
+#include "hostbench/DiskFiles.h"
+#include "hostbench/FileNames.h"
+#include "hostbench/OpenedFile.h"
 #include "hostbench/TwoLineDelegate.h"
-#include "platform/RunTimeError.h"
 
 namespace penwright {
 
 namespace {
 
-bool writeFile(const QString &path, const PhotometricRecord &record, QString &reason)
+const QString kFilter = QStringLiteral("IES files (*.ies *.IES)");
+
+/// Selected, so that typing replaces it.
+void offerName(QFileDialog &dialog, const QString &name)
 {
-    try {
-        QSaveFile file(path);
-        const bool isWritten = file.open(QIODevice::WriteOnly) &&
-                               file.write(QByteArray::fromStdString(iesFileText(record))) >= 0 && file.commit();
-        reason = file.errorString();
-        return isWritten;
-    } catch (const RunTimeError &error) {
-        reason = QString::fromStdString(error.description());
-        return false;
-    }
+    auto *line = dialog.findChild<QLineEdit *>("fileNameEdit");
+    if (!line)
+        return;
+    line->setText(name);
+    line->selectAll();
+}
+
+/// "" when the file is added, else why not.
+QString addFromDisk(HeldFiles &files, const QString &path, int &place)
+{
+    const QString whole = QFileInfo(path).absoluteFilePath();
+    const QString name = QFileInfo(whole).fileName();
+    const DiskFile read = readDiskFile(whole);
+    if (!read.problem.isEmpty())
+        return FilePanel::tr("%1 was not opened: %2.").arg(name, read.problem);
+    auto opened =
+        openedFile(whole.toStdString(), {read.bytes.constData(), static_cast<std::size_t>(read.bytes.size())});
+    if (const auto *problem = std::get_if<std::string>(&opened))
+        return QString::fromStdString(*problem);
+    const int added = files.add(std::move(std::get<HeldFile>(opened)));
+    if (added < 0)
+        return FilePanel::tr("%1 was not opened: %2 files are held already.").arg(name).arg(kMaxFiles);
+    place = added;
+    return {};
 }
 
 }  // namespace
@@ -58,16 +76,22 @@ FilePanel::FilePanel(HeldFiles &files, QWidget *parent) : QWidget(parent), m_fil
     layout->addWidget(m_list);
 
     auto *buttons = new QHBoxLayout;
+    m_open = new QPushButton(tr("Open..."));
+    m_open->setObjectName("openFiles");
+    m_open->setShortcut(QKeySequence::Open);
+    m_open->setToolTip(tr("Reads IES files from disk, to look at them (Ctrl+O)"));
     m_save = new QPushButton(tr("Save As..."));
     m_save->setObjectName("saveAs");
     m_remove = new QPushButton(tr("Remove"));
     m_remove->setObjectName("remove");
+    buttons->addWidget(m_open);
     buttons->addWidget(m_save);
     buttons->addWidget(m_remove);
     layout->addLayout(buttons);
 
     connect(m_list, &QListWidget::currentRowChanged, this, &FilePanel::enableButtons);
     connect(m_list, &QListWidget::currentRowChanged, this, &FilePanel::selectionChanged);
+    connect(m_open, &QPushButton::clicked, this, &FilePanel::chooseFiles);
     connect(m_save, &QPushButton::clicked, this, &FilePanel::saveSelected);
     connect(m_remove, &QPushButton::clicked, this, &FilePanel::removeSelected);
     showFiles(-1);
@@ -110,18 +134,47 @@ void FilePanel::enableButtons()
                                : tr("No file is selected"));
 }
 
+void FilePanel::chooseFiles()
+{
+    QFileDialog dialog(this, tr("Open Photometric Files"), m_folder, kFilter + ";;" + tr("All files (*)"));
+    dialog.setFileMode(QFileDialog::ExistingFiles);
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    m_folder = dialog.directory().absolutePath();
+    open(dialog.selectedFiles());
+}
+
+void FilePanel::open(const QStringList &paths)
+{
+    QStringList problems;
+    int place = -1;
+    for (const QString &path : paths)
+        if (const QString problem = addFromDisk(m_files, path, place); !problem.isEmpty())
+            problems.append(problem);
+    if (place >= 0)
+        showFiles(place);
+    if (problems.isEmpty())
+        return;
+    QMessageBox box(QMessageBox::Warning, tr("Open Photometric Files"), problems.join('\n'), QMessageBox::Ok, this);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
 void FilePanel::saveSelected()
 {
     const int place = selected();
-    QFileDialog dialog(this, tr("Save Photometric File As"), {}, tr("IES files (*.ies *.IES)"));
+    QFileDialog dialog(this, tr("Save Photometric File As"), m_folder, kFilter);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setDefaultSuffix("ies");
+    offerName(dialog, QString::fromStdString(proposedFileName(m_files.at(place).record)));
     if (dialog.exec() != QDialog::Accepted || place >= m_files.count())
         return;
     const QString path = dialog.selectedFiles().value(0);
-    QString reason;
-    if (!writeFile(path, m_files.at(place).record, reason)) {
+    m_folder = QFileInfo(path).path();
+    const QString reason = writeDiskFile(path, m_files.at(place).record);
+    if (!reason.isEmpty()) {
         QMessageBox::warning(this, tr("Save Photometric File As"), tr("%1 was not saved: %2").arg(path, reason));
         return;
     }
@@ -140,13 +193,17 @@ void FilePanel::removeSelected()
     showFiles(std::min(place, m_files.count() - 1));
 }
 
-bool FilePanel::mayLoseFiles()
+bool FilePanel::mayClose(int wizardsAtWork)
 {
     const int count = m_files.unsavedCount();
-    if (count == 0)
-        return true;
-    const QString what = count == 1 ? tr("1 file is not saved.") : tr("%1 files are not saved.").arg(count);
-    return confirms(tr("%1 Close all the same?").arg(what), tr("Close Without Saving"));
+    QStringList losses;
+    if (count > 0)
+        losses.append(count == 1 ? tr("1 file is not saved.") : tr("%1 files are not saved.").arg(count));
+    if (wizardsAtWork > 0)
+        losses.append(wizardsAtWork == 1
+                          ? tr("1 wizard is open and has not finished its file.")
+                          : tr("%1 wizards are open and have not finished their files.").arg(wizardsAtWork));
+    return losses.isEmpty() || confirms(tr("%1 Close all the same?").arg(losses.join(' ')), tr("Close Without Saving"));
 }
 
 bool FilePanel::confirms(const QString &question, const QString &loss)

@@ -23,8 +23,12 @@ public:
     /// The place of the file selected, -1 for none.
     int selected() const;
 
-    /// Asks before files that are not saved are lost; true when there are none, or when the user means it.
-    bool mayLoseFiles();
+    /// Reads files from disk and adds them, the last one selected. Why one cannot be read or held is told in one box.
+    void open(const QStringList &paths);
+
+    /// Asks before files that are not saved are lost, and what was typed into wizards at work; true when there is
+    /// nothing to lose, or when the user means it.
+    bool mayClose(int wizardsAtWork);
 
 protected:
     /// Has the selected file in sight.
@@ -34,6 +38,7 @@ signals:
     void selectionChanged();
 
 private:
+    void chooseFiles();
     void saveSelected();
     void removeSelected();
     bool confirms(const QString &question, const QString &loss);
@@ -42,7 +47,9 @@ private:
     HeldFiles &m_files;
     QLabel *m_count = nullptr;
     QListWidget *m_list = nullptr;
+    QPushButton *m_open = nullptr;
     QPushButton *m_save = nullptr;
+    QString m_folder;  ///< of the file chosen last
     QPushButton *m_remove = nullptr;
 };
 

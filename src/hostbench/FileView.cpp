@@ -2,17 +2,23 @@
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFontDatabase>
 #include <QGridLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QSplitter>
+#include <QVBoxLayout>
 
+#include "controls/FigureList.h"
 #include "controls/MixedColour.h"
+#include "controls/NumberedText.h"
+#include "controls/RemarkList.h"
 #include "core/IesText.h"
 #include "core/NumberText.h"
 #include "platform/RunTimeError.h"
+#include "plot/PlotStatus.h"
 #include "plot/PlotView.h"
+#include "review/Figures.h"
+#include "review/Photometry.h"
+#include "review/Remarks.h"
 
 namespace penwright {
 
@@ -61,6 +67,56 @@ PlotPicture pictureOf(const PhotometricRecord &record, float horizontalAngle, fl
     }
 }
 
+QLabel *headingOf(const QString &text)
+{
+    auto *heading = new QLabel(text);
+    heading->setProperty("heading", true);
+    return heading;
+}
+
+/// A list below its heading.
+QWidget *partOf(QLabel *heading, QWidget *list)
+{
+    auto *part = new QWidget;
+    auto *layout = new QVBoxLayout(part);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
+    layout->addWidget(heading);
+    layout->addWidget(list, 1);
+    return part;
+}
+
+/// The upper one gets two thirds of the height.
+QWidget *stacked(QWidget *upper, QWidget *lower)
+{
+    auto *stack = new QSplitter(Qt::Vertical);
+    stack->addWidget(upper);
+    stack->addWidget(lower);
+    stack->setStretchFactor(0, 2);
+    stack->setStretchFactor(1, 1);
+    stack->setSizes({400, 200});
+    stack->setChildrenCollapsible(false);
+    stack->setHandleWidth(10);
+    return stack;
+}
+
+std::vector<FigureRow> rowsOf(const std::vector<Figure> &figures)
+{
+    std::vector<FigureRow> rows;
+    for (const Figure &figure : figures)
+        rows.push_back({figure.name, figure.unit.empty() ? figure.text : figure.text + " " + std::string(figure.unit),
+                        figure.reason});
+    return rows;
+}
+
+std::vector<std::string> sentencesOf(const std::vector<Remark> &remarks)
+{
+    std::vector<std::string> sentences;
+    for (const Remark &remark : remarks)
+        sentences.push_back(remark.text);
+    return sentences;
+}
+
 void fill(QComboBox *choice, const OneBased<float> &angles)
 {
     choice->clear();
@@ -73,18 +129,9 @@ void fill(QComboBox *choice, const OneBased<float> &angles)
 
 FileView::FileView(QWidget *parent) : QWidget(parent)
 {
-    m_text = new QPlainTextEdit;
-    m_text->setObjectName("fileText");
-    m_text->setAccessibleName(tr("Text of the selected file"));
-    m_text->setReadOnly(true);
-    m_text->document()->setDocumentMargin(10);
-    m_text->setLineWrapMode(QPlainTextEdit::NoWrap);
-    m_text->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    m_text->setPlaceholderText(tr("Select a file to see its text, or start with New Photometric File..."));
-
     auto *halves = new QSplitter;
-    halves->addWidget(m_text);
-    halves->addWidget(makePicture());
+    halves->addWidget(makeTextPart());
+    halves->addWidget(makePicturePart());
     halves->setStretchFactor(0, 3);
     halves->setStretchFactor(1, 2);
     halves->setChildrenCollapsible(false);
@@ -93,6 +140,29 @@ FileView::FileView(QWidget *parent) : QWidget(parent)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(halves);
     clear();
+}
+
+QWidget *FileView::makeTextPart()
+{
+    m_text = new NumberedText;
+    m_text->setObjectName("fileText");
+    m_text->setAccessibleName(tr("Text of the selected file"));
+    m_text->setPlaceholderText(tr("Select a file to see its text, or start with New Photometric File..."));
+    m_remarks = new RemarkList;
+    m_remarks->setObjectName("remarkList");
+    m_remarks->setAccessibleName(tr("Remarks on the selected file"));
+    m_remarksHeading = headingOf({});
+    m_remarksPart = partOf(m_remarksHeading, m_remarks);
+    return stacked(m_text, m_remarksPart);
+}
+
+QWidget *FileView::makePicturePart()
+{
+    m_figures = new FigureList;
+    m_figures->setObjectName("figureList");
+    m_figures->setAccessibleName(tr("Figures of the selected file"));
+    m_figuresPart = partOf(headingOf(tr("Figures")), m_figures);
+    return stacked(makePicture(), m_figuresPart);
 }
 
 QComboBox *FileView::makeChoice(const char *name, const QString &accessibleName)
@@ -113,6 +183,9 @@ QWidget *FileView::makePicture()
     m_picture->setAccessibleName(tr("Polar picture of the selected file"));
     m_picture->setFrameStyle(QFrame::NoFrame);
     m_picture->setMinimumSize(140, 140);
+    m_picture->setDialogs(m_dialogs);
+    auto *status = new PlotStatus;
+    status->follow(*m_picture);
     m_picture->setFollowsPalette();
     m_plane = makeChoice("plane", tr("Horizontal angle of the vertical plane shown"));
     m_cone = makeChoice("cone", tr("Vertical angle of the cone shown"));
@@ -122,10 +195,11 @@ QWidget *FileView::makePicture()
     m_coneLabel->setBuddy(m_cone);
     auto *layout = new QGridLayout(whole);
     layout->addWidget(m_picture, 0, 0, 1, 2);
-    layout->addWidget(m_planeLabel, 1, 0);
-    layout->addWidget(m_plane, 1, 1);
-    layout->addWidget(m_coneLabel, 2, 0);
-    layout->addWidget(m_cone, 2, 1);
+    layout->addWidget(status, 1, 0, 1, 2);
+    layout->addWidget(m_planeLabel, 2, 0);
+    layout->addWidget(m_plane, 2, 1);
+    layout->addWidget(m_coneLabel, 3, 0);
+    layout->addWidget(m_cone, 3, 1);
     layout->setRowStretch(0, 1);
     layout->setColumnStretch(1, 1);
     return whole;
@@ -143,22 +217,43 @@ void FileView::followPalette()
     m_coneLabel->setText(line(m_picture->look().cone, tr("Cone through V")));
 }
 
-void FileView::showFile(const PhotometricRecord &record)
+void FileView::showFile(const HeldFile &file)
 {
-    m_record = record;
+    m_record = file.record;
     try {
-        m_text->setPlainText(QString::fromStdString(iesFileText(record)));
+        showText(file);
         fillChoices();
+        showReview();
     } catch (const RunTimeError &error) {
         clear();
-        m_text->setPlainText(QString::fromStdString(error.description()));
+        m_text->showSentence(error.description());
     }
+}
+
+void FileView::showText(const HeldFile &file)
+{
+    m_text->showText(file.text.empty() ? iesFileText(file.record) : file.text);
+}
+
+void FileView::showReview()
+{
+    const Photometry photometry = photometryOf(m_record);
+    const std::vector<Remark> remarks = remarksOf(m_record, photometry);
+    m_figures->showFigures(rowsOf(figuresOf(m_record, photometry)));
+    m_remarks->showRemarks(sentencesOf(remarks));
+    m_remarksHeading->setText(remarks.empty() ? tr("No remarks") : tr("Remarks: %1").arg(remarks.size()));
+    m_remarks->setVisible(!remarks.empty());
+    m_remarksPart->setMaximumHeight(remarks.empty() ? m_remarksHeading->sizeHint().height() : QWIDGETSIZE_MAX);
+    m_remarksPart->show();
+    m_figuresPart->show();
 }
 
 void FileView::clear()
 {
     m_record = {};
-    m_text->clear();
+    m_text->showSentence({});
+    m_remarksPart->hide();
+    m_figuresPart->hide();
     fillChoices();
 }
 

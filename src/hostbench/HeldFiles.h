@@ -10,6 +10,7 @@ namespace penwright {
 struct HeldFile {
     PhotometricRecord record;
     bool isSaved = false;  ///< on disk under its name
+    std::string text;      ///< as it stands on disk, "" where it is the writer's of the record
 };
 
 /// The files that a host holds, at most 25, in the order in which they came. Places are counted from 0.

@@ -30,7 +30,10 @@ QLabel[quiet="true"] { color: @quiet; }
 QPushButton:checked { background: @hover; }
 QToolButton { font-weight: bold; color: @text; border: none; padding: 2px; }
 QToolButton:focus { color: @accent; }
-QListWidget, QTreeWidget, QPlainTextEdit#fileText, QFrame#picture { border: 1px solid @line; background: @base;
+QToolButton#plotLinear { font-weight: normal; border: 1px solid @border; border-radius: 4px; padding: 3px 10px; }
+QToolButton#plotLinear:checked { background: @hover; }
+QToolButton#plotLinear:focus { border-color: @accent; }
+QListWidget, QTreeWidget, QPlainTextEdit#fileText, QFrame#picture, #figureList, #remarkList { border: 1px solid @line; background: @base;
                                               selection-background-color: #1d5fa8; selection-color: #ffffff; }
 QSplitter::handle { background: transparent; image: none; }
 QTreeWidget::item { padding: 3px; }

@@ -1,5 +1,6 @@
 #include "hostbench/HostWindow.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QGuiApplication>
@@ -185,8 +186,10 @@ void HostWindow::sendDeleteFile()
 
 void HostWindow::obey(ToolTab *tab, const ToolCommand &command)
 {
-    if (bringsRecord(command.word))
+    if (bringsRecord(command.word)) {
+        tab->setHandedOver();
         readRecord(tab, isSavedOnDisk(command.word));
+    }
     if (expectsClose(command.word))
         tab->run().tool().sendClose();
     emit commandDone(tab, command);
@@ -199,7 +202,7 @@ void HostWindow::readRecord(ToolTab *tab, bool isSaved)
             const QString name = QString::fromStdString(read.record.filename);
             if (!read.problem.empty())
                 note(tab, tr("%1: %2").arg(name, QString::fromStdString(read.problem)));
-            else if (!addFile({photometricRecord(read.record), isSaved}))
+            else if (!addFile({photometricRecord(read.record), isSaved, {}}))
                 note(tab, tr("%1 is not added: the list is full").arg(name));
         }
     } catch (const std::exception &error) {
@@ -249,7 +252,7 @@ void HostWindow::followPalette()
 
 void HostWindow::closeEvent(QCloseEvent *event)
 {
-    if (!m_isClosing && !m_panel->mayLoseFiles())
+    if (!m_isClosing && !m_panel->mayClose(wizardsAtWork()))
         return event->ignore();
     if (m_tools.isEmpty())
         return QMainWindow::closeEvent(event);
@@ -277,7 +280,7 @@ void HostWindow::note(ToolTab *tab, const QString &text)
 void HostWindow::showSelected()
 {
     const int place = m_panel->selected();
-    place < 0 ? m_view->clear() : m_view->showFile(m_files.at(place).record);
+    place < 0 ? m_view->clear() : m_view->showFile(m_files.at(place));
 }
 
 bool HostWindow::isNarrow() const
@@ -306,6 +309,12 @@ void HostWindow::enableButtons()
                    .isToolShown = shownTool() != nullptr,
                    .isFileSelected = m_panel->selected() >= 0,
                    .isNarrow = isNarrow()});
+}
+
+int HostWindow::wizardsAtWork() const
+{
+    return static_cast<int>(
+        std::count_if(m_tools.begin(), m_tools.end(), [](const ToolTab *tab) { return tab->isAtWork(); }));
 }
 
 ToolTab *HostWindow::shownTool() const

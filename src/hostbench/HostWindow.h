@@ -17,7 +17,7 @@ class LogPanel;
 
 /// The stand-in host's window: the files it holds, text and picture of the one selected, a tab for each tool that runs,
 /// and the log of the link. Where there is little room, the tool shown gets that of the files. Closing it closes the
-/// tools first, and asks before that when files would be lost.
+/// tools first, and asks before that when files would be lost or a wizard is at work.
 class HostWindow : public QMainWindow {
     Q_OBJECT
 
@@ -37,6 +37,9 @@ public:
 
     /// Adds a file as if a tool had brought it, and selects it. False when the list is full.
     bool addFile(HeldFile file);
+
+    /// Reads files from disk and adds them, the last one selected; what cannot be read is told in one box.
+    void openFiles(const QStringList &paths) { m_panel->open(paths); }
 
     /// Puts the selected file into the store of the tool whose tab is shown and sends "DATACHANGED".
     void sendDataChanged();
@@ -71,6 +74,7 @@ private:
     bool isNarrow() const;
     void enableButtons();
     ToolTab *shownTool() const;
+    int wizardsAtWork() const;
 
     HostStore &m_store;
     QString m_toolProgram;

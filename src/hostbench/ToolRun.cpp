@@ -41,7 +41,8 @@ void ToolRun::kill()
 void ToolRun::poll()
 {
     try {
-        m_tool.poll();
+        if (m_tool.poll())
+            watchSilence();
         m_storeFailed = false;
     } catch (const std::exception &error) {
         if (!std::exchange(m_storeFailed, true))
@@ -49,9 +50,33 @@ void ToolRun::poll()
     }
 }
 
+void ToolRun::watchSilence()
+{
+    switch (m_silence.look(std::exchange(m_hasTaken, false), m_tool.isAllTaken())) {
+        case SilenceWatch::Finding::AskSomething:
+            return emit askedToListen();
+        case SilenceWatch::Finding::FellSilent:
+            emit logged(Line::Note, tr("Silent: has taken no command for %1 seconds; it is stopped or hangs")
+                                        .arg(SilenceWatch::kPatience.count()));
+            return emit silenceChanged();
+        case SilenceWatch::Finding::SpokeAgain:
+            emit logged(Line::Note, tr("Takes commands again"));
+            return emit silenceChanged();
+        case SilenceWatch::Finding::Nothing:
+            return;
+    }
+}
+
 void ToolRun::logText(LinkWay way, const std::string &text)
 {
-    emit logged(way == LinkWay::ToTool ? Line::ToTool : Line::FromTool, QString::fromStdString(text));
+    const QString shown = QString::fromStdString(text);
+    if (way == LinkWay::ToTool) {
+        m_hasTaken = true;  // one is delivered when the one before has been taken
+        // What asks whether a tool listens is a move to where it is; it would bury all else.
+        if (shown.startsWith("MOVEWIN,") && std::exchange(m_lastMove, shown) == shown)
+            return;
+    }
+    emit logged(way == LinkWay::ToTool ? Line::ToTool : Line::FromTool, shown);
     if (way == LinkWay::FromTool && !parseToolCommand(text))
         emit logged(Line::Note, tr("Not a command of a tool; ignored"));
 }

@@ -5,7 +5,7 @@
 
 namespace penwright {
 
-ToolTab::ToolTab(QTabWidget &tabs, HostStore &store, ToolAddress address)
+ToolTab::ToolTab(QTabWidget &tabs, HostStore &store, ToolAddress address) : m_tabs(tabs)
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
@@ -17,7 +17,9 @@ ToolTab::ToolTab(QTabWidget &tabs, HostStore &store, ToolAddress address)
     tabs.setCurrentWidget(this);
     address.window = m_area->windowNumber();
     m_run = new ToolRun(store, std::move(address), this);
-    tabs.setTabText(tabs.indexOf(this), m_run->name());
+    showName();
+    connect(m_run, &ToolRun::askedToListen, this, &ToolTab::followSize);
+    connect(m_run, &ToolRun::silenceChanged, this, &ToolTab::showName);
     connect(m_area, &ToolArea::resized, this, &ToolTab::followSize);
     connect(m_run, &ToolRun::commandTaken, this, [this](const ToolCommand &command) {
         if (command.word == ToolWord::CloseRemove)
@@ -30,6 +32,13 @@ void ToolTab::start(const QString &program)
     m_run->start(program);
     followSize();
     m_run->tool().sendStart();
+}
+
+void ToolTab::showName()
+{
+    const int place = m_tabs.indexOf(this);
+    m_tabs.setTabText(place, m_run->isSilent() ? tr("%1 (silent)").arg(m_run->name()) : m_run->name());
+    m_tabs.setTabToolTip(place, m_run->isSilent() ? tr("It takes no commands: it is stopped or hangs") : QString());
 }
 
 void ToolTab::followSize()

@@ -15,7 +15,9 @@
 namespace {
 
 constexpr const char *kUsage =
-    "usage: hostbench [--new | --walk FOLDER]\n"
+    "usage: hostbench [--new] [FILE...]\n"
+    "       hostbench --walk FOLDER\n"
+    "  FILE           IES files to look at\n"
     "  --new          start with one tool running\n"
     "  --walk FOLDER  need no user: make one file and a picture of each page in FOLDER\n";
 
@@ -23,17 +25,23 @@ struct Options {
     bool isUnderstood = true;
     bool startsTool = false;
     QString walkFolder;
+    QStringList files;
 };
 
 Options optionsFrom(const QStringList &arguments)
 {
     Options options;
-    if (arguments == QStringList{"--new"})
-        options.startsTool = true;
-    else if (arguments.size() == 2 && arguments[0] == "--walk" && !arguments[1].isEmpty())
+    if (arguments.size() == 2 && arguments[0] == "--walk" && !arguments[1].isEmpty())
         options.walkFolder = QDir::cleanPath(QDir::current().absoluteFilePath(arguments[1]));
     else
-        options.isUnderstood = arguments.isEmpty();
+        for (const QString &argument : arguments) {
+            if (argument == "--new")
+                options.startsTool = true;
+            else if (argument.startsWith("--") || argument.isEmpty())
+                options.isUnderstood = false;
+            else
+                options.files.append(argument);
+        }
     return options;
 }
 
@@ -101,9 +109,13 @@ int runHost(QApplication &application, const Options &options)
     if (!options.walkFolder.isEmpty())
         return walk(window, options.walkFolder);
     window.show();
-    // Started from the event loop, so that the window is there when the tool moves in.
-    if (options.startsTool)
-        QTimer::singleShot(0, &window, &penwright::HostWindow::startTool);
+    // From the event loop: the window is to be there when a tool moves in, or when a file cannot be opened.
+    QTimer::singleShot(0, &window, [&] {
+        if (!options.files.isEmpty())
+            window.openFiles(options.files);
+        if (options.startsTool)
+            window.startTool();
+    });
     return application.exec();
 }
 

@@ -1,6 +1,7 @@
 #include "plot/PlotCurves.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "core/NumberText.h"
 #include "plot/PlotSymmetry.h"
@@ -17,10 +18,10 @@ void notePeak(PlotCurve &curve, const std::vector<PlotNode> &nodes, bool opposit
             curve.largest = PlotPeak{*node.candela, node.degrees, opposite};
 }
 
-void appendHalf(PlotCurve &plane, const std::vector<PlotNode> &nodes, PlotPlacing place, bool opposite)
+void appendHalf(PlotCurve &plane, std::vector<PlotNode> nodes, PlotSide side)
 {
-    appendRuns(plane.runs, nodes, place);
-    notePeak(plane, nodes, opposite);
+    notePeak(plane, nodes, side == PlotSide::LeftOfNadir);
+    plane.stretches.push_back({std::move(nodes), side});
 }
 
 /// The listed values in every direction that they stand for, from the list's own ones on.
@@ -48,19 +49,26 @@ std::vector<PlotNode> turnedFullCircle(const std::vector<PlotNode> &listed, cons
 void appendCone(PlotCurve &cone, const std::vector<PlotNode> &listed, const PlotCircle &circle)
 {
     notePeak(cone, listed, false);
-    appendRuns(cone.runs, turnedFullCircle(listed, circle), aroundFromTheRight);
+    cone.stretches.push_back({turnedFullCircle(listed, circle), PlotSide::AroundFromTheRight});
 }
 
 void addTypeC(PlotCurves &curves, const PlotTable &table)
 {
     const PlotCircle circle(table.firstHorizontal(), table.lastHorizontal());
     if (const auto right = table.horizontalPlace(curves.horizontalAngle))
-        appendHalf(curves.plane, table.plane(*right), rightOfNadir, false);
+        appendHalf(curves.plane, table.plane(*right), PlotSide::RightOfNadir);
     if (const auto angle = circle.listedAngle(double{curves.horizontalAngle} + 180))
         if (const auto left = table.horizontalPlace(*angle))
-            appendHalf(curves.plane, table.plane(*left), leftOfNadir, true);
+            appendHalf(curves.plane, table.plane(*left), PlotSide::LeftOfNadir);
     if (const auto vertical = table.verticalPlace(curves.verticalAngle))
         appendCone(curves.cone, table.cone(*vertical), circle);
+}
+
+void makeRuns(PlotCurve &curve, PlotShape shape)
+{
+    curve.runs.clear();
+    for (const PlotStretch &stretch : curve.stretches)
+        appendRuns(curve.runs, stretch.nodes, placing(stretch.side, shape));
 }
 
 std::string peakText(const PlotCurve &curve)
@@ -80,20 +88,26 @@ double PlotCurves::largest() const
 }
 
 PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
-                      float verticalAngle)
+                      float verticalAngle, PlotShape shape)
 {
     const PlotTable table(record, cells);
     PlotCurves curves;
     curves.typeC = record.PhotometricType == kTypeC;
     curves.horizontalAngle = horizontalAngle;
     curves.verticalAngle = verticalAngle;
-    if (table.empty())
-        return curves;
-    if (curves.typeC)
+    if (!table.empty() && curves.typeC)
         addTypeC(curves, table);
     else if (const auto place = table.horizontalPlace(horizontalAngle))
-        appendHalf(curves.plane, table.plane(*place), aroundFromTheRight, false);
+        appendHalf(curves.plane, table.plane(*place), PlotSide::AroundFromTheRight);
+    reshape(curves, shape);
     return curves;
+}
+
+void reshape(PlotCurves &curves, PlotShape shape)
+{
+    curves.shape = shape;
+    makeRuns(curves.plane, shape);
+    makeRuns(curves.cone, shape);
 }
 
 std::string plotDescription(const PlotCurves &curves)

@@ -20,12 +20,14 @@ struct PlotPeak {
 
 /// One curve of the picture. A gap in the values ends a run.
 struct PlotCurve {
-    std::vector<PlotRun> runs;
+    std::vector<PlotStretch> stretches;
+    std::vector<PlotRun> runs;        ///< of the stretches, in their order
     std::optional<PlotPeak> largest;  ///< not there when the curve has no value
 };
 
 /// All that one picture shows.
 struct PlotCurves {
+    PlotShape shape = PlotShape::Polar;
     bool typeC = true;          ///< nadir down and a cone; otherwise vertical angle 0 to the right and no cone
     float horizontalAngle = 0;  ///< degrees, of the vertical plane
     float verticalAngle = 0;    ///< degrees, of the cone
@@ -44,7 +46,10 @@ struct PlotCurves {
 /// negative value and one that is not finite are gaps, never zeros. A record without angles has empty curves.
 /// Error 9 when the angle lists or the cells are smaller than the record's counts.
 PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
-                      float verticalAngle);
+                      float verticalAngle, PlotShape shape = PlotShape::Polar);
+
+/// Has the same curves run in another shape.
+void reshape(PlotCurves &curves, PlotShape shape);
 
 /// The picture in words, for those who cannot see it: each curve's angle, its largest value and where that stands.
 /// Error 6 when a value is beyond the single range.

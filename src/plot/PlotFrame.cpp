@@ -19,11 +19,6 @@ PlotPixel PlotFrame::polar(double length, double degrees) const
     return {centre.x + length * std::cos(radians), centre.y - length * std::sin(radians)};
 }
 
-PlotPixel PlotFrame::placeOf(const PlotPoint &point) const
-{
-    return {centre.x + point.x * perCandela, centre.y - point.y * perCandela};
-}
-
 PlotFrame plotFrame(const PlotBox &area, const PlotTextRoom &room, double largest)
 {
     const double aside = room.figureWidth("-90\u00B0") + 2 * kMargin;

@@ -21,6 +21,15 @@ struct PlotBox {
     double height = 0;
 };
 
+/// Where the points of a curve stand in a picture box.
+struct PlotScale {
+    PlotPixel origin;  ///< of the point (0, 0)
+    double perX = 0;   ///< pixels
+    double perY = 0;   ///< pixels
+
+    PlotPixel placeOf(const PlotPoint &point) const { return {origin.x + point.x * perX, origin.y - point.y * perY}; }
+};
+
 /// The room of one text, in logical pixels.
 struct PlotTextSize {
     double width = 0;
@@ -48,8 +57,10 @@ struct PlotFrame {
     /// The place `length` pixels from the centre; degrees from the right, turning left.
     PlotPixel polar(double length, double degrees) const;
 
+    PlotScale scale() const { return {centre, perCandela, perCandela}; }
+
     /// The place of a point in candela.
-    PlotPixel placeOf(const PlotPoint &point) const;
+    PlotPixel placeOf(const PlotPoint &point) const { return scale().placeOf(point); }
 };
 
 /// The largest round picture in an area whose outer ring is at `largest` candela, with room for letters around it where

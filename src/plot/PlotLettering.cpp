@@ -10,6 +10,8 @@ namespace {
 constexpr double kGap = 3;            // pixels between a text and its line
 constexpr double kLeastFigured = 70;  // radius for a figure at every spoke, not only at the axes
 
+constexpr const char *kMarkText = "H 0";
+
 std::string degreeText(int degrees)
 {
     return std::to_string(degrees) + "\u00B0";
@@ -77,12 +79,17 @@ std::vector<PlotFigure> candelasOf(const PlotFrame &frame, const PlotTextRoom &r
 }
 
 /// The letters stand beside the degree figures at the ends of their axes.
-std::vector<PlotLetter> lettersAround(const PlotFrame &frame, const PlotTextRoom &room)
+std::vector<PlotLetter> lettersAround(const PlotFrame &frame, const PlotTextRoom &room, bool typeC)
 {
     const double aside = room.figureWidth(degreeText(180)) / 2 + 2 * kGap;
     const double above = room.figureHeight / 2 + 2 * kGap;
-    return {{"V", {frame.centre.x + aside, frame.centre.y + (-frame.radius - kGap)}},
-            {"H", {frame.centre.x + (frame.radius + kGap), frame.centre.y - above}}};
+    std::vector<PlotLetter> letters{{"V", {frame.centre.x + aside, frame.centre.y + (-frame.radius - kGap)}},
+                                    {"H", {frame.centre.x + (frame.radius + kGap), frame.centre.y - above}}};
+    if (typeC) {
+        const double below = above + room.letterSize(kMarkText).height;
+        letters.push_back({kMarkText, {frame.centre.x + (frame.radius + kGap), frame.centre.y + below}});
+    }
+    return letters;
 }
 
 std::vector<PlotLetter> lettersInside(const PlotFrame &frame, const PlotTextRoom &room)
@@ -92,14 +99,31 @@ std::vector<PlotLetter> lettersInside(const PlotFrame &frame, const PlotTextRoom
             {"H", {frame.centre.x + (frame.radius - width - kGap), frame.centre.y - kGap}}};
 }
 
+/// The direction in which the cone has horizontal angle 0.
+PlotMark markAtTheRight(const PlotFrame &frame)
+{
+    constexpr double kLength = 8;
+    constexpr double kHalfWidth = 4;
+    const double base = frame.centre.x + frame.radius - kLength;
+    return {frame.polar(frame.radius, 0), {base, frame.centre.y - kHalfWidth}, {base, frame.centre.y + kHalfWidth}};
+}
+
 }  // namespace
 
 PlotLettering plotLettering(const PlotFrame &frame, const PlotTextRoom &room, bool typeC,
                             const std::vector<PlotRing> &rings)
 {
-    if (!frame.lettered)
-        return {{}, {}, lettersInside(frame, room)};
-    return {degreesAround(frame, room, typeC), candelasOf(frame, room, typeC, rings), lettersAround(frame, room)};
+    PlotLettering lettering;
+    if (typeC)
+        lettering.marks.push_back(markAtTheRight(frame));
+    if (!frame.lettered) {
+        lettering.letters = lettersInside(frame, room);
+        return lettering;
+    }
+    lettering.degrees = degreesAround(frame, room, typeC);
+    lettering.candelas = candelasOf(frame, room, typeC, rings);
+    lettering.letters = lettersAround(frame, room, typeC);
+    return lettering;
 }
 
 }  // namespace penwright

@@ -20,11 +20,19 @@ struct PlotLetter {
     PlotPixel begin;
 };
 
+/// A small solid triangle that points at a direction.
+struct PlotMark {
+    PlotPixel tip;
+    PlotPixel left;
+    PlotPixel right;
+};
+
 /// The texts of a picture and where they stand.
 struct PlotLettering {
     std::vector<PlotFigure> degrees;   ///< the vertical angles around the outer ring
     std::vector<PlotFigure> candelas;  ///< of the rings; a little paper below each keeps it off the lines
-    std::vector<PlotLetter> letters;   ///< "V" and "H" at the ends of their axes
+    std::vector<PlotLetter> letters;   ///< "V" and "H" at the ends of their axes, "H 0" at the mark
+    std::vector<PlotMark> marks;       ///< of horizontal angle 0, where there is a cone
 };
 
 /// The letters and, where the frame has room for them, the figures. Type C counts from nadir up on both sides and has

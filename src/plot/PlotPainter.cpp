@@ -1,12 +1,11 @@
 #include "plot/PlotPainter.h"
 
-#include <QLineF>
 #include <QPainter>
-#include <QPainterPath>
-#include <QPainterPathStroker>
 #include <QPen>
 #include <QPolygonF>
 
+#include "plot/CurvePainter.h"
+#include "plot/PlotField.h"
 #include "plot/PlotFonts.h"
 #include "plot/PlotFrame.h"
 #include "plot/PlotLettering.h"
@@ -16,12 +15,9 @@ namespace penwright {
 namespace {
 
 constexpr int kEmptyRings = 4;
-constexpr int kTick = 10;                 // degrees between the ticks of the outer ring
-constexpr double kTickLength = 4;         // pixels, as all lengths below
-constexpr double kLeastTicked = 90;       // radius
-constexpr double kLongestShape = 10'000;  // some ten times around a large picture
-constexpr double kLonePoint = 1.5;        // radius of a value between two gaps
-constexpr double kClosest = 0.25;         // between two points of a line that can be told apart
+constexpr int kTick = 10;            // degrees between the ticks of the outer ring
+constexpr double kTickLength = 4;    // pixels, as all lengths below
+constexpr double kLeastTicked = 90;  // radius
 
 QPointF pointOf(const PlotPixel &place)
 {
@@ -73,55 +69,45 @@ void paintLettering(QPainter &painter, const PlotLettering &lettering, const Plo
     painter.setPen(look.letters);
     for (const PlotLetter &letter : lettering.letters)
         painter.drawText(pointOf(letter.begin), QString::fromStdString(letter.text));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(look.letters);
+    for (const PlotMark &mark : lettering.marks)
+        painter.drawPolygon(QPolygonF({pointOf(mark.tip), pointOf(mark.left), pointOf(mark.right)}));
 }
 
-QPolygonF lineOf(const PlotRun &run, const PlotFrame &frame)
+void paintField(QPainter &painter, const PlotField &field, const PlotPicture &picture, const QColor &colour)
 {
-    QPolygonF line;
-    for (const PlotPoint &point : run) {
-        const QPointF next = pointOf(frame.placeOf(point));
-        const bool last = &point == &run.back();
-        if (line.isEmpty() || last || (next - line.last()).manhattanLength() >= kClosest)
-            line.append(next);
+    const QPointF corner(field.box.left, field.box.top);
+    const QRectF box(corner, QSizeF(field.box.width, field.box.height));
+    painter.setPen(QPen(colour, 1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(box);
+    for (const PlotRing &ring : picture.rings) {
+        const double y = box.bottom() - ring.candela * field.perCandela;
+        painter.drawLine(QPointF(box.left(), y), QPointF(box.right(), y));
     }
-    return line;
-}
-
-double lengthOf(const QPolygonF &line)
-{
-    double length = 0;
-    for (qsizetype i = 1; i < line.size(); ++i)
-        length += QLineF(line[i - 1], line[i]).length();
-    return length;
-}
-
-/// A line is filled as one shape: drawn by segments it turns pale or heavy where points are close. One that crosses
-/// the picture again and again takes very long as a shape, and its segments are long enough to be drawn by themselves.
-void paintLine(QPainter &painter, const QPolygonF &line, const QPen &pen)
-{
-    if (lengthOf(line) < kLongestShape) {
-        QPainterPath path;
-        path.addPolygon(line);
-        painter.fillPath(QPainterPathStroker(pen).createStroke(path), pen.color());
-        return;
+    for (const double degrees : figuredAngles(field.plane)) {
+        const double x = field.across(field.plane, degrees);
+        painter.drawLine(QPointF(x, box.top()), QPointF(x, box.bottom()));
     }
-    painter.setPen(QPen(pen.color(), 1));  // round ends would make shapes of them again
-    for (qsizetype i = 1; i < line.size(); ++i)
-        painter.drawLine(line[i - 1], line[i]);
 }
 
-void paintCurve(QPainter &painter, const PlotFrame &frame, const PlotCurve &curve, const QPen &pen)
+void paintPolar(QPainter &painter, const PlotBox &box, const PlotFonts &fonts, const PlotPicture &picture,
+                const PlotLook &look)
 {
-    for (const PlotRun &run : curve.runs) {
-        const QPolygonF line = lineOf(run, frame);
-        if (line.size() == 1) {
-            painter.setPen(pen);
-            painter.setBrush(pen.color());
-            painter.drawEllipse(line.first(), kLonePoint, kLonePoint);
-        } else {
-            paintLine(painter, line, pen);
-        }
-    }
+    const PlotTextRoom room = fonts.room();
+    const PlotFrame frame = plotFrame(box, room, picture.curves.largest());
+    paintGrid(painter, frame, ringRadii(frame, picture.rings), look.grid);
+    paintLettering(painter, plotLettering(frame, room, picture.curves.typeC, picture.rings), fonts, look);
+}
+
+void paintLinear(QPainter &painter, const PlotBox &box, const PlotFonts &fonts, const PlotPicture &picture,
+                 const PlotLook &look)
+{
+    const PlotTextRoom room = fonts.room();
+    const PlotField field = plotField(box, room, picture);
+    paintField(painter, field, picture, look.grid);
+    paintLettering(painter, fieldLettering(field, room, picture), fonts, look);
 }
 
 }  // namespace
@@ -130,20 +116,19 @@ void paintPlot(QPainter &painter, const QRectF &area, const QFont &font, const P
                const PlotLook &look)
 {
     const PlotFonts fonts(font);
-    const PlotTextRoom room = fonts.room();
-    const PlotFrame frame =
-        plotFrame({area.x(), area.y(), area.width(), area.height()}, room, picture.curves.largest());
+    const PlotBox box{area.x(), area.y(), area.width(), area.height()};
     painter.fillRect(area, look.paper);
     painter.setRenderHint(QPainter::Antialiasing);
-    paintGrid(painter, frame, ringRadii(frame, picture.rings), look.grid);
-    paintLettering(painter, plotLettering(frame, room, picture.curves.typeC, picture.rings), fonts, look);
+    const bool isLinear = picture.curves.shape == PlotShape::Linear;
+    (isLinear ? paintLinear : paintPolar)(painter, box, fonts, picture, look);
     if (picture.rings.empty())
         return;
     const auto penOf = [&look](const QColor &colour) {
         return QPen(colour, look.curveWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
     };
-    paintCurve(painter, frame, picture.curves.plane, penOf(look.plane));
-    paintCurve(painter, frame, picture.curves.cone, penOf(look.cone));
+    const PlotScales scales = plotScales(box, fonts.room(), picture);
+    paintCurve(painter, scales.plane, picture.curves.plane, penOf(look.plane));
+    paintCurve(painter, scales.cone, picture.curves.cone, penOf(look.cone));
 }
 
 }  // namespace penwright

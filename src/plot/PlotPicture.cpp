@@ -3,22 +3,22 @@
 namespace penwright {
 
 PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
-                        float verticalAngle)
+                        float verticalAngle, PlotShape shape)
 {
     PlotPicture picture;
-    picture.curves = plotCurves(record, cells, horizontalAngle, verticalAngle);
+    picture.curves = plotCurves(record, cells, horizontalAngle, verticalAngle, shape);
     picture.rings = plotRings(picture.curves.largest());
     picture.words = plotDescription(picture.curves);
     return picture;
 }
 
-PlotPicture plotPicture(const PhotometricRecord &record, float horizontalAngle, float verticalAngle)
+PlotPicture plotPicture(const PhotometricRecord &record, float horizontalAngle, float verticalAngle, PlotShape shape)
 {
     OneBasedTable<CandelaCell> cells(record.Candela.rows(), record.Candela.columns());
     for (int h = 1; h <= cells.rows(); ++h)
         for (int v = 1; v <= cells.columns(); ++v)
             cells(h, v) = record.Candela(h, v);
-    return plotPicture(record, cells, horizontalAngle, verticalAngle);
+    return plotPicture(record, cells, horizontalAngle, verticalAngle, shape);
 }
 
 }  // namespace penwright

@@ -32,8 +32,6 @@ void appendSteps(PlotRun &run, const PlotNode &from, const PlotNode &to, PlotPla
     }
 }
 
-}  // namespace
-
 PlotPoint rightOfNadir(double candela, float degrees)
 {
     const Direction to = directionOf(degrees);
@@ -50,6 +48,33 @@ PlotPoint aroundFromTheRight(double candela, float degrees)
 {
     const Direction to = directionOf(degrees);
     return {candela * to.cosine, candela * to.sine};
+}
+
+PlotPoint alongTheAxis(double candela, float degrees)
+{
+    return {double{degrees}, candela};
+}
+
+PlotPoint againstTheAxis(double candela, float degrees)
+{
+    return {-double{degrees}, candela};
+}
+
+}  // namespace
+
+PlotPlacing placing(PlotSide side, PlotShape shape)
+{
+    if (shape == PlotShape::Linear)
+        return side == PlotSide::LeftOfNadir ? againstTheAxis : alongTheAxis;
+    switch (side) {
+        case PlotSide::RightOfNadir:
+            return rightOfNadir;
+        case PlotSide::LeftOfNadir:
+            return leftOfNadir;
+        case PlotSide::AroundFromTheRight:
+            break;
+    }
+    return aroundFromTheRight;
 }
 
 double inProportion(double from, double to, double share)

@@ -5,7 +5,8 @@
 
 namespace penwright {
 
-/// A place in the picture, in candela: x to the right, y up, the light source at (0, 0).
+/// A place in the picture, x to the right, y up: in candela, the light source at (0, 0); in a linear one degrees and
+/// candela.
 struct PlotPoint {
     double x = 0;
     double y = 0;
@@ -20,12 +21,27 @@ struct PlotNode {
     std::optional<double> candela;
 };
 
+/// How a picture shows values at angles: as distances from the centre, or as heights along an axis of angles.
+enum class PlotShape { Polar, Linear };
+
+/// Which part of a polar picture a curve fills.
+enum class PlotSide {
+    RightOfNadir,       ///< 0 is down, 90 to the right, 180 up
+    LeftOfNadir,        ///< 0 is down, 90 to the left, 180 up
+    AroundFromTheRight  ///< 0 is to the right, 90 up, -90 down
+};
+
+/// The values of a part of a curve, in the order of its angles.
+struct PlotStretch {
+    std::vector<PlotNode> nodes;
+    PlotSide side = PlotSide::AroundFromTheRight;
+};
+
 /// Where a value stands for its angle in degrees.
 using PlotPlacing = PlotPoint (*)(double candela, float degrees);
 
-PlotPoint rightOfNadir(double candela, float degrees);        ///< 0 is down, 90 to the right, 180 up
-PlotPoint leftOfNadir(double candela, float degrees);         ///< 0 is down, 90 to the left, 180 up
-PlotPoint aroundFromTheRight(double candela, float degrees);  ///< 0 is to the right, 90 up, -90 down
+/// The places of a side's values; in a linear picture x is the angle, left of 0 on the left side, and y the candela.
+PlotPlacing placing(PlotSide side, PlotShape shape);
 
 /// The value a share (0 to 1) of the way from one to another.
 double inProportion(double from, double to, double share);

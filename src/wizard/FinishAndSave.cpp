@@ -8,7 +8,7 @@
 namespace penwright {
 namespace {
 
-const SaveNameQuestion kQuestion{"Save New Photometric file As...", "IES files (*.ies)|*.ies;*.IES", "ies"};
+const SaveNameQuestion kQuestion{"Save New Photometric file As...", "IES files (*.ies)|*.ies;*.IES", "ies", {}};
 
 /// An unnamed file is said to lie here, whatever the platform: hosts compare the text.
 constexpr const char *kUnnamedDirectory = "C:\\";

@@ -64,6 +64,8 @@ QScrollArea *makeScrollArea(QWidget *form)
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
     area->setMinimumHeight(kLeastHeight);
+    // Around texts that wrap, the whole page would ask for the height that the form would like to have.
+    area->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
     area->viewport()->setAutoFillBackground(false);
     form->setAutoFillBackground(false);
     return area;

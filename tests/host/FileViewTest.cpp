@@ -4,11 +4,17 @@
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
 #include <QPlainTextEdit>
 #include <QTest>
+#include <QToolButton>
 
 #include "hostbench/SampleLuminaire.h"
 #include "plot/PlotView.h"
+#include "review/Figures.h"
+#include "review/Photometry.h"
+#include "review/Remarks.h"
 
 namespace penwright {
 namespace {
@@ -45,7 +51,7 @@ protected:
 
 TEST_F(FileViewTest, showsThePlaneOfTheLargestValueAndACone)
 {
-    m_view.showFile(sampleLuminaire());
+    m_view.showFile({sampleLuminaire(), false, {}});
     EXPECT_EQ(choice("plane")->currentText(), "0\u00b0");
     EXPECT_EQ(choice("cone")->currentText(), "45\u00b0");
     EXPECT_EQ(choice("plane")->count(), 5);
@@ -60,7 +66,7 @@ TEST_F(FileViewTest, theLargestValueNeedNotBeTheFirst)
 {
     PhotometricRecord record = sampleLuminaire();
     record.Candela(4, 13) = 9000;
-    m_view.showFile(record);
+    m_view.showFile({record, false, {}});
     EXPECT_EQ(choice("plane")->currentText(), "67.5\u00b0");
     EXPECT_EQ(choice("cone")->currentText(), "60\u00b0");
     EXPECT_TRUE(picture()->accessibleDescription().contains("9000"));
@@ -68,7 +74,7 @@ TEST_F(FileViewTest, theLargestValueNeedNotBeTheFirst)
 
 TEST_F(FileViewTest, anotherPlaneIsAnotherPicture)
 {
-    m_view.showFile(sampleLuminaire());
+    m_view.showFile({sampleLuminaire(), false, {}});
     const QString before = picture()->accessibleDescription();
     const QImage picturedBefore = picture()->grab().toImage();
     choice("plane")->setFocus();
@@ -82,17 +88,17 @@ TEST_F(FileViewTest, typeBHasNoCone)
 {
     PhotometricRecord record = sampleLuminaire();
     record.PhotometricType = kTypeB;
-    m_view.showFile(record);
+    m_view.showFile({record, false, {}});
     EXPECT_FALSE(choice("cone")->isVisible());
     EXPECT_GT(count(picture()->look().plane), 100);
     EXPECT_EQ(count(picture()->look().cone), 0);
-    m_view.showFile(sampleLuminaire());
+    m_view.showFile({sampleLuminaire(), false, {}});
     EXPECT_TRUE(choice("cone")->isVisible());
 }
 
 TEST_F(FileViewTest, withoutAFileTheGridIsEmpty)
 {
-    m_view.showFile(sampleLuminaire());
+    m_view.showFile({sampleLuminaire(), false, {}});
     m_view.clear();
     EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "");
     EXPECT_EQ(count(picture()->look().plane), 0);
@@ -104,15 +110,96 @@ TEST_F(FileViewTest, aRecordWhoseListsDisagreeShowsWhy)
 {
     PhotometricRecord torn = sampleLuminaire();
     torn.NumVertAngles = 40;
-    m_view.showFile(torn);
+    m_view.showFile({torn, false, {}});
     EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "Subscript out of range");
     EXPECT_EQ(count(picture()->look().plane), 0);
+}
+
+TEST_F(FileViewTest, figuresOfTheFileStandBelowThePicture)
+{
+    const QListWidget &figures = *m_view.findChild<QListWidget *>("figureList");
+    EXPECT_FALSE(figures.isVisible());
+    m_view.showFile({sampleLuminaire(), false, {}});
+    EXPECT_TRUE(figures.isVisible());
+    const PhotometricRecord record = sampleLuminaire();
+    const std::vector<Figure> expected = figuresOf(record, photometryOf(record));
+    ASSERT_EQ(figures.count(), static_cast<int>(expected.size()));
+    const QString first = figures.item(0)->data(Qt::AccessibleTextRole).toString();
+    EXPECT_TRUE(first.contains(QString::fromStdString(expected[0].text + " " + std::string(expected[0].unit))))
+        << qPrintable(first);
+    m_view.clear();
+    EXPECT_FALSE(figures.isVisible());
+}
+
+TEST_F(FileViewTest, remarksOnTheFileStandBelowTheText)
+{
+    const QListWidget &remarks = *m_view.findChild<QListWidget *>("remarkList");
+    PhotometricRecord odd = sampleLuminaire();
+    odd.LumensPerLamp = 100;
+    m_view.showFile({odd, false, {}});
+    const std::vector<Remark> expected = remarksOf(odd, photometryOf(odd));
+    ASSERT_GT(expected.size(), 1U);
+    ASSERT_EQ(remarks.count(), static_cast<int>(expected.size()));
+    EXPECT_EQ(remarks.item(0)->text(), QString::fromStdString(expected[0].text));
+    EXPECT_TRUE(remarks.isVisible());
+}
+
+TEST_F(FileViewTest, withoutRemarksTheTextHasTheirRoom)
+{
+    PhotometricRecord odd = sampleLuminaire();
+    odd.LumensPerLamp = 100;
+    m_view.showFile({odd, false, {}});
+    const QWidget &text = *m_view.findChild<QPlainTextEdit *>("fileText");
+    ASSERT_TRUE(QTest::qWaitFor([&] { return text.height() < m_view.height() - 100; }));
+    const int beside = text.height();
+    PhotometricRecord plain = sampleLuminaire();
+    plain.TiltIncl = false;
+    plain.LumensPerLamp = 8000;
+    ASSERT_TRUE(remarksOf(plain, photometryOf(plain)).empty());
+    m_view.showFile({plain, false, {}});
+    EXPECT_FALSE(m_view.findChild<QListWidget *>("remarkList")->isVisible());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return text.height() > beside + 50; }));
+}
+
+TEST_F(FileViewTest, aFileOfTheDiskIsShownAsItStandsThere)
+{
+    m_view.showFile({sampleLuminaire(), true, "IESNA:LM-63-2002\r\n  as  it stands\r\n"});
+    EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "IESNA:LM-63-2002\n  as  it stands");
+}
+
+TEST_F(FileViewTest, thePictureIsReadAndHasALinearView)
+{
+    m_view.showFile({sampleLuminaire(), false, {}});
+    auto *linear = m_view.findChild<QToolButton *>("plotLinear");
+    QTest::mouseClick(linear, Qt::LeftButton);
+    EXPECT_EQ(picture()->shape(), PlotShape::Linear);
+    picture()->setFocus();
+    QTest::keyClick(picture(), Qt::Key_Right);
+    EXPECT_EQ(m_view.findChild<QLabel *>("plotReading")->text(), "H 180, V 180: 912.8 cd");
+}
+
+TEST_F(FileViewTest, ofAMillionValuesTheFirstLinesAreShownAtOnce)
+{
+    PhotometricRecord large = sampleLuminaire();
+    large.NumHorzAngles = large.NumVertAngles = 1000;
+    large.HorAngles.resize(1000);
+    large.VertAngles.resize(1000);
+    large.Candela.reset(1000, 1000);
+    for (int i = 1; i <= 1000; ++i) {
+        large.HorAngles(i) = static_cast<float>(i - 1) * 90 / 999;
+        large.VertAngles(i) = static_cast<float>(i - 1) * 180 / 999;
+        for (int v = 1; v <= 1000; ++v)
+            large.Candela(i, v) = 1000 - v;
+    }
+    m_view.showFile({large, false, {}});
+    EXPECT_LT(m_view.findChild<QPlainTextEdit *>("fileText")->blockCount(), 2100);
+    EXPECT_EQ(choice("plane")->count(), 1000);
 }
 
 TEST_F(FileViewTest, curvesStandOutOnDarkToo)
 {
     const QPalette light = QApplication::palette();
-    m_view.showFile(sampleLuminaire());
+    m_view.showFile({sampleLuminaire(), false, {}});
     const QColor onLight = picture()->look().plane;
     QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
     EXPECT_TRUE(QTest::qWaitFor([&] { return picture()->look().plane.lightness() > onLight.lightness() + 40; }));

@@ -10,7 +10,7 @@ HeldFile file(const std::string &name, bool isSaved, float watts = 0)
     PhotometricRecord record;
     record.Filename = name;
     record.InputWatts = watts;
-    return {record, isSaved};
+    return {record, isSaved, {}};
 }
 
 TEST(HeldFiles, theTwentySixthIsNotAdded)

@@ -238,9 +238,31 @@ TEST(HostBench, aPlatformThatCannotBeLoadedIsSaidWithoutAnAbort)
 TEST(HostBench, unknownOptionsGetTheUsage)
 {
     const test::TempFolder home;
-    Process host({HOSTBENCH, "--walk"}, environment(":no-display", home.path()), Process::Errors::Joined);
-    EXPECT_EQ(host.readAll().substr(0, 6), "usage:");
-    EXPECT_EQ(host.waitForEnd(), 1);
+    for (const auto &arguments : {std::vector<std::string>{HOSTBENCH, "--walk"}, {HOSTBENCH, "a.ies", "--nonsense"}}) {
+        Process host(arguments, environment(":no-display", home.path()), Process::Errors::Joined);
+        EXPECT_EQ(host.readAll().substr(0, 6), "usage:");
+        EXPECT_EQ(host.waitForEnd(), 1);
+    }
+}
+
+TEST(HostBench, aFileOfTheCommandLineThatCannotBeOpenedIsTold)
+{
+    const Screen screen(false);
+    const test::TempFolder home;
+    const Process::Environment here = environment(screen.name(), home.path());
+    const auto isTold = [&] {
+        return Process({"xdotool", "search", "--name", "^Open Photometric Files$"}, here).readAll() != "";
+    };
+    const auto isShown = [&] {
+        return Process({"xdotool", "search", "--name", "stand-in host"}, here).readAll() != "";
+    };
+    {
+        const Process host({HOSTBENCH, EXPECTED_FILE}, here);
+        ASSERT_TRUE(test::waitUntil(isShown, std::chrono::seconds(20)));
+        EXPECT_FALSE(isTold());
+    }
+    const Process host({HOSTBENCH, EXPECTED_FILE, home.file("nowhere.ies")}, here);
+    EXPECT_TRUE(test::waitUntil(isTold, std::chrono::seconds(20)));
 }
 
 /// `hostbench --new` with its one tool, which has taken "START".

@@ -23,7 +23,7 @@ TEST_F(HostLayoutTest, aDisabledButtonSaysWhatItLacks)
     m_window->startTool();
     EXPECT_EQ(lacks("sendClose"), "");
     EXPECT_EQ(lacks("sendDeleteFile"), "Select a file that the tool is to be told of");
-    m_window->addFile({sampleLuminaire(), true});
+    m_window->addFile({sampleLuminaire(), true, {}});
     EXPECT_EQ(lacks("sendDeleteFile"), "");
     EXPECT_EQ(lacks("saveAs"), "The selected file is saved already");
     m_window->findChild<QTabWidget *>("tabs")->setCurrentIndex(0);
@@ -31,6 +31,7 @@ TEST_F(HostLayoutTest, aDisabledButtonSaysWhatItLacks)
     m_window->resize(1240, 860);
     EXPECT_EQ(m_window->findChild<QLabel *>("hint")->text(), "Choose the tab of a tool to send it commands");
     EXPECT_EQ(lacks("newFile"), "");
+    answer("1 wizard is open and has not finished its file. Close all the same?", "Close Without Saving");
     m_window->close();
     EXPECT_EQ(lacks("newFile"), "The window is closing");
 }

@@ -4,6 +4,7 @@
 #include <memory>
 #include <QApplication>
 #include <QClipboard>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
@@ -14,6 +15,7 @@
 #include "hostbench/LuminaireTyper.h"
 #include "hostbench/SampleLuminaire.h"
 #include "hostbench/XDisplay.h"
+#include "support/DialogDriver.h"
 #include "support/Process.h"
 #include "support/TempFolder.h"
 #include "support/Xvfb.h"
@@ -64,11 +66,13 @@ protected:
     /// On the host's own ground, left of all that it shows.
     void clickOnTheHost() { clickAt(*m_window.centralWidget(), {4, m_window.centralWidget()->height() / 2}); }
 
-    void clickOnTheLastTab()
+    void clickOnTab(int place)
     {
         const QTabBar &bar = *m_window.findChild<QTabWidget *>("tabs")->tabBar();
-        clickAt(bar, bar.tabRect(bar.count() - 1).center());
+        clickAt(bar, bar.tabRect(place).center());
     }
+
+    void clickOnTheLastTab() { clickOnTab(m_window.findChild<QTabWidget *>("tabs")->count() - 1); }
 
     /// Gives page 1 of the wizard that has the focus values that pass its checks; its first shape is a point.
     void typeGeneralInfo()
@@ -162,6 +166,18 @@ TEST_F(HostToolsTest, aClickOnAToolsTabGivesItsWizardTheKeyboard)
     EXPECT_TRUE(waitFor([&] { return m_display.focusedTitle() == kFirstPage; }));
 }
 
+TEST_F(HostToolsTest, aClickOnAnotherToolsTabGivesThatOnesWizardTheKeyboard)
+{
+    ToolTab *one = startAndShow();
+    startAndShow();
+    typeGeneralInfo();
+    m_display.pressKey('n', kKeyAlt);
+    ASSERT_TRUE(waitFor([&] { return m_display.focusedTitle() != kFirstPage; }));
+    clickOnTab(1);
+    EXPECT_TRUE(waitFor([&] { return m_display.focusedTitle() == kFirstPage; }));
+    EXPECT_TRUE(shows(one, kFirstPage));
+}
+
 TEST_F(HostToolsTest, tabGoesRoundInTheEmbeddedWizard)
 {
     startAndShow();
@@ -196,7 +212,7 @@ TEST_F(HostToolsTest, theKeyboardComesBackWhenAToolIsKilled)
 TEST_F(HostToolsTest, anUnnamedFileComesBackAndIsHeld)
 {
     ToolTab *tab = startAndShow();
-    m_window.addFile({m_luminaire, false});
+    m_window.addFile({m_luminaire, false, {}});
     m_window.sendDataChanged();
     ASSERT_TRUE(waitFor([&] { return tab->run().tool().isAllTaken(); }));
     ASSERT_TRUE(walkToLastPage());
@@ -213,7 +229,7 @@ TEST_F(HostToolsTest, anUnnamedFileComesBackAndIsHeld)
 TEST_F(HostToolsTest, withTwentyFiveFilesTheToolRefuses)
 {
     for (int i = 0; i < 25; ++i)
-        m_window.addFile({sampleLuminaire(), false});
+        m_window.addFile({sampleLuminaire(), false, {}});
     m_window.startTool();
     ASSERT_TRUE(waitFor([&] { return m_display.focusedTitle() == "PenwrightPE"; }));
     m_display.pressKey(kKeyReturn);
@@ -228,6 +244,11 @@ TEST_F(HostToolsTest, closingTheWindowEndsTheTools)
 {
     startAndShow();
     startAndShow();
+    test::whenDialogIsUp([](QDialog &dialog) {
+        for (QAbstractButton *button : dynamic_cast<QMessageBox &>(dialog).buttons())
+            if (button->text().remove('&') == "Close Without Saving")
+                QTest::mouseClick(button, Qt::LeftButton);
+    });
     m_window.close();
     EXPECT_TRUE(waitFor([&] { return !m_window.isVisible(); }));
     const auto *log = m_window.findChild<QTreeWidget *>("linkLog");

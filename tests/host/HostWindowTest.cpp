@@ -88,9 +88,9 @@ TEST_F(HostWindowTest, theTextOfTheFileBroughtIsShown)
 
 TEST_F(HostWindowTest, anUnnamedFileCanBeSavedLater)
 {
-    m_window->addFile({sampleLuminaire(), false});
+    m_window->addFile({sampleLuminaire(), false, {}});
     EXPECT_TRUE(button("saveAs")->isEnabled());
-    m_window->addFile({sampleLuminaire(), true});
+    m_window->addFile({sampleLuminaire(), true, {}});
     EXPECT_FALSE(button("saveAs")->isEnabled());
 }
 
@@ -147,7 +147,7 @@ TEST_F(HostWindowTest, twoToolsRunSideBySide)
 TEST_F(HostWindowTest, aRunningToolCountsAsAFile)
 {
     for (int i = 0; i < 23; ++i)
-        m_window->addFile({sampleLuminaire(), false});
+        m_window->addFile({sampleLuminaire(), false, {}});
     EXPECT_EQ(m_window->startTool()->run().tool().address().openFiles, 23);
     EXPECT_EQ(m_window->startTool()->run().tool().address().openFiles, 24);
     EXPECT_EQ(m_window->startTool()->run().tool().address().openFiles, 25);
@@ -157,8 +157,8 @@ TEST_F(HostWindowTest, dataChangedHandsOverTheSelectedFile)
 {
     PhotometricRecord record = sampleLuminaire();
     record.Filename = "the other";
-    m_window->addFile({sampleLuminaire(), false});
-    m_window->addFile({record, false});
+    m_window->addFile({sampleLuminaire(), false, {}});
+    m_window->addFile({record, false, {}});
     ToolTab *tab = m_window->startTool();
     ASSERT_TRUE(waitNoted("START"));
     button("sendDataChanged")->click();
@@ -172,14 +172,14 @@ TEST_F(HostWindowTest, dataChangedHandsOverTheSelectedFile)
 TEST_F(HostWindowTest, freshRecordsAreThereBeforeTheRequestIsTaken)
 {
     behave("RefreshData");
-    m_window->addFile({sampleLuminaire(), false});
+    m_window->addFile({sampleLuminaire(), false, {}});
     m_window->startTool();
     EXPECT_TRUE(waitNoted("then Filename1 is sample luminaire"));
 }
 
 TEST_F(HostWindowTest, deleteFileNamesTheSelectedFile)
 {
-    m_window->addFile({sampleLuminaire(), false});
+    m_window->addFile({sampleLuminaire(), false, {}});
     m_window->startTool();
     ASSERT_TRUE(waitNoted("START"));
     button("sendDeleteFile")->click();
@@ -199,7 +199,7 @@ TEST_F(HostWindowTest, closeEndsTheToolShown)
 
 TEST_F(HostWindowTest, nothingCanBeSentWithoutATool)
 {
-    m_window->addFile({sampleLuminaire(), false});
+    m_window->addFile({sampleLuminaire(), false, {}});
     EXPECT_FALSE(button("sendClose")->isEnabled());
     EXPECT_FALSE(button("sendDataChanged")->isEnabled());
     EXPECT_FALSE(button("sendDeleteFile")->isEnabled());
@@ -222,6 +222,7 @@ TEST_F(HostWindowTest, closingTheWindowClosesItsToolsFirst)
     m_window->startTool();
     m_window->startTool();
     ASSERT_TRUE(QTest::qWaitFor([&] { return noted().count("START") == 2; }, 20'000));
+    answer("2 wizards are open and have not finished their files. Close all the same?", "Close Without Saving");
     EXPECT_FALSE(m_window->close());
     EXPECT_TRUE(m_window->isVisible());
     EXPECT_TRUE(QTest::qWaitFor([&] { return !m_window->isVisible(); }, 20'000));
@@ -231,15 +232,16 @@ TEST_F(HostWindowTest, closingTheWindowClosesItsToolsFirst)
 
 TEST_F(HostWindowTest, filesThatAreNotSavedAreLostOnRequestOnly)
 {
-    m_window->addFile({sampleLuminaire(), true});
-    m_window->addFile({sampleLuminaire(), false});
+    m_window->addFile({sampleLuminaire(), true, {}});
+    m_window->addFile({sampleLuminaire(), false, {}});
     answer("1 file is not saved. Close all the same?", "Cancel");
     EXPECT_FALSE(m_window->close());
     EXPECT_TRUE(m_window->isVisible());
     m_window->startTool();
     ASSERT_TRUE(waitNoted("START"));
-    m_window->addFile({sampleLuminaire(), false});
-    answer("2 files are not saved. Close all the same?", "Close Without Saving");
+    m_window->addFile({sampleLuminaire(), false, {}});
+    answer("2 files are not saved. 1 wizard is open and has not finished its file. Close all the same?",
+           "Close Without Saving");
     m_window->close();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !m_window->isVisible(); }, 20'000));
     EXPECT_EQ(logged().count("Ended with status 0"), 1);
@@ -247,8 +249,8 @@ TEST_F(HostWindowTest, filesThatAreNotSavedAreLostOnRequestOnly)
 
 TEST_F(HostWindowTest, aFileThatIsNotSavedIsRemovedOnRequestOnly)
 {
-    m_window->addFile({sampleLuminaire(), true});
-    m_window->addFile({sampleLuminaire(), false});
+    m_window->addFile({sampleLuminaire(), true, {}});
+    m_window->addFile({sampleLuminaire(), false, {}});
     const QString question =
         QString::fromStdString(sampleLuminaire().Filename) + " is not saved. Remove it all the same?";
     answer(question, "Cancel");
@@ -267,6 +269,7 @@ TEST_F(HostWindowTest, aToolThatDoesNotCloseDoesNotKeepTheWindow)
     behave("silence");
     m_window->startTool();
     ASSERT_TRUE(waitNoted("START"));
+    answer("1 wizard is open and has not finished its file. Close all the same?", "Close Without Saving");
     m_window->close();
     EXPECT_TRUE(QTest::qWaitFor([&] { return !m_window->isVisible(); }, 20'000));
     EXPECT_TRUE(logged().contains("Did not close in time; killed"));

@@ -27,6 +27,7 @@ public:
     std::optional<std::string> chooseSaveName(const SaveNameQuestion &question) override
     {
         transcript += "[save|" + question.title + "|" + question.filter + "|" + question.defaultSuffix + "]\n";
+        proposedName = question.proposedName;
         if (onAskName)
             onAskName();
         if (names.empty())
@@ -47,6 +48,7 @@ public:
     }
 
     std::string transcript;
+    std::string proposedName;  ///< by the question asked last
     std::deque<Answer> answers;
     std::deque<std::optional<std::string>> names;
     std::function<void(const MessageBox &)> onShow;

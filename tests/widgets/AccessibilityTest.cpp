@@ -128,6 +128,7 @@ cmdBack30: Button < Back (Alt+B)
     {4, R"(Image1: Graphic Rows are vertical angles, columns are horizontal angles
 cdaGridCd: Table Candela values (Candela, a row for each vertical angle and a column for each horizontal angle, in degrees. You can Copy (Ctrl+C) and Paste (Ctrl+V) tab delimited values into the candela grid)
 picCda: Graphic Candela plot (Vertical plane through horizontal angle 0: no values; horizontal cone through vertical angle 0: no values.)
+plotLinear: CheckBox Linear view (Shows the angles along a line instead of around a centre)
 rtbVert: EditableText Vertical Plane Through Horizontal Angle (Degrees; the blue curve of the plot) < Vertical Plane Through Horizontal Angle
 rtbHorz: EditableText Horizontal Cone Through Vertical Angle (Degrees; the red curve of the plot) < Horizontal Cone Through Vertical Angle
 cmdCancel50: Button Cancel (Escape)

@@ -105,7 +105,7 @@ TEST_P(Page, tabWalksThroughTheFormAndThenTheButtons)
         {"lmpTxtNumAngles", "l2lg0", "lmpGridTiltMultiplier"},
         {"keyGrid", "cmdDefaultLoad", "cmdSaveDefaults"},
         {"rdoC"},
-        {"cdaGridCd", "rtbVert", "rtbHorz"},
+        {"cdaGridCd", "rtbVert", "rtbHorz", "picCda", "plotLinear"},
         {"cmdUnname", "cmdSaveAs"}};
     std::vector<std::string> expected = forms.at(GetParam().index);
     for (const std::string &button : buttonNames())

@@ -151,8 +151,10 @@ TEST_F(PlotViewTest, whatIsZeroOrBlankShowsTheGridAlone)
         const QImage image = picture();
         EXPECT_TRUE(boundsOf(image, isBlue).isEmpty()) << table.name;
         EXPECT_TRUE(boundsOf(image, isRed).isEmpty()) << table.name;
-        const QRect grid = boundsOf(image, [](const QColor &colour) { return colour == kPaperLook.grid; });
-        EXPECT_NEAR(grid.width(), 2 * frame().radius + 1, 1) << table.name;
+        // On the right the mark of H 0 covers the end of its axis, and its text has pixels of every grey.
+        const QImage left = image.copy(0, 0, static_cast<int>(frame().centre.x) + 1, image.height());
+        const QRect grid = boundsOf(left, [](const QColor &colour) { return colour == kPaperLook.grid; });
+        EXPECT_NEAR(grid.height(), 2 * frame().radius + 1, 1) << table.name;
     }
 }
 

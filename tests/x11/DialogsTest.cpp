@@ -257,6 +257,30 @@ TEST_F(SaveDialog, offersTheNameChosenLastSelected)
     EXPECT_EQ(offered(), folder.file("none/lamp.ies"));
 }
 
+TEST_F(SaveDialog, offersWhatIsProposedAndForEachSuffixTheNameOfItsOwn)
+{
+    const auto offered = [this](const SaveNameQuestion &asked) {
+        std::string name;
+        whenDialogIsUp([&](QDialog &dialog) {
+            name = dialog.findChild<QLineEdit *>("fileNameEdit")->text().toStdString();
+            dialog.reject();
+        });
+        dialogs.chooseSaveName(asked);
+        return name;
+    };
+    const SaveNameQuestion picture{"Save Picture", "SVG pictures (*.svg)|*.svg", "svg", {}};
+    SaveNameQuestion proposed = picture;
+    proposed.proposedName = "plot-H0.svg";
+    whenDialogIsUp([this](QDialog &dialog) { typeName(dialog, QString::fromStdString(folder.file("lamp"))); });
+    dialogs.chooseSaveName(question());
+    EXPECT_EQ(offered(picture), "");
+    EXPECT_EQ(offered(proposed), "plot-H0.svg");
+    whenDialogIsUp([this](QDialog &dialog) { typeName(dialog, QString::fromStdString(folder.file("mine"))); });
+    dialogs.chooseSaveName(proposed);
+    EXPECT_EQ(offered(picture), "mine.svg");
+    EXPECT_EQ(offered(question()), "lamp.ies");
+}
+
 TEST_F(SaveDialog, asksNothingBeforeReplacing)
 {
     std::ofstream(folder.file("there.ies")) << "old";

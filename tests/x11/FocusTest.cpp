@@ -84,6 +84,20 @@ TEST_F(Focus, isLetGoWhenTheRestOfTheHostIsPressed)
     typeAndExpect(*first, "12");
 }
 
+// A host whose tab is clicked gives it at the release, which may come before the wizard has heard of the press.
+TEST_F(Focus, isKeptWhenTheHostHasGivenItSinceThePress)
+{
+    embedAndShow();
+    giveFocusToHost();
+    pointBeside();
+    Process click({"xdotool", "click", "1"});
+    ASSERT_EQ(click.waitForEnd(), 0);
+    x11::focus(id());
+    ASSERT_EQ(display.focus(), id());
+    settle();
+    EXPECT_EQ(display.focus(), id());
+}
+
 TEST_F(NestedHost, isLetGoWhenTheRestOfTheTopLevelWindowIsPressed)
 {
     embedAndShow();

@@ -39,6 +39,8 @@ CandelaPage::CandelaPage(const PageContext &context)
     m_form->coneKey->setColour(kPaperLook.cone);
     m_form->cdaGridCd->setTable(m_table, dialogs());
     m_form->cdaHint->follow(*m_form->cdaGridCd);
+    m_form->picCda->setDialogs(dialogs());
+    m_form->plotStatus->follow(*m_form->picCda);
     connectGrid();
     addButtons([this] { cmdNext50_Click(); }, [this] { cmdBack50_Click(); });
 }

@@ -162,7 +162,9 @@ std::optional<std::string> QtDialogs::chooseSaveName(const SaveNameQuestion &que
     dialog.setNameFilter(nameFilter(question.filter));
     dialog.setDefaultSuffix(QString::fromStdString(question.defaultSuffix));
     widenPlaces(dialog);
-    offerName(dialog, last);
+    offerName(dialog,
+              QFileInfo(QString::fromStdString(question.proposedName.empty() ? m_lastNames[question.defaultSuffix]
+                                                                             : question.proposedName)));
     blockParentAlone(dialog);
     if (dialog.exec() != QDialog::Accepted || m_closing.isClosing())
         return std::nullopt;
@@ -171,6 +173,7 @@ std::optional<std::string> QtDialogs::chooseSaveName(const SaveNameQuestion &que
     if (QFileInfo(chosen).isDir())
         return std::string();
     m_lastName = withSuffix(chosen, QString::fromStdString(question.defaultSuffix)).toStdString();
+    m_lastNames[question.defaultSuffix] = m_lastName;
     return m_lastName;
 }
 

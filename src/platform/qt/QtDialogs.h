@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 
 #include "platform/Dialogs.h"
@@ -32,8 +33,9 @@ private:
 
     const Closing &m_closing;
     const OwnerWindow &m_owner;
-    std::string m_lastName;    ///< chosen last, with its folder
-    std::string m_lastOpened;  ///< the same of a file to be read
+    std::string m_lastName;                          ///< chosen last, with its folder
+    std::map<std::string, std::string> m_lastNames;  ///< the same for each suffix
+    std::string m_lastOpened;                        ///< the same of a file to be read
 };
 
 }  // namespace penwright

@@ -114,11 +114,12 @@ void X11Focus::letGo()
         x11::focus(m_hostTop);
 }
 
-// A host that does not see to it itself would have its user's next keys go to the wizard.
+// A host that does not see to it itself would have its user's next keys go to the wizard. With the time of the press
+// alone: the display ignores it where the host has given the wizard the focus since, as at a click on the wizard's tab.
 void X11Focus::onPress()
 {
     if (hasIt() && x11::isPointerOver(m_hostTop, static_cast<x11::WindowId>(m_window->winId())))
-        letGo();
+        x11::focus(m_hostTop, x11::laterOf(m_presses.time(), x11::userTimeOf(m_hostTop)));
 }
 
 bool X11Focus::eventFilter(QObject *object, QEvent *event)

@@ -144,5 +144,23 @@ TEST_F(PlotLetteringTest, smallPicturesHaveLettersAlone)
     EXPECT_TRUE(lettering.candelas.empty());
 }
 
+TEST_F(PlotLetteringTest, horizontalAngleZeroIsMarkedAtTheRightOfTypeC)
+{
+    for (const double side : {40.0, 300.0}) {
+        letter(side, true, 500);
+        ASSERT_EQ(lettering.marks.size(), 1U);
+        EXPECT_DOUBLE_EQ(lettering.marks[0].tip.x, frame.centre.x + frame.radius);
+        EXPECT_DOUBLE_EQ(lettering.marks[0].tip.y, frame.centre.y);
+        EXPECT_LT(lettering.marks[0].left.x, lettering.marks[0].tip.x);
+    }
+    ASSERT_EQ(lettering.letters.size(), 3U);
+    EXPECT_EQ(lettering.letters[2].text, "H 0");
+    EXPECT_GT(lettering.letters[2].begin.x, frame.centre.x + frame.radius);
+    EXPECT_GT(lettering.letters[2].begin.y, frame.centre.y);
+    letter(300, false, 500);
+    EXPECT_TRUE(lettering.marks.empty());
+    EXPECT_EQ(lettering.letters.size(), 2U);
+}
+
 }  // namespace
 }  // namespace penwright::test
