@@ -1,0 +1,72 @@
+#include "controls/WrappedList.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <utility>
+
+#include "controls/EnterKey.h"
+#include "controls/ScreenReader.h"
+
+namespace penwright {
+
+WrappedList::WrappedList(QWidget *parent) : QListWidget(parent)
+{
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerPixel);
+    setEditTriggers(NoEditTriggers);
+    setAutoScroll(false);  // an item clicked stays below the pointer
+}
+
+void WrappedList::focusInEvent(QFocusEvent *event)
+{
+    if (!currentItem() && count() > 0)
+        setCurrentRow(0);
+    QListWidget::focusInEvent(event);
+    tellCurrentItem(*this);
+}
+
+void WrappedList::keyPressEvent(QKeyEvent *event)
+{
+    if (isEnter(*event) && currentItem())
+        emit rowChosen(currentRow());
+    else
+        QListWidget::keyPressEvent(event);
+}
+
+void WrappedList::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        m_pressedRow = row(itemAt(event->position().toPoint()));
+}
+
+// Told at the release, which is not to come to the page that follows.
+void WrappedList::mouseReleaseEvent(QMouseEvent *event)
+{
+    QListWidget::mouseReleaseEvent(event);
+    if (const int row = std::exchange(m_pressedRow, -1); row >= 0)
+        emit rowChosen(row);
+}
+
+void WrappedList::resizeEvent(QResizeEvent *event)
+{
+    QListWidget::resizeEvent(event);
+    if (event->size().width() != event->oldSize().width())
+        scheduleDelayedItemsLayout();
+}
+
+int wrappedHeight(const QStyleOptionViewItem &option, int width, const QString &text)
+{
+    return option.fontMetrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, text).height();
+}
+
+QColor paintItemGround(QPainter &painter, const QStyleOptionViewItem &option)
+{
+    QStyleOptionViewItem ground = option;
+    const bool isCurrent = (ground.state & QStyle::State_Selected) && ground.widget && ground.widget->hasFocus();
+    ground.state.setFlag(QStyle::State_Selected, isCurrent);
+    QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &ground, &painter, ground.widget);
+    return ground.palette.color(isCurrent ? QPalette::HighlightedText : QPalette::Text);
+}
+
+}  // namespace penwright
