@@ -87,6 +87,7 @@ void FigureList::showFigures(const std::vector<FigureRow> &figures)
     static_cast<FigureDelegate *>(itemDelegate())->setNameWidth(nameWidth + 1);
     scheduleDelayedItemsLayout();
     setCurrentRow(std::min(current, count() - 1));
+    limitHeight();
 }
 
 QSize FigureList::sizeHint() const

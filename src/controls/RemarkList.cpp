@@ -89,6 +89,7 @@ void RemarkList::showRemarks(const std::vector<std::string> &sentences)
     for (const std::string &sentence : sentences)
         addItem(toQString(sentence));
     setCurrentRow(std::min(current, count() - 1));
+    limitHeight();
 }
 
 QSize RemarkList::sizeHint() const

@@ -1,5 +1,6 @@
 #include "controls/WrappedList.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,6 +17,22 @@ WrappedList::WrappedList(QWidget *parent) : QListWidget(parent)
     setVerticalScrollMode(ScrollPerPixel);
     setEditTriggers(NoEditTriggers);
     setAutoScroll(false);  // an item clicked stays below the pointer
+}
+
+void WrappedList::fitHeight()
+{
+    m_fitsHeight = true;
+    limitHeight();
+}
+
+void WrappedList::limitHeight()
+{
+    if (!m_fitsHeight)
+        return;
+    int height = 2 * frameWidth();
+    for (int row = 0; row < count(); ++row)
+        height += sizeHintForRow(row);
+    setMaximumHeight(std::max(height, minimumHeight()));
 }
 
 void WrappedList::focusInEvent(QFocusEvent *event)
@@ -51,8 +68,10 @@ void WrappedList::mouseReleaseEvent(QMouseEvent *event)
 void WrappedList::resizeEvent(QResizeEvent *event)
 {
     QListWidget::resizeEvent(event);
-    if (event->size().width() != event->oldSize().width())
-        scheduleDelayedItemsLayout();
+    if (event->size().width() == event->oldSize().width())
+        return;
+    scheduleDelayedItemsLayout();
+    limitHeight();
 }
 
 int wrappedHeight(const QStyleOptionViewItem &option, int width, const QString &text)

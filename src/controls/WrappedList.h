@@ -12,6 +12,9 @@ class WrappedList : public QListWidget {
 public:
     explicit WrappedList(QWidget *parent = nullptr);
 
+    /// From now on it is no higher than its items need, and leaves the rest of its room to others.
+    void fitHeight();
+
 signals:
     void rowChosen(int row);
 
@@ -22,7 +25,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
+    /// To be called once the list has other items.
+    void limitHeight();
+
 private:
+    bool m_fitsHeight = false;
     int m_pressedRow = -1;  ///< by a double click
 };
 

@@ -63,14 +63,6 @@ void addTypeC(PlotCurves &curves, const PlotTable &table)
         appendCone(curves.cone, table.cone(*vertical), circle);
 }
 
-std::string peakText(const PlotCurve &curve)
-{
-    if (!curve.largest)
-        return "no values";
-    return "largest " + generalText(toSingle(curve.largest->candela)) + " candela at " +
-           generalText(curve.largest->degrees) + " degrees" + (curve.largest->opposite ? " on the opposite side" : "");
-}
-
 }  // namespace
 
 double PlotCurves::largest() const
@@ -96,13 +88,21 @@ PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<Cande
     return curves;
 }
 
+std::string curveWords(const PlotCurve &curve)
+{
+    if (!curve.largest)
+        return "no values";
+    return "largest " + generalText(toSingle(curve.largest->candela)) + " candela at " +
+           generalText(curve.largest->degrees) + " degrees" + (curve.largest->opposite ? " on the opposite side" : "");
+}
+
 std::string plotDescription(const PlotCurves &curves)
 {
     std::string text = "Vertical plane through horizontal angle " + generalText(curves.horizontalAngle) + ": " +
-                       peakText(curves.plane);
+                       curveWords(curves.plane);
     if (curves.typeC)
         text += "; horizontal cone through vertical angle " + generalText(curves.verticalAngle) + ": " +
-                peakText(curves.cone);
+                curveWords(curves.cone);
     return text + ".";
 }
 

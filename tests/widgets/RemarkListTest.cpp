@@ -119,6 +119,21 @@ TEST_F(Remarks, showAHandOverTheWord)
     EXPECT_TRUE(QTest::qWaitFor([this] { return list.viewport()->cursor().shape() == Qt::ArrowCursor; }));
 }
 
+TEST_F(Remarks, takeNoMoreHeightThanTheyNeedWhereTheyAreToFit)
+{
+    list.setMinimumHeight(10);
+    list.fitHeight();
+    list.resize(300, 400);
+    const auto needed = [this] { return rectOf(list.count() - 1).bottom() + 1 + 2 * list.frameWidth(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.height() == needed(); })) << list.height() << " " << needed();
+    list.showRemarks({kLong});
+    list.resize(300, 400);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.height() == needed(); })) << list.height() << " " << needed();
+    list.setMinimumHeight(60);
+    list.resize(900, 400);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return list.height() == 60; })) << list.height();
+}
+
 TEST_F(Remarks, areWrappedBesideTheWord)
 {
     const int height = rectOf(0).height();

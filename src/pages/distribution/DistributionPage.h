@@ -27,6 +27,8 @@ public:
     DistributionPage(const PageContext &context, std::function<void()> lsbStart);
     ~DistributionPage() override;
 
+    std::optional<FaultPlace> placeOf(const RecordPlace &place) const override;
+
 protected:
     void followValue() override;
     void focusFault(const FaultPlace &place) override;
