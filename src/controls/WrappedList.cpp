@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "controls/EnterKey.h"
+#include "controls/MixedColour.h"
 #include "controls/ScreenReader.h"
 
 namespace penwright {
@@ -79,13 +80,15 @@ int wrappedHeight(const QStyleOptionViewItem &option, int width, const QString &
     return option.fontMetrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, text).height();
 }
 
-QColor paintItemGround(QPainter &painter, const QStyleOptionViewItem &option)
+ItemInk paintItemGround(QPainter &painter, const QStyleOptionViewItem &option)
 {
     QStyleOptionViewItem ground = option;
     const bool isCurrent = (ground.state & QStyle::State_Selected) && ground.widget && ground.widget->hasFocus();
     ground.state.setFlag(QStyle::State_Selected, isCurrent);
     QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &ground, &painter, ground.widget);
-    return ground.palette.color(isCurrent ? QPalette::HighlightedText : QPalette::Text);
+    if (const QColor selected = ground.palette.color(QPalette::HighlightedText); isCurrent)
+        return {selected, selected, selected};
+    return {ground.palette.color(QPalette::Text), quietText(ground.palette), ground.palette.color(QPalette::Link)};
 }
 
 }  // namespace penwright

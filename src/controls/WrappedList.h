@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QListWidget>
 
 namespace penwright {
@@ -39,7 +40,14 @@ inline constexpr QSize kItemMargin{8, 4};
 /// How high a text is that is wrapped to a width.
 int wrappedHeight(const QStyleOptionViewItem &option, int width, const QString &text);
 
-/// Paints what lies behind an item's texts, and returns the colour for those.
-QColor paintItemGround(QPainter &painter, const QStyleOptionViewItem &option);
+/// The colours of an item's texts: of the current one all are those of what is selected.
+struct ItemInk {
+    QColor text;
+    QColor quiet;
+    QColor link;
+};
+
+/// Paints what lies behind an item's texts, and returns the colours for those.
+ItemInk paintItemGround(QPainter &painter, const QStyleOptionViewItem &option);
 
 }  // namespace penwright
