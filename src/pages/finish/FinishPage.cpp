@@ -44,7 +44,7 @@ void FinishPage::enter()
 
 bool FinishPage::followRecord()
 {
-    if (isVisible())
+    if (!isHidden())
         m_form->review->refresh();
     return false;
 }
