@@ -38,6 +38,8 @@ private:
         void ShowPage(int) override {}
         void ConfirmCancel() override {}
         void ShowHelp(int) override {}
+        void showHelpAt(const std::string &) override {}
+        void goToPlace(const RecordPlace &) override {}
         bool ReDo() override { return false; }
         bool isBusy() const override { return false; }
     };

@@ -5,7 +5,6 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
-#include "controls/MixedColour.h"
 #include "platform/qt/QtText.h"
 
 namespace penwright {
@@ -23,13 +22,12 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        const QColor colour = paintItemGround(*painter, option);
-        const bool isCurrent = colour != option.palette.color(QPalette::Text);
+        const ItemInk ink = paintItemGround(*painter, option);
         const Columns columns = columnsIn(option.rect);
         painter->save();
-        painter->setPen(isCurrent ? colour : quietText(option.palette));
+        painter->setPen(ink.quiet);
         painter->drawText(columns.name, Qt::TextWordWrap, index.data().toString());
-        painter->setPen(colour);
+        painter->setPen(ink.text);
         painter->drawText(columns.value, Qt::TextWordWrap, index.data(kValueRole).toString());
         painter->restore();
     }
@@ -87,6 +85,7 @@ void FigureList::showFigures(const std::vector<FigureRow> &figures)
     static_cast<FigureDelegate *>(itemDelegate())->setNameWidth(nameWidth + 1);
     scheduleDelayedItemsLayout();
     setCurrentRow(std::min(current, count() - 1));
+    limitHeight();
 }
 
 QSize FigureList::sizeHint() const

@@ -36,15 +36,14 @@ public:
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
-        const QColor colour = paintItemGround(*painter, option);
-        const bool isCurrent = colour != option.palette.color(QPalette::Text);
+        const ItemInk ink = paintItemGround(*painter, option);
         painter->save();
         painter->setPen(lineColour(option.palette));
         painter->drawLine(option.rect.bottomLeft(), option.rect.bottomRight());
-        painter->setPen(colour);
+        painter->setPen(ink.text);
         painter->drawText(sentenceIn(option.rect, option.fontMetrics), Qt::TextWordWrap, index.data().toString());
         if (hasWhy) {
-            painter->setPen(isCurrent ? colour : option.palette.color(QPalette::Link));
+            painter->setPen(ink.link);
             painter->setFont(linkFont(option.font));
             painter->drawText(whyIn(option.rect, option.fontMetrics), Qt::TextDontClip, kWhy);
         }
@@ -89,6 +88,7 @@ void RemarkList::showRemarks(const std::vector<std::string> &sentences)
     for (const std::string &sentence : sentences)
         addItem(toQString(sentence));
     setCurrentRow(std::min(current, count() - 1));
+    limitHeight();
 }
 
 QSize RemarkList::sizeHint() const

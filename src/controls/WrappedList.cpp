@@ -1,11 +1,13 @@
 #include "controls/WrappedList.h"
 
+#include <algorithm>
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <utility>
 
 #include "controls/EnterKey.h"
+#include "controls/MixedColour.h"
 #include "controls/ScreenReader.h"
 
 namespace penwright {
@@ -16,6 +18,22 @@ WrappedList::WrappedList(QWidget *parent) : QListWidget(parent)
     setVerticalScrollMode(ScrollPerPixel);
     setEditTriggers(NoEditTriggers);
     setAutoScroll(false);  // an item clicked stays below the pointer
+}
+
+void WrappedList::fitHeight()
+{
+    m_fitsHeight = true;
+    limitHeight();
+}
+
+void WrappedList::limitHeight()
+{
+    if (!m_fitsHeight)
+        return;
+    int height = 2 * frameWidth();
+    for (int row = 0; row < count(); ++row)
+        height += sizeHintForRow(row);
+    setMaximumHeight(std::max(height, minimumHeight()));
 }
 
 void WrappedList::focusInEvent(QFocusEvent *event)
@@ -51,8 +69,10 @@ void WrappedList::mouseReleaseEvent(QMouseEvent *event)
 void WrappedList::resizeEvent(QResizeEvent *event)
 {
     QListWidget::resizeEvent(event);
-    if (event->size().width() != event->oldSize().width())
-        scheduleDelayedItemsLayout();
+    if (event->size().width() == event->oldSize().width())
+        return;
+    scheduleDelayedItemsLayout();
+    limitHeight();
 }
 
 int wrappedHeight(const QStyleOptionViewItem &option, int width, const QString &text)
@@ -60,13 +80,15 @@ int wrappedHeight(const QStyleOptionViewItem &option, int width, const QString &
     return option.fontMetrics.boundingRect(QRect(0, 0, width, 0), Qt::TextWordWrap, text).height();
 }
 
-QColor paintItemGround(QPainter &painter, const QStyleOptionViewItem &option)
+ItemInk paintItemGround(QPainter &painter, const QStyleOptionViewItem &option)
 {
     QStyleOptionViewItem ground = option;
     const bool isCurrent = (ground.state & QStyle::State_Selected) && ground.widget && ground.widget->hasFocus();
     ground.state.setFlag(QStyle::State_Selected, isCurrent);
     QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &ground, &painter, ground.widget);
-    return ground.palette.color(isCurrent ? QPalette::HighlightedText : QPalette::Text);
+    if (const QColor selected = ground.palette.color(QPalette::HighlightedText); isCurrent)
+        return {selected, selected, selected};
+    return {ground.palette.color(QPalette::Text), quietText(ground.palette), ground.palette.color(QPalette::Link)};
 }
 
 }  // namespace penwright

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QListWidget>
 
 namespace penwright {
@@ -12,6 +13,9 @@ class WrappedList : public QListWidget {
 public:
     explicit WrappedList(QWidget *parent = nullptr);
 
+    /// From now on it is no higher than its items need, and leaves the rest of its room to others.
+    void fitHeight();
+
 signals:
     void rowChosen(int row);
 
@@ -22,7 +26,11 @@ protected:
     void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
+    /// To be called once the list has other items.
+    void limitHeight();
+
 private:
+    bool m_fitsHeight = false;
     int m_pressedRow = -1;  ///< by a double click
 };
 
@@ -32,7 +40,14 @@ inline constexpr QSize kItemMargin{8, 4};
 /// How high a text is that is wrapped to a width.
 int wrappedHeight(const QStyleOptionViewItem &option, int width, const QString &text);
 
-/// Paints what lies behind an item's texts, and returns the colour for those.
-QColor paintItemGround(QPainter &painter, const QStyleOptionViewItem &option);
+/// The colours of an item's texts: of the current one all are those of what is selected.
+struct ItemInk {
+    QColor text;
+    QColor quiet;
+    QColor link;
+};
+
+/// Paints what lies behind an item's texts, and returns the colours for those.
+ItemInk paintItemGround(QPainter &painter, const QStyleOptionViewItem &option);
 
 }  // namespace penwright

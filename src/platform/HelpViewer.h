@@ -11,6 +11,9 @@ public:
 
     /// Opens the file at the topic of a context id. What prevents it is told in one message that names the file.
     virtual void showTopic(const std::string &helpFilePath, int contextId) = 0;
+
+    /// The same at a page and a place in it, "page.html#anchor".
+    virtual void showLink(const std::string &helpFilePath, const std::string &link) = 0;
 };
 
 }  // namespace penwright

@@ -71,14 +71,6 @@ void makeRuns(PlotCurve &curve, PlotShape shape)
         appendRuns(curve.runs, stretch.nodes, placing(stretch.side, shape));
 }
 
-std::string peakText(const PlotCurve &curve)
-{
-    if (!curve.largest)
-        return "no values";
-    return "largest " + generalText(toSingle(curve.largest->candela)) + " candela at " +
-           generalText(curve.largest->degrees) + " degrees" + (curve.largest->opposite ? " on the opposite side" : "");
-}
-
 }  // namespace
 
 double PlotCurves::largest() const
@@ -110,13 +102,21 @@ void reshape(PlotCurves &curves, PlotShape shape)
     makeRuns(curves.cone, shape);
 }
 
+std::string curveWords(const PlotCurve &curve)
+{
+    if (!curve.largest)
+        return "no values";
+    return "largest " + generalText(toSingle(curve.largest->candela)) + " candela at " +
+           generalText(curve.largest->degrees) + " degrees" + (curve.largest->opposite ? " on the opposite side" : "");
+}
+
 std::string plotDescription(const PlotCurves &curves)
 {
     std::string text = "Vertical plane through horizontal angle " + generalText(curves.horizontalAngle) + ": " +
-                       peakText(curves.plane);
+                       curveWords(curves.plane);
     if (curves.typeC)
         text += "; horizontal cone through vertical angle " + generalText(curves.verticalAngle) + ": " +
-                peakText(curves.cone);
+                curveWords(curves.cone);
     return text + ".";
 }
 

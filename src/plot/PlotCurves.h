@@ -51,6 +51,9 @@ PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<Cande
 /// Has the same curves run in another shape.
 void reshape(PlotCurves &curves, PlotShape shape);
 
+/// A curve in words: its largest value and where that stands. Error 6 when the value is beyond the single range.
+std::string curveWords(const PlotCurve &curve);
+
 /// The picture in words, for those who cannot see it: each curve's angle, its largest value and where that stands.
 /// Error 6 when a value is beyond the single range.
 std::string plotDescription(const PlotCurves &curves);

@@ -144,6 +144,11 @@ void addDimensions(std::vector<Figure> &figures, const PhotometricRecord &record
 
 }  // namespace
 
+std::string valueWithUnit(const Figure &figure)
+{
+    return figure.unit.empty() ? figure.text : figure.text + " " + std::string(figure.unit);
+}
+
 std::vector<Figure> figuresOf(const PhotometricRecord &record, const Photometry &photometry)
 {
     std::vector<Figure> figures;

@@ -18,6 +18,9 @@ struct Figure {
     bool operator==(const Figure &) const = default;
 };
 
+/// What stands beside a figure's name: its text, with the unit where it has one.
+std::string valueWithUnit(const Figure &figure);
+
 /// The figures of a record, in the order in which they are shown; always as many for one photometric type.
 std::vector<Figure> figuresOf(const PhotometricRecord &record, const Photometry &photometry);
 

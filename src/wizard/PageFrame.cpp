@@ -298,14 +298,27 @@ void PageFrame::goToFault(const std::optional<FaultPlace> &place)
         bringIntoView(*focus);
 }
 
+void PageFrame::goTo(const FaultPlace &place)
+{
+    goToFault(place);
+}
+
 void PageFrame::focusFault(const FaultPlace &) {}
+
+std::optional<FaultPlace> PageFrame::placeOf(const RecordPlace &) const
+{
+    return std::nullopt;
+}
 
 void PageFrame::onClick(QAbstractButton *button, const Handler &handler)
 {
-    connect(button, &QAbstractButton::clicked, this, [this, handler] {
-        if (!navigator().isBusy())
-            guardHandler(dialogs(), caption().toStdString(), handler);
-    });
+    connect(button, &QAbstractButton::clicked, this, [this, handler] { run(handler); });
+}
+
+void PageFrame::run(const Handler &handler)
+{
+    if (!navigator().isBusy())
+        guardHandler(dialogs(), caption().toStdString(), handler);
 }
 
 bool PageFrame::eventFilter(QObject *watched, QEvent *event)

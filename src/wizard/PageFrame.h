@@ -23,6 +23,7 @@ class Dialogs;
 class PageSteps;
 class WarningDialog;
 struct FaultPlace;
+struct RecordPlace;
 
 /// What a page asks of the wizard window.
 class Navigator {
@@ -38,6 +39,12 @@ public:
 
     /// Opens the help file at a context id.
     virtual void ShowHelp(int contextId) = 0;
+
+    /// Opens the help file at a page and a place in it, "page.html#anchor".
+    virtual void showHelpAt(const std::string &link) = 0;
+
+    /// Goes back to the page on which a place of the record is typed, with the focus on it; nowhere when none has it.
+    virtual void goToPlace(const RecordPlace &place) = 0;
 
     /// Called after each re-size of an angle list; returns false and does nothing else.
     virtual bool ReDo() = 0;
@@ -98,6 +105,12 @@ public:
     /// What has been done on the page, to be undone.
     PageSteps &steps() const { return *m_steps; }
 
+    /// Where on the page a place of the record is typed; nothing when it is typed elsewhere.
+    virtual std::optional<FaultPlace> placeOf(const RecordPlace &) const;
+
+    /// Puts the focus on a place of the page, and brings it into view. A place that is not there leaves the focus.
+    void goTo(const FaultPlace &place);
+
     /// What the file is about, as far as this page knows; "" for nothing.
     virtual std::string subject() const { return {}; }
 
@@ -139,6 +152,9 @@ protected:
 
     /// Has `handler` run at each click on a button, unless the wizard is busy; its errors are told under the caption.
     void onClick(QAbstractButton *button, const Handler &handler);
+
+    /// Runs a handler that no button leads to, unless the wizard is busy; its errors are told under the caption.
+    void run(const Handler &handler);
 
     /// Shows the list of warnings, then puts the focus on the field of the line chosen in it, else on the first faulty
     /// one.

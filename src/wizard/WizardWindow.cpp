@@ -183,6 +183,20 @@ void WizardWindow::ShowHelp(int contextId)
     m_services.help.showTopic(m_state.start.HelpFilePath, contextId);
 }
 
+void WizardWindow::showHelpAt(const std::string &link)
+{
+    m_services.help.showLink(m_state.start.HelpFilePath, link);
+}
+
+void WizardWindow::goToPlace(const RecordPlace &place)
+{
+    for (PageFrame *page : m_pages)
+        if (const auto typedAt = page->placeOf(place)) {
+            ShowPage(page->index());
+            return page->goTo(*typedAt);
+        }
+}
+
 bool WizardWindow::isBusy() const
 {
     return m_services.wait.isWaiting() || QApplication::activeModalWidget() || isUnloading();

@@ -66,6 +66,8 @@ public:
     void ShowPage(int index) override;
     void ConfirmCancel() override;
     void ShowHelp(int contextId) override;
+    void showHelpAt(const std::string &link) override;
+    void goToPlace(const RecordPlace &place) override;
     bool ReDo() override { return false; }
     bool isBusy() const override;
 

@@ -48,6 +48,16 @@ TEST_F(Viewer, showsTheTopicInAWindowThatBelongsToNone)
     EXPECT_EQ(dialogs.transcript, "");
 }
 
+TEST_F(Viewer, showsThePlaceThatALinkNames)
+{
+    viewer.showLink(path, "second.html#low");
+    EXPECT_EQ(shownPage(), "Second");
+    EXPECT_EQ(viewer.window()->findChild<QTextBrowser *>("wbrTopic")->source().fragment(), "low");
+    viewer.showLink(path, "none.html#low");
+    EXPECT_EQ(shownPage(), "Second");
+    EXPECT_EQ(dialogs.transcript, "[PenwrightPE|48] The help file lacks a page: none.html#low in " + path + "\n");
+}
+
 TEST_F(Viewer, reusesItsWindowAndItsHistory)
 {
     viewer.showTopic(path, 10);

@@ -54,6 +54,8 @@ const std::set<std::string> kNoMessages{
     "lower "
     "right; the height upright.",
     "New row",
+    "Picture and file",
+    "Polar picture of the main planes",
     "Rows are vertical angles, columns are horizontal angles",
     "The line is too long: more than ",
     "No data or error -1",

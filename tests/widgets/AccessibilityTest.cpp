@@ -139,6 +139,10 @@ cmdBack50: Button < Back (Alt+B)
     {5,
      R"(cmdUnname: Button Finish Unnamed (Load The File Into Toolbox Without Saving) < Load The File Into Toolbox Without Saving
 cmdSaveAs: Button Finish And Save As... (Choose A Filename And Save File Now) < Choose A Filename And Save File Now
+reviewRemarks: List Remarks (A double click or Enter goes to the place, F1 says why.)
+reviewFigures: List Figures
+reviewTabs: Client Picture and file
+reviewPicture: Graphic Polar picture of the main planes (Vertical plane: no values; Horizontal plane: no values.)
 cmdCancel80: Button Cancel (Escape)
 cmdHelp80: Button Help (F1)
 cmdNext80: Button Next > (Alt+N)

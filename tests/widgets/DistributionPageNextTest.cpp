@@ -183,6 +183,8 @@ protected:
     void ShowPage(int index) override { noted += "page " + std::to_string(index) + "\n"; }
     void ConfirmCancel() override {}
     void ShowHelp(int) override {}
+    void showHelpAt(const std::string &) override {}
+    void goToPlace(const RecordPlace &) override {}
     bool ReDo() override { return noted += "redo\n", false; }
     bool isBusy() const override { return false; }
 

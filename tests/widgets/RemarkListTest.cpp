@@ -110,6 +110,27 @@ TEST_F(Remarks, haveNoWordWhereNobodyCanSayWhy)
     EXPECT_NE(list.viewport()->grab().toImage(), without);
 }
 
+TEST_F(Remarks, keepTheWordReadableInTheCurrentOneInADarkPaletteToo)
+{
+    QPalette dark(Qt::darkGray, Qt::black);
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::HighlightedText, Qt::white);
+    dark.setColor(QPalette::Highlight, Qt::darkBlue);
+    dark.setColor(QPalette::Link, Qt::blue);
+    list.setPalette(dark);
+    list.offerWhy();
+    const auto hasLinkColour = [this](int row) {
+        const QImage image = list.viewport()->grab(QRect(why(row) - QPoint(20, 12), QSize(38, 22))).toImage();
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                if (image.pixelColor(x, y) == QColor(Qt::blue))
+                    return true;
+        return false;
+    };
+    EXPECT_FALSE(hasLinkColour(0));
+    EXPECT_TRUE(hasLinkColour(1));
+}
+
 TEST_F(Remarks, showAHandOverTheWord)
 {
     list.offerWhy();
@@ -117,6 +138,21 @@ TEST_F(Remarks, showAHandOverTheWord)
     EXPECT_TRUE(QTest::qWaitFor([this] { return list.viewport()->cursor().shape() == Qt::PointingHandCursor; }));
     QTest::mouseMove(list.viewport(), sentence(0));
     EXPECT_TRUE(QTest::qWaitFor([this] { return list.viewport()->cursor().shape() == Qt::ArrowCursor; }));
+}
+
+TEST_F(Remarks, takeNoMoreHeightThanTheyNeedWhereTheyAreToFit)
+{
+    list.setMinimumHeight(10);
+    list.fitHeight();
+    list.resize(300, 400);
+    const auto needed = [this] { return rectOf(list.count() - 1).bottom() + 1 + 2 * list.frameWidth(); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.height() == needed(); })) << list.height() << " " << needed();
+    list.showRemarks({kLong});
+    list.resize(300, 400);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return list.height() == needed(); })) << list.height() << " " << needed();
+    list.setMinimumHeight(60);
+    list.resize(900, 400);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return list.height() == 60; })) << list.height();
 }
 
 TEST_F(Remarks, areWrappedBesideTheWord)

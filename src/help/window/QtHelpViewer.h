@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -21,6 +22,7 @@ public:
     ~QtHelpViewer() override;
 
     void showTopic(const std::string &helpFilePath, int contextId) override;
+    void showLink(const std::string &helpFilePath, const std::string &link) override;
 
     /// The window; null before the first topic was shown.
     HelpWindow *window() { return m_window.get(); }
@@ -34,7 +36,11 @@ private:
         bool operator==(const Version &) const = default;
     };
     static Version versionOf(const std::string &path);
-    void show(const std::string &path, int contextId);
+
+    /// Finds the place to be shown in the file; raises what it lacks.
+    using Finder = std::function<HelpPlace(const HelpFile &file)>;
+    void showOrTell(const std::string &path, const Finder &find);
+    void show(const std::string &path, const Finder &find);
 
     Dialogs &m_dialogs;
     Closing &m_closing;

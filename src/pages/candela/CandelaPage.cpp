@@ -9,6 +9,7 @@
 #include "pages/candela/CandelaChecks.h"
 #include "pages/candela/StoreCandela.h"
 #include "plot/PlotLook.h"
+#include "review/RecordPlace.h"
 #include "ui_CandelaPage.h"
 #include "wizard/PageSteps.h"
 #include "wizard/WarningDialog.h"
@@ -112,6 +113,13 @@ bool CandelaPage::followRecord()
     m_form->cdaGridCd->makeCurrent(1, 1);  // another page may be shown, and has the focus
     showCurrentCell();
     return true;
+}
+
+std::optional<FaultPlace> CandelaPage::placeOf(const RecordPlace &place) const
+{
+    if (place.field != RecordField::Candela)
+        return std::nullopt;
+    return FaultPlace{.row = place.vertical, .column = place.index};
 }
 
 void CandelaPage::buildTable()

@@ -38,6 +38,8 @@ public:
     /// Builds the table anew where it is of another type, other counts or other angles; what fits is kept.
     bool followRecord() override;
 
+    std::optional<FaultPlace> placeOf(const RecordPlace &place) const override;
+
     CandelaState &flags() { return m_table->flags(); }
 
 signals:

@@ -5,6 +5,7 @@
 
 #include "controls/FieldFocus.h"
 #include "controls/ScreenReader.h"
+#include "review/RecordPlace.h"
 #include "ui_DistributionPage.h"
 #include "wizard/WarningDialog.h"
 
@@ -128,6 +129,15 @@ std::int16_t DistributionPage::photometricType() const
 DistributionFields DistributionPage::readFields() const
 {
     return {photometricType(), m_vertical->cells(), m_horizontal->cells()};
+}
+
+std::optional<FaultPlace> DistributionPage::placeOf(const RecordPlace &place) const
+{
+    if (place.field == RecordField::VertAngles)
+        return FaultPlace{.field = kVerticalGridField, .row = 1, .column = place.index - 1};
+    if (place.field == RecordField::HorAngles)
+        return FaultPlace{.field = kHorizontalGridField, .row = 1, .column = place.index - 1};
+    return std::nullopt;
 }
 
 void DistributionPage::focusFault(const FaultPlace &place)

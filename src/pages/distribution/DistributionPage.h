@@ -33,6 +33,8 @@ public:
     /// What stands on the page.
     DistributionFields readFields() const;
 
+    std::optional<FaultPlace> placeOf(const RecordPlace &place) const override;
+
 signals:
     /// A table is to be pasted that is yet to be understood.
     void tablePasteAsked();

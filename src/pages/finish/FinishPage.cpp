@@ -23,12 +23,31 @@ FinishPage::FinishPage(const PageContext &context, SettingsStore &store, TextFil
     QFont large = m_form->Label80a->font();
     large.setPointSizeF(large.pointSizeF() * 1.2);
     m_form->Label80a->setFont(large);
+    m_form->review->setRecord([this]() -> const PhotometricRecord & { return state().PhotFiles(1); });
+    connect(m_form->review, &FileReview::placeChosen, this,
+            [this](const RecordPlace &place) { run([&] { navigator().goToPlace(place); }); });
+    connect(m_form->review, &FileReview::whyAsked, this, [this](RemarkRule rule) {
+        run([&] { navigator().showHelpAt(std::string(kRemarkTopic) + "#" + std::string(anchorOf(rule))); });
+    });
     onClick(m_form->cmdUnname, [this] { cmdUnname_Click(); });
     onClick(m_form->cmdSaveAs, [this] { cmdSaveAs_Click(); });
     addButtons({}, [this] { cmdBack80_Click(); });
+    showStatus({});
 }
 
 FinishPage::~FinishPage() = default;
+
+void FinishPage::enter()
+{
+    m_form->review->refresh();
+}
+
+bool FinishPage::followRecord()
+{
+    if (!isHidden())
+        m_form->review->refresh();
+    return false;
+}
 
 void FinishPage::cmdUnname_Click()
 {
@@ -65,6 +84,7 @@ void FinishPage::hideEvent(QHideEvent *event)
 void FinishPage::showStatus(const QString &text)
 {
     m_form->labStatus->setText(text);
+    m_form->labStatus->setVisible(!text.isEmpty());
     // A screen reader speaks up where the focus is, on the button pressed.
     describe(*m_form->cmdUnname, text.isEmpty() ? m_form->Label80b->text() : text);
     describe(*m_form->cmdSaveAs, text.isEmpty() ? m_form->Label80c->text() : text);

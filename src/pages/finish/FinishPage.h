@@ -11,8 +11,8 @@ class FinishPage;
 
 namespace penwright {
 
-/// Page 6: hands the new file to the host, unnamed or saved under a chosen name. The page stays until the host closes
-/// the tool.
+/// Page 6: shows what the new file says, and hands it to the host, unnamed or saved under a chosen name. The page stays
+/// until the host closes the tool. What it shows is no value of its own and blocks nothing.
 class FinishPage : public PageFrame {
     Q_OBJECT
 
@@ -20,6 +20,10 @@ public:
     /// `fileTaken` runs when the host has taken the finished file.
     FinishPage(const PageContext &context, SettingsStore &store, TextFiles &files, EventWait &wait, Handler fileTaken);
     ~FinishPage() override;
+
+    /// Reviews the record as it is now.
+    void enter() override;
+    bool followRecord() override;
 
 protected:
     /// What the page has told of the host is over with when the page is left.

@@ -4,6 +4,7 @@
 #include "pages/keywords/KeywordDefaults.h"
 #include "pages/keywords/KeywordHints.h"
 #include "pages/keywords/KeywordLines.h"
+#include "review/RecordPlace.h"
 #include "ui_KeywordPage.h"
 #include "wizard/PageSteps.h"
 #include "wizard/WarningDialog.h"
@@ -36,6 +37,15 @@ void KeywordPage::enter()
 std::string KeywordPage::subject() const
 {
     return subjectOf(m_rows->rows());
+}
+
+std::optional<FaultPlace> KeywordPage::placeOf(const RecordPlace &place) const
+{
+    if (place.field != RecordField::Keywords)
+        return std::nullopt;
+    if (place.index == 0)
+        return FaultPlace{.row = m_rows->rowCount() + 1, .column = KeywordRows::kKey};
+    return FaultPlace{.row = place.index, .column = KeywordRows::kValue};
 }
 
 void KeywordPage::cmdDefaultLoad_Click()

@@ -26,6 +26,9 @@ public:
     void enter() override;
     std::string subject() const override;
 
+    /// The text of a line, and for one that is missing the row that appends it.
+    std::optional<FaultPlace> placeOf(const RecordPlace &place) const override;
+
 protected:
     void focusFault(const FaultPlace &place) override;
 

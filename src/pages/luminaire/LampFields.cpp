@@ -1,5 +1,7 @@
 #include "pages/luminaire/LampFields.h"
 
+#include <algorithm>
+#include <iterator>
 #include <string_view>
 
 #include "core/NumberText.h"
@@ -26,6 +28,23 @@ constexpr std::array<FieldRow, kLampFieldCount> kFields{{
     {"Height", 0},
 }};
 
+struct PlaceRow {
+    RecordField recordField;
+    LampField lampField;
+};
+
+constexpr PlaceRow kPlaces[]{
+    {RecordField::NumLamps, kNumLampsField},
+    {RecordField::LumensPerLamp, kLumensField},
+    {RecordField::CandelaMultiplier, kMultiplierField},
+    {RecordField::BallastFactor, kBallastField},
+    {RecordField::InputWatts, kWattsField},
+    {RecordField::Width, kWidthField},
+    {RecordField::Length, kLengthField},
+    {RecordField::Height, kHeightField},
+    {RecordField::TiltIncl, kIncludeTiltField},
+};
+
 template <typename Number>
 Number convert(const LampFields &fields, LampField field, Number (*toNumber)(std::string_view), WarningList &dlgWarn)
 {
@@ -34,6 +53,13 @@ Number convert(const LampFields &fields, LampField field, Number (*toNumber)(std
 }
 
 }  // namespace
+
+std::optional<LampField> lampFieldOf(RecordField field)
+{
+    const auto row = std::find_if(std::begin(kPlaces), std::end(kPlaces),
+                                  [field](const PlaceRow &place) { return place.recordField == field; });
+    return row == std::end(kPlaces) ? std::nullopt : std::optional(row->lampField);
+}
 
 void checkLampFields(const LampFields &fields, WarningList &dlgWarn)
 {

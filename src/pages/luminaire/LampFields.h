@@ -1,14 +1,16 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 
 #include "core/PhotometricRecord.h"
+#include "review/RecordPlace.h"
 #include "wizard/WarningList.h"
 
 namespace penwright {
 
-/// The text boxes of the lamp page in the order of their checks; the places of its faults name them.
+/// The text boxes of the lamp page in the order of their checks, and a box to tick; the places of its faults name them.
 enum LampField : int {
     kNumLampsField,
     kLumensField,
@@ -18,8 +20,12 @@ enum LampField : int {
     kWidthField,
     kLengthField,
     kHeightField,
-    kLampFieldCount
+    kLampFieldCount,
+    kIncludeTiltField = kLampFieldCount  ///< no text box: the box that includes tilt
 };
+
+/// Where a field of the record is typed on the lamp page; nothing when it is typed elsewhere.
+std::optional<LampField> lampFieldOf(RecordField field);
 
 /// What stands on the lamp page when Next is pressed.
 struct LampFields {

@@ -54,8 +54,17 @@ void LampPage::load()
 
 void LampPage::comeBackFrom(int page)
 {
-    if (page == kTiltPage || page == kKeywordPage)
-        m_form->chkIncludeTilt->setChecked(page == kTiltPage);
+    const bool isByTiltPage = page == kTiltPage || (page != kKeywordPage && state().PhotFiles(1).TiltIncl);
+    m_form->chkIncludeTilt->setChecked(isByTiltPage);
+}
+
+std::optional<FaultPlace> LampPage::placeOf(const RecordPlace &place) const
+{
+    if (const auto field = lampFieldOf(place.field))
+        return FaultPlace{.field = *field};
+    if (place.field == RecordField::TiltMultipliers && !state().PhotFiles(1).TiltIncl)
+        return FaultPlace{.field = kIncludeTiltField};
+    return std::nullopt;
 }
 
 void LampPage::lmpCmbShape_Click()
@@ -116,6 +125,8 @@ LampFields LampPage::readFields() const
 
 void LampPage::focusFault(const FaultPlace &place)
 {
+    if (place.field == kIncludeTiltField)
+        return m_form->chkIncludeTilt->setFocus();
     TextBox *box = boxes().at(static_cast<std::size_t>(place.field));
     if (!box->isEnabled())
         return m_form->lmpCmbShape->setFocus();  // only another shape mends a box that takes no text

@@ -29,6 +29,9 @@ public:
     /// Ticks the box by the way back, which the record decides: a host may have put another one there meanwhile.
     void comeBackFrom(int page) override;
 
+    /// Tilt factors, too, where the record has no tilt: the box that includes it.
+    std::optional<FaultPlace> placeOf(const RecordPlace &place) const override;
+
 protected:
     void followValue() override;
     void focusFault(const FaultPlace &place) override;

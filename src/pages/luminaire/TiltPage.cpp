@@ -3,6 +3,7 @@
 #include <QHeaderView>
 
 #include "controls/FieldFocus.h"
+#include "review/RecordPlace.h"
 #include "ui_TiltPage.h"
 #include "wizard/WarningDialog.h"
 
@@ -74,6 +75,13 @@ QWidget *TiltPage::fieldOnReturn(QWidget *last) const
     // A key pressed at the count would empty the table.
     const bool isAtCount = !last || last == m_form->lmpTxtNumAngles;
     return isAtCount && m_table->rowCount() > 0 ? m_form->lmpGridTiltMultiplier : last;
+}
+
+std::optional<FaultPlace> TiltPage::placeOf(const RecordPlace &place) const
+{
+    if (place.field != RecordField::TiltMultipliers)
+        return std::nullopt;
+    return FaultPlace{.field = kTiltGridField, .row = place.index, .column = TiltTable::kFactor};
 }
 
 void TiltPage::focusFault(const FaultPlace &place)

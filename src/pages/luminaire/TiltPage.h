@@ -20,6 +20,8 @@ public:
     explicit TiltPage(const PageContext &context);
     ~TiltPage() override;
 
+    std::optional<FaultPlace> placeOf(const RecordPlace &place) const override;
+
 protected:
     void followValue() override;
 

@@ -24,6 +24,13 @@ std::string textOf(const std::vector<Figure> &figures)
     return text;
 }
 
+TEST(Figures, haveTheirUnitBehindTheValue)
+{
+    EXPECT_EQ(valueWithUnit({"Efficiency", "84.4", "%", ""}), "84.4 %");
+    EXPECT_EQ(valueWithUnit({"Symmetry", "none", "", ""}), "none");
+    EXPECT_EQ(valueWithUnit({"Efficiency", "-", "", "The lamps give no lumens."}), "-");
+}
+
 Figure figureOf(const PhotometricRecord &record, const std::string &name)
 {
     for (const Figure &figure : figuresOf(record))

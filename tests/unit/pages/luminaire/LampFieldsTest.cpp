@@ -193,5 +193,20 @@ TEST(StoredLampFields, withNoShapeDimensionsStayAsTyped)
     EXPECT_EQ(record.Height, 3);
 }
 
+TEST(LampFieldOf, knowsWhereEachFieldOfTheRecordIsTyped)
+{
+    EXPECT_EQ(lampFieldOf(RecordField::NumLamps), kNumLampsField);
+    EXPECT_EQ(lampFieldOf(RecordField::LumensPerLamp), kLumensField);
+    EXPECT_EQ(lampFieldOf(RecordField::CandelaMultiplier), kMultiplierField);
+    EXPECT_EQ(lampFieldOf(RecordField::BallastFactor), kBallastField);
+    EXPECT_EQ(lampFieldOf(RecordField::InputWatts), kWattsField);
+    EXPECT_EQ(lampFieldOf(RecordField::Width), kWidthField);
+    EXPECT_EQ(lampFieldOf(RecordField::Length), kLengthField);
+    EXPECT_EQ(lampFieldOf(RecordField::Height), kHeightField);
+    EXPECT_EQ(lampFieldOf(RecordField::TiltIncl), kIncludeTiltField);
+    EXPECT_EQ(lampFieldOf(RecordField::TiltMultipliers), std::nullopt);
+    EXPECT_EQ(lampFieldOf(RecordField::Candela), std::nullopt);
+}
+
 }  // namespace
 }  // namespace penwright::test
