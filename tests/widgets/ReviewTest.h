@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "support/PlotTables.h"
-#include "support/RecordAngles.h"
+#include "unit/review/ReviewTest.h"
 #include "widgets/WizardTest.h"
 
 namespace penwright::test {
@@ -54,23 +54,8 @@ protected:
     static PhotometricRecord goodRecord(const std::vector<float> &horizontal = {0, 90},
                                         const std::vector<float> &vertical = anglesTo(90, 5))
     {
-        PhotometricRecord good;
-        good.Keywords = {"IESNA:LM-63-2002", "[TEST] 4711", "[TESTLAB] North Hall", "[ISSUEDATE] 14 May 2024",
-                         "[MANUFAC] Example"};
-        good.NumLamps = 1;
-        good.LumensPerLamp = 10000;
-        good.CandelaMultiplier = 1;
-        good.BallastFactor = 1;
-        good.InputWatts = 100;
-        good.UnitsType = kMeters;
-        good.Width = 0.6F;
-        good.Length = 1.2F;
-        setAngles(good, kTypeC, horizontal, vertical);
-        good.Candela.reset(good.NumHorzAngles, good.NumVertAngles);
-        for (int h = 1; h <= good.NumHorzAngles; ++h)
-            for (int v = 1; v <= good.NumVertAngles; ++v)
-                good.Candela(h, v) = std::round(2000 * cosine(double{good.VertAngles(v)}));
-        return good;
+        return withTable(plainRecord(), kTypeC, horizontal, vertical,
+                         [](double, double v) { return std::round(2000 * cosine(v)); });
     }
 
     QListWidget *remarks() { return find<QListWidget>("reviewRemarks"); }
