@@ -47,6 +47,7 @@ void addTypeC(MainPlanes &planes, const PhotometricRecord &record, const Cells &
         const auto listed = circle.listedAngle(direction);
         return listed ? plotCurves(record, cells, *listed, kNoCone).plane : PlotCurve();
     };
+    planes.picture.curves.hasTwoPlanes = true;
     planes.picture.curves.plane = planeOf(0);
     if (!planes.second.empty())
         planes.picture.curves.cone = planeOf(90);
@@ -56,6 +57,7 @@ void addTypeB(MainPlanes &planes, const PhotometricRecord &record, const Cells &
 {
     PlotCurves &curves = planes.picture.curves;
     curves.typeC = false;
+    curves.hasTwoPlanes = true;
     curves.plane = plotCurves(record, cells, 0, kNoCone).plane;
     curves.cone = plotCurves(turned(record), turned(cells), 0, kNoCone).plane;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <initializer_list>
+#include <limits>
 
 namespace penwright {
 
@@ -29,23 +30,24 @@ PlotAxis axis(double first, double last)
 
 PlotAxis planeAxis(const PlotCurves &curves)
 {
-    if (curves.plane.stretches.empty() || curves.plane.stretches.front().nodes.empty())
-        return axis(-90, 90);
-    double first = double{curves.plane.stretches.front().nodes.front().degrees};
-    double last = first;
-    bool hasOpposite = false;
-    for (const PlotStretch &stretch : curves.plane.stretches) {
-        hasOpposite = hasOpposite || stretch.side == PlotSide::LeftOfNadir;
-        for (const PlotNode &node : stretch.nodes) {
-            first = std::min(first, double{node.degrees});
-            last = std::max(last, double{node.degrees});
-        }
-    }
-    return hasOpposite ? axis(-last, last) : axis(first, last);
+    double first = std::numeric_limits<double>::infinity();
+    double last = -first;
+    for (const PlotCurve *plane : {&curves.plane, &curves.cone})
+        for (const PlotStretch &stretch : plane->stretches)
+            for (const PlotNode &node : stretch.nodes) {
+                if (plane == &curves.cone && !curves.hasTwoPlanes)
+                    continue;
+                const bool isOpposite = stretch.side == PlotSide::LeftOfNadir;
+                first = std::min(first, isOpposite ? -double{node.degrees} : double{node.degrees});
+                last = std::max(last, double{node.degrees});
+            }
+    return first > last ? axis(-90, 90) : axis(first, last);
 }
 
 PlotAxis coneAxis(const PlotCurves &curves)
 {
+    if (curves.hasTwoPlanes)
+        return planeAxis(curves);
     if (curves.cone.stretches.empty() || curves.cone.stretches.front().nodes.empty())
         return axis(0, 360);
     const std::vector<PlotNode> &nodes = curves.cone.stretches.front().nodes;

@@ -33,6 +33,7 @@ struct PlotCurves {
     float verticalAngle = 0;    ///< degrees, of the cone
     PlotCurve plane;            ///< type C: the right half's runs, then those of its opposite
     PlotCurve cone;
+    bool hasTwoPlanes = false;  ///< the cone is the plane across: of type C 90 degrees on, else the horizontal one
 
     /// Candela at the outer ring: the larger of the two maxima, 0 when no value is above zero.
     double largest() const;

@@ -89,6 +89,11 @@ std::vector<PlotMark> marksAbove(const PlotField &field)
     return marks;
 }
 
+bool hasCone(const PlotCurves &curves)
+{
+    return curves.typeC && !curves.hasTwoPlanes;
+}
+
 double fromZero(double degrees)
 {
     return std::abs(degrees);
@@ -124,7 +129,7 @@ PlotField plotField(const PlotBox &area, const PlotTextRoom &room, const PlotPic
         const double beside = std::max(room.figureWidth(kWidestAngle) / 2, letters + kAside) + kGap;
         const double line = room.figureHeight + kAside + kGap;
         const double before = std::max(widestCandela(picture.rings, room) + kAside, room.figureWidth(kWidestAngle) / 2);
-        const double above = picture.curves.typeC ? line : room.figureHeight / 2 + kMargin;
+        const double above = hasCone(picture.curves) ? line : room.figureHeight / 2 + kMargin;
         field.box = sharp(area.left + before + kMargin, area.top + above, right - beside, bottom - line);
     } else {
         field.box = sharp(area.left + kGap, area.top + kGap, right - kGap, bottom - kGap);
@@ -137,7 +142,7 @@ PlotField plotField(const PlotBox &area, const PlotTextRoom &room, const PlotPic
 PlotLettering fieldLettering(const PlotField &field, const PlotTextRoom &room, const PlotPicture &picture)
 {
     PlotLettering lettering;
-    if (picture.curves.typeC)
+    if (hasCone(picture.curves))
         lettering.marks = marksAbove(field);
     if (!field.lettered)
         return lettering;
@@ -145,8 +150,9 @@ PlotLettering fieldLettering(const PlotField &field, const PlotTextRoom &room, c
     const double right = field.box.left + field.box.width + kAside;
     const bool typeC = picture.curves.typeC;
     appendAngles(lettering.degrees, field, field.plane, room, bottom + kAside, typeC ? fromZero : asListed);
-    lettering.letters.push_back({"V", {right, bottom}});
-    if (typeC) {
+    if (typeC || !picture.curves.hasTwoPlanes)
+        lettering.letters.push_back({"V", {right, bottom}});
+    if (hasCone(picture.curves)) {
         const double top = field.box.top - kAside - room.figureHeight;
         appendAngles(lettering.degrees, field, field.cone, room, top, horizontalAngle);
         lettering.letters.push_back({"H", {right, field.box.top + room.letterSize("H").height}});

@@ -14,13 +14,14 @@ void append(std::vector<PlotReading> &readings, const PlotCurves &curves, const 
 {
     const PlotPlacing place = placing(stretch.side, curves.shape);
     const bool isOpposite = stretch.side == PlotSide::LeftOfNadir;
+    const bool isAround = stretch.side == PlotSide::AroundFromTheRight;
+    const double plane = double{curves.horizontalAngle} + (isCone ? 90 : 0);
     for (const PlotNode &node : stretch.nodes) {
         if (!node.candela)
             continue;
-        PlotReading reading{isCone,        double{curves.horizontalAngle},     double{node.degrees},
-                            *node.candela, place(*node.candela, node.degrees), 0};
-        if (isCone) {
-            reading.horizontal = horizontalAngle(double{node.degrees});
+        PlotReading reading{isCone, plane, double{node.degrees}, *node.candela, place(*node.candela, node.degrees), 0};
+        if (isCone && isAround) {
+            reading.horizontal = curves.hasTwoPlanes ? double{node.degrees} : horizontalAngle(double{node.degrees});
             reading.vertical = double{curves.verticalAngle};
         } else if (isOpposite) {
             reading.horizontal = std::fmod(horizontalAngle(reading.horizontal + 180), 360.0);

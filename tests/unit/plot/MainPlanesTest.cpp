@@ -1,5 +1,8 @@
 #include "plot/MainPlanes.h"
 
+#include "plot/PlotAxes.h"
+#include "plot/PlotReading.h"
+
 #include <gtest/gtest.h>
 
 #include "support/PlotTables.h"
@@ -31,6 +34,36 @@ TEST(MainPlanes, ofTypeCAreThoseOf0And90WithTheirOpposites)
     EXPECT_TRUE(planes.picture.curves.typeC);
     ASSERT_FALSE(planes.picture.rings.empty());
     EXPECT_EQ(planes.picture.rings.back().candela, 4002);
+}
+
+std::string readingsOfBoth(const MainPlanes &planes)
+{
+    std::string all;
+    for (const bool isSecond : {false, true})
+        for (const PlotReading &reading : readingsOf(planes.picture.curves, isSecond))
+            all += readingText(reading) + "\n";
+    return all;
+}
+
+TEST(MainPlanes, areReadByTheirOwnDirections)
+{
+    EXPECT_EQ(readingsOfBoth(mainPlanes(recordOf(kTypeC, {0, 90, 180, 270, 360}, {0, 90}))),
+              "H 180, V 90: 3002 cd\nH 180, V 0: 3001 cd\nH 0, V 0: 1001 cd\nH 0, V 90: 1002 cd\n"
+              "H 270, V 90: 4002 cd\nH 270, V 0: 4001 cd\nH 90, V 0: 2001 cd\nH 90, V 90: 2002 cd\n");
+    EXPECT_EQ(readingsOfBoth(mainPlanes(recordOf(kTypeB, {-90, 0, 90}, {0, 45}))),
+              "H 0, V 0: 2001 cd\nH 0, V 45: 2002 cd\n"
+              "H -90, V 0: 1001 cd\nH 0, V 0: 2001 cd\nH 90, V 0: 3001 cd\n");
+}
+
+TEST(MainPlanes, haveOneAxisInALinearPicture)
+{
+    const PlotCurves typeC = mainPlanes(recordOf(kTypeC, {0, 90, 180, 270, 360}, {0, 90})).picture.curves;
+    const PlotCurves typeB = mainPlanes(recordOf(kTypeB, {-90, 0, 90}, {0, 45})).picture.curves;
+    for (const PlotCurves &curves : {typeC, typeB})
+        for (const PlotAxis &axis : {planeAxis(curves), coneAxis(curves)}) {
+            EXPECT_EQ(axis.first, -90);
+            EXPECT_EQ(axis.last, 90);
+        }
 }
 
 TEST(MainPlanes, areFoundByTheSymmetryOfTheList)
