@@ -42,14 +42,13 @@ void checkKeywords(const Reviewed &file, RuleRemarks &remarks)
 {
     const std::string year = std::to_string(file.format.year);
     for (const std::string_view keyword : file.format.required) {
-        const std::string name(keyword);
         const KeywordLine line = lineOf(file.record, keyword);
         if (line.row == 0)
             remarks.add({RecordField::Keywords},
-                        [&] { return name + " is missing; the " + year + " format requires it."; });
+                        [&] { return std::string(keyword) + " is missing; the " + year + " format requires it."; });
         else if (!line.isFilled)
             remarks.add({RecordField::Keywords, line.row},
-                        [&] { return name + " is empty; the " + year + " format requires it."; });
+                        [&] { return std::string(keyword) + " is empty; the " + year + " format requires it."; });
     }
     const auto &unknown = file.format.unknown;
     for (int row = 1; row <= file.record.Keywords.size(); ++row) {
