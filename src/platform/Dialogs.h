@@ -32,7 +32,7 @@ struct SaveNameQuestion {
     std::string title;
     std::string filter;
     std::string defaultSuffix;
-    std::string proposedName;  ///< "" for the name that was chosen last with that suffix
+    std::string proposedName{};  ///< "" for the name that was chosen last with that suffix
 };
 
 /// The question of a dialog that opens a file; `filter` as that of a save dialog.

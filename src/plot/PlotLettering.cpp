@@ -79,13 +79,13 @@ std::vector<PlotFigure> candelasOf(const PlotFrame &frame, const PlotTextRoom &r
 }
 
 /// The letters stand beside the degree figures at the ends of their axes.
-std::vector<PlotLetter> lettersAround(const PlotFrame &frame, const PlotTextRoom &room, bool typeC)
+std::vector<PlotLetter> lettersAround(const PlotFrame &frame, const PlotTextRoom &room, bool hasCone)
 {
     const double aside = room.figureWidth(degreeText(180)) / 2 + 2 * kGap;
     const double above = room.figureHeight / 2 + 2 * kGap;
     std::vector<PlotLetter> letters{{"V", {frame.centre.x + aside, frame.centre.y + (-frame.radius - kGap)}},
                                     {"H", {frame.centre.x + (frame.radius + kGap), frame.centre.y - above}}};
-    if (typeC) {
+    if (hasCone) {
         const double below = above + room.letterSize(kMarkText).height;
         letters.push_back({kMarkText, {frame.centre.x + (frame.radius + kGap), frame.centre.y + below}});
     }
@@ -111,10 +111,11 @@ PlotMark markAtTheRight(const PlotFrame &frame)
 }  // namespace
 
 PlotLettering plotLettering(const PlotFrame &frame, const PlotTextRoom &room, bool typeC,
-                            const std::vector<PlotRing> &rings)
+                            const std::vector<PlotRing> &rings, bool hasTwoPlanes)
 {
+    const bool hasCone = typeC && !hasTwoPlanes;
     PlotLettering lettering;
-    if (typeC)
+    if (hasCone)
         lettering.marks.push_back(markAtTheRight(frame));
     if (!frame.lettered) {
         lettering.letters = lettersInside(frame, room);
@@ -122,7 +123,7 @@ PlotLettering plotLettering(const PlotFrame &frame, const PlotTextRoom &room, bo
     }
     lettering.degrees = degreesAround(frame, room, typeC);
     lettering.candelas = candelasOf(frame, room, typeC, rings);
-    lettering.letters = lettersAround(frame, room, typeC);
+    lettering.letters = lettersAround(frame, room, hasCone);
     return lettering;
 }
 

@@ -37,8 +37,8 @@ struct PlotLettering {
 
 /// The letters and, where the frame has room for them, the figures. Type C counts from nadir up on both sides and has
 /// the candela right of the upper axis; the others know the right half only and have them left of it. A candela figure
-/// without room below the one outside it is left out.
+/// without room below the one outside it is left out. Type C has a cone, unless a second plane stands in its place.
 PlotLettering plotLettering(const PlotFrame &frame, const PlotTextRoom &room, bool typeC,
-                            const std::vector<PlotRing> &rings);
+                            const std::vector<PlotRing> &rings, bool hasTwoPlanes = false);
 
 }  // namespace penwright

@@ -98,10 +98,8 @@ void paintPolar(QPainter &painter, const PlotBox &box, const PlotFonts &fonts, c
     const PlotTextRoom room = fonts.room();
     const PlotFrame frame = plotFrame(box, room, picture.curves.largest());
     paintGrid(painter, frame, ringRadii(frame, picture.rings), look.grid);
-    PlotLettering lettering = plotLettering(frame, room, picture.curves.typeC, picture.rings);
-    if (picture.curves.hasTwoPlanes)
-        lettering.marks.clear();  // they are a cone's
-    paintLettering(painter, lettering, fonts, look);
+    const PlotCurves &curves = picture.curves;
+    paintLettering(painter, plotLettering(frame, room, curves.typeC, picture.rings, curves.hasTwoPlanes), fonts, look);
 }
 
 void paintLinear(QPainter &painter, const PlotBox &box, const PlotFonts &fonts, const PlotPicture &picture,

@@ -106,7 +106,7 @@ TEST_P(Page, tabWalksThroughTheFormAndThenTheButtons)
         {"keyGrid", "cmdDefaultLoad", "cmdSaveDefaults"},
         {"rdoC"},
         {"cdaGridCd", "rtbVert", "rtbHorz", "picCda", "plotLinear"},
-        {"cmdUnname", "cmdSaveAs", "reviewRemarks", "reviewFigures", "qt_tabwidget_tabbar"}};
+        {"cmdUnname", "cmdSaveAs", "reviewRemarks", "reviewFigures", "qt_tabwidget_tabbar", "reviewPicture"}};
     std::vector<std::string> expected = forms.at(GetParam().index);
     for (const std::string &button : buttonNames())
         if (find(button)->isEnabled())

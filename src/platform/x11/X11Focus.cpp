@@ -67,6 +67,7 @@ void X11Focus::take()
     if (!m_host || !m_window || !m_window->isVisible() || QApplication::activeModalWidget())
         return;
     const auto self = static_cast<x11::WindowId>(m_window->winId());
+    m_isTakeDue = false;
     m_takeWhenExposed = !x11::isViewable(self);
     // Taken again it would count as taken later than a key that is on its way, and what that key opens would not get
     // it.
@@ -118,7 +119,10 @@ void X11Focus::letGo()
 // alone: the display ignores it where the host has given the wizard the focus since, as at a click on the wizard's tab.
 void X11Focus::onPress()
 {
-    if (hasIt() && x11::isPointerOver(m_hostTop, static_cast<x11::WindowId>(m_window->winId())))
+    if (!m_host || !m_window || !x11::isPointerOver(m_hostTop, static_cast<x11::WindowId>(m_window->winId())))
+        return;
+    m_heldIt = false;  // the host is meant, and what it takes is not taken back
+    if (hasIt())
         x11::focus(m_hostTop, x11::laterOf(m_presses.time(), x11::userTimeOf(m_hostTop)));
 }
 
@@ -143,9 +147,19 @@ void X11Focus::onOwnWindow(QEvent::Type type)
     if (type == QEvent::MouseButtonPress)
         take();
     else if (type == QEvent::Show)
-        QTimer::singleShot(0, this, &X11Focus::take);
+        takeSoon();
     else if (type == QEvent::Expose && m_takeWhenExposed)
         take();
+}
+
+// Once for what tells of one showing: a user may have pressed elsewhere before the next one is heard.
+void X11Focus::takeSoon()
+{
+    m_isTakeDue = true;
+    QTimer::singleShot(0, this, [this] {
+        if (m_isTakeDue)
+            take();
+    });
 }
 
 void X11Focus::onOtherWindow(QWidget &other, QEvent::Type type)
@@ -218,7 +232,10 @@ void X11Focus::onHostFocus(bool gets, int detail)
     else if (gets ? isBetweenBoth : isHostsOwn)  // the host takes it from the wizard, or loses what was its own
         m_heldIt = false;
     else if (gets && m_heldIt && !x11::isButtonHeld())
-        QTimer::singleShot(0, this, &X11Focus::takeUnlessElsewhere);
+        QTimer::singleShot(0, this, [this] {
+            if (m_heldIt)  // no press on the host has been heard of meanwhile
+                takeUnlessElsewhere();
+        });
 }
 
 // A user who clicks on the host means it, and still holds the button when the focus goes.

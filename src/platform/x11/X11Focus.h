@@ -56,6 +56,7 @@ private:
     void onOwnWindow(QEvent::Type type);
     void onOtherWindow(QWidget &other, QEvent::Type type);
     void onDialog(QWidget &dialog, QEvent::Type type);
+    void takeSoon();
     void takeBack();
     void takeInTime(x11::WindowId self);
     void takeUnlessElsewhere();
@@ -74,6 +75,7 @@ private:
     bool m_heldIt = false;            ///< whether the wizard, not the host itself, had the focus last of the two
     QPointer<QWindow> m_lastFocused;  ///< of this program's windows
     bool m_takeWhenExposed = false;
+    bool m_isTakeDue = false;    ///< since it was shown
     QDeadlineTimer m_contested;  ///< until then a window manager may hand the focus of a closed window to the host
 };
 

@@ -162,5 +162,15 @@ TEST_F(PlotLetteringTest, horizontalAngleZeroIsMarkedAtTheRightOfTypeC)
     EXPECT_EQ(lettering.letters.size(), 2U);
 }
 
+TEST_F(PlotLetteringTest, nothingIsMarkedWhereASecondPlaneStandsInThePlaceOfTheCone)
+{
+    letter(300, true, 500);
+    const std::size_t figures = lettering.degrees.size();
+    const PlotLettering planes = plotLettering(frame, evenRoom(), true, plotRings(500), true);
+    EXPECT_TRUE(planes.marks.empty());
+    EXPECT_EQ(planes.letters.size(), 2U);
+    EXPECT_EQ(planes.degrees.size(), figures);
+}
+
 }  // namespace
 }  // namespace penwright::test
