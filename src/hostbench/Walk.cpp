@@ -14,6 +14,7 @@
 #include "core/IesText.h"
 #include "hostbench/HostWindow.h"
 #include "hostbench/SampleLuminaire.h"
+#include "hostbench/StillPicture.h"
 #include "hostlink/RecordText.h"
 
 namespace penwright {
@@ -123,19 +124,11 @@ QImage Walk::areaImage() const
 
 bool Walk::takePicture(int page)
 {
-    // A page is on screen with all that was typed when the picture is another than before and has stayed as it is for a
-    // while; shorter than a caret blinks.
-    constexpr int kStillLooks = 8;
-    QImage image;
-    int looks = 0;
-    const auto isStill = [&] {
-        const QImage before = std::exchange(image, areaImage());
-        looks = image == before ? looks + 1 : 0;
-        return !image.isNull() && looks >= kStillLooks && image != m_lastImage;
-    };
-    if (!waitFor(isStill, QStringLiteral("a still picture of page %1").arg(page)))
+    // A page is on screen with all that was typed when its picture is another than that of the page before and at rest.
+    StillPicture picture(m_lastImage);
+    if (!waitFor([&] { return picture.look(areaImage()); }, QStringLiteral("a still picture of page %1").arg(page)))
         return false;
-    m_lastImage = image;
+    m_lastImage = picture.image();
     const QString path = QStringLiteral("%1/page-%2.png").arg(m_folder).arg(page);
     if (!m_window.screen()->grabWindow(m_window.winId()).save(path))
         return fail(QStringLiteral("cannot write ") + path);
