@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <optional>
 
 #include "core/Ascii.h"
 #include "core/Blanks.h"
@@ -76,6 +77,16 @@ bool readNumber(std::string_view number, double &value)
     return isTooSmall(number);
 }
 
+/// The value of a text that is one number with blanks around at most.
+std::optional<double> wholeNumber(std::string_view text)
+{
+    const std::string_view number = withoutOuterBlanks(text);
+    double value = 0;
+    if (number.empty() || numberLength(number) != number.size() || !readNumber(number, value))
+        return std::nullopt;
+    return value;
+}
+
 template <typename Integer>
 Integer rounded(double value)
 {
@@ -89,9 +100,7 @@ Integer rounded(double value)
 
 bool isNumeric(std::string_view text)
 {
-    const std::string_view number = withoutOuterBlanks(text);
-    double value = 0;
-    return !number.empty() && numberLength(number) == number.size() && readNumber(number, value);
+    return wholeNumber(text).has_value();
 }
 
 double leadingNumber(std::string_view text)
@@ -107,9 +116,10 @@ double leadingNumber(std::string_view text)
 
 double toDouble(std::string_view text)
 {
-    if (!isNumeric(text))
+    const std::optional<double> value = wholeNumber(text);
+    if (!value)
         throw typeMismatch();
-    return leadingNumber(text);
+    return *value;
 }
 
 bool fitsSingle(double value)

@@ -24,12 +24,13 @@ double CandelaWidths::widened(double room, const CandelaCell &cell) const
 double CandelaWidths::most(const CandelaCell &cell) const
 {
     const double value = numberOf(cell).value_or(0);
-    const int digits = std::holds_alternative<float>(cell) ? 7 : 15;
+    const bool isSingle = std::holds_alternative<float>(cell);
+    const int digits = isSingle ? 7 : 15;
     const double size = std::abs(value);
     const double sign = value < 0 ? m_advances['-'] : 0;
     if (size == 0)
         return m_digit;
-    if (size < 1 || size >= std::pow(10, digits - 1))
+    if (size < 1 || size >= (isSingle ? 1e6 : 1e14))
         return std::numeric_limits<double>::infinity();
     if (size != std::trunc(size))
         return sign + digits * m_digit + m_advances['.'];
