@@ -84,6 +84,17 @@ void written(benchmark::State &state)
 }
 BENCHMARK(written)->Unit(benchmark::kMillisecond);
 
+/// The bar for the keys: as many with nothing being written.
+void typedAlone(benchmark::State &state)
+{
+    KeptPage kept;
+    double slowest = 0;
+    for (auto _ : state)
+        slowest = std::max(slowest, kept.slowestKey());
+    state.counters["slowest_ms"] = slowest;
+}
+BENCHMARK(typedAlone)->Unit(benchmark::kMillisecond);
+
 /// Keys while a draft is being written all the time; `slowest_ms` is the longest from a key to what it painted.
 void typedMeanwhile(benchmark::State &state)
 {
