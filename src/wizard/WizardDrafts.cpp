@@ -70,7 +70,6 @@ WizardDrafts::WizardDrafts(WizardWindow &window, const Closing &closing, std::un
     m_timer = new QTimer(this);
     m_timer->setObjectName("draftTimer");
     m_timer->setSingleShot(true);
-    m_timer->setInterval(kDelay);
     connect(m_timer, &QTimer::timeout, this, &WizardDrafts::keep);
     connect(&closing, &Closing::begun, this, &WizardDrafts::keepIfChanged);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &WizardDrafts::keepIfChanged);
@@ -112,9 +111,10 @@ void WizardDrafts::noteChange(int page)
         m_replay.giveUp(page);
     if (page == kCandelaPage)
         m_visited.set(kCandelaPage);  // a table can be pasted before it is shown
-    m_isTyped = true;
+    // The first change is kept at once: a new file may cost a busy disk as long as the rest of the page costs its user.
+    const bool isFirst = !std::exchange(m_isTyped, true);
     if (!m_timer->isActive())
-        m_timer->start();
+        m_timer->start(isFirst ? 0ms : kDelay);
 }
 
 void WizardDrafts::keep()

@@ -53,7 +53,7 @@ protected:
     void send(const std::string &command)
     {
         write("PenwrightPE|7", command);
-        ASSERT_TRUE(waitUntil([&] { return inbox().empty(); }, 20s)) << command.substr(0, 100) << " is not taken";
+        ASSERT_TRUE(waitUntil([&] { return inbox().empty(); }, 60s)) << command.substr(0, 100) << " is not taken";
     }
 
     /// The next command from the tool, taken from the host's inbox; "" when none comes.

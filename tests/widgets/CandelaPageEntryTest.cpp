@@ -171,7 +171,6 @@ TEST_F(CandelaPageEntry, linesOfAnotherLengthAreSaidUnderTheGridUntilTheNextChan
 TEST_F(CandelaPageEntry, endOfAPasteIsSeenWithTheValuesAroundIt)
 {
     showTable({0}, angles(100, 0.9F));
-    ASSERT_TRUE(waitForFlip());
     std::string table;
     for (int i = 1; i <= 100; ++i)
         table += i == 60 ? "abc\n" : std::to_string(i) + "\n";

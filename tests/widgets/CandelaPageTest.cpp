@@ -231,28 +231,26 @@ TEST_F(CandelaPageTest, flipScrollsOnceForEachBuild)
 {
     EXPECT_EQ(tmrFlip().interval(), 100);
     EXPECT_FALSE(tmrFlip().isActive());
-    showTable({0, 90}, angles(91, 1));
-    EXPECT_TRUE(tmrFlip().isActive());
+    showTableBeforeFlip({0, 90}, angles(91, 1));
     grid().goTo(60, 2);
     KeyCounter keys;
     grid().installEventFilter(&keys);
-    ASSERT_TRUE(waitForFlip());
+    flip();
     EXPECT_EQ(keys.pageUps, 3);
     EXPECT_EQ(grid().verticalScrollBar()->value(), 0);
     EXPECT_LT(grid().currentRow(), 60);
     EXPECT_EQ(grid().currentColumn(), 2);
-    showTable({0, 90}, angles(91, 1));
-    EXPECT_TRUE(tmrFlip().isActive());
-    ASSERT_TRUE(waitForFlip());
+    showTableBeforeFlip({0, 90}, angles(91, 1));
+    flip();
     EXPECT_EQ(current(), "1,1");
 }
 
 TEST_F(CandelaPageTest, flipMovesNothingThatHasNoFocusButScrollsAllTheSame)
 {
-    showTable({0, 90}, angles(91, 1));
+    showTableBeforeFlip({0, 90}, angles(91, 1));
     grid().goTo(91, 1);
     find("cmdNext50")->setFocus();
-    ASSERT_TRUE(waitForFlip());
+    flip();
     EXPECT_EQ(current(), "91,1");
     EXPECT_EQ(focusName(), "cmdNext50");
     EXPECT_EQ(grid().verticalScrollBar()->value(), 0);
@@ -260,12 +258,12 @@ TEST_F(CandelaPageTest, flipMovesNothingThatHasNoFocusButScrollsAllTheSame)
 
 TEST_F(CandelaPageTest, valuesTypedBeforeTheFlipKeepTheRowReached)
 {
-    showTable({0, 90}, angles(91, 1));
+    showTableBeforeFlip({0, 90}, angles(91, 1));
     typeText("7");
     press(Qt::Key_Return);
     typeText("8");
     press(Qt::Key_Return);
-    ASSERT_TRUE(waitForFlip());
+    flip();
     EXPECT_EQ(current(), "3,1");
     EXPECT_EQ(cell(1, 1), "7");
     EXPECT_EQ(cell(2, 1), "8");
@@ -273,10 +271,10 @@ TEST_F(CandelaPageTest, valuesTypedBeforeTheFlipKeepTheRowReached)
 
 TEST_F(CandelaPageTest, flipLeavesAnOpenEditorAlone)
 {
-    showTable({0, 90}, angles(91, 1));
+    showTableBeforeFlip({0, 90}, angles(91, 1));
     grid().goTo(2, 1);
     typeText("12");
-    ASSERT_TRUE(waitForFlip());
+    flip();
     EXPECT_TRUE(grid().isEditing());
     typeText("3");
     press(Qt::Key_Return);
@@ -286,7 +284,6 @@ TEST_F(CandelaPageTest, flipLeavesAnOpenEditorAlone)
 TEST_F(CandelaPageTest, pointerDecidesWhichPlaneIsShownUntilItLeavesTheGrid)
 {
     showTable({0, 22.5F, 90}, {0, 45, 90});
-    ASSERT_TRUE(waitForFlip());  // it would go back to the first row
     grid().goTo(1, 1);
     QTest::mouseMove(grid().viewport(), rect(3, 2).center());
     EXPECT_EQ(planes(), "22.5 / 90");

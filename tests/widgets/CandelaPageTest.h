@@ -19,13 +19,29 @@ protected:
         setAngles(state.PhotFiles(1), type, horizontal, vertical);
     }
 
-    /// What page 4 does when it is left by Next.
+    /// What page 4 does when it is left by Next, and what follows a tenth of a second later.
     void showTable(const std::vector<float> &horizontal, const std::vector<float> &vertical, std::int16_t type = kTypeC)
     {
+        showTableBeforeFlip(horizontal, vertical, type);
+        flip();
+    }
+
+    /// The same up to that; however slowly the test goes on, it follows at `flip`.
+    void showTableBeforeFlip(const std::vector<float> &horizontal, const std::vector<float> &vertical,
+                             std::int16_t type = kTypeC)
+    {
         giveAngles(horizontal, vertical, type);
+        tmrFlip().setInterval(std::chrono::hours(1));
         page().lsbStart();
         window->ShowPage(kCandelaPage);
         QCoreApplication::processEvents();
+    }
+
+    void flip()
+    {
+        ASSERT_TRUE(tmrFlip().isActive());
+        tmrFlip().setInterval(0);
+        ASSERT_TRUE(waitForFlip());
     }
 
     CandelaPage &page() { return *find<CandelaPage>("nfra4"); }

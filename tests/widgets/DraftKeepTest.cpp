@@ -28,16 +28,19 @@ TEST_F(DraftKeep, whatIsTypedIsKeptSoonAfter)
     EXPECT_EQ(textOf(draft, kLampPage, "lmpCmbShape"), "-1");
 }
 
-TEST_F(DraftKeep, nobodyWaitsForAPauseInTyping)
+TEST_F(DraftKeep, firstChangeIsKeptAtOnceAndNobodyWaitsForAPauseInTyping)
 {
     startRun();
     auto *timer = find<QTimer>("draftTimer");
-    EXPECT_LT(timer->interval(), 2000);
     typeText("7");
+    EXPECT_EQ(timer->interval(), 0);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !timer->isActive(); }));
+    typeText("8");
     EXPECT_TRUE(timer->isActive());
+    EXPECT_EQ(timer->interval(), 1000);
     const int left = timer->remainingTime();
     QTest::qWait(20);
-    typeText("8");
+    typeText("9");
     EXPECT_LT(timer->remainingTime(), left) << "a later key must not put it off";
 }
 

@@ -96,7 +96,6 @@ TEST_F(HostData, sameTypeCountsAndAnglesLeaveTheTableAsItIs)
 {
     showTable({0, 90}, {0, 90});
     paste("1\t2\n3\t4");
-    ASSERT_TRUE(waitForFlip());
     grid().goTo(2, 2);
     hostSends({0, 90}, {0, 90});
     EXPECT_EQ(table(), "1 2|3 4|");
