@@ -50,13 +50,19 @@ pid_t childOf(pid_t process)
     return child;
 }
 
-/// Whether a process runs; one that has ended and that nobody has asked for does not.
+/// Whether a process runs, or a thread of it that has a disk to wait for yet and its files open; one that has ended and
+/// that nobody has asked for does not.
 bool isRunning(pid_t process)
 {
+    const std::filesystem::path folder = "/proc/" + std::to_string(process);
     std::string text;
-    std::getline(std::ifstream("/proc/" + std::to_string(process) + "/stat"), text);
+    std::getline(std::ifstream(folder / "stat"), text);
     const std::size_t name = text.rfind(") ");
-    return name != std::string::npos && text.substr(name + 2, 1) != "Z";
+    if (name == std::string::npos)
+        return false;
+    std::error_code gone;
+    const std::filesystem::directory_iterator threads(folder / "task", gone);
+    return text.substr(name + 2, 1) != "Z" || std::distance(begin(threads), end(threads)) > 1;
 }
 
 /// The stand-in host that types a whole luminaire into the wizard by real keys. A picture of each page is written once
