@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "app/AngleTexts.h"
 #include "app/TablePaste.h"
 #include "pages/candela/CandelaPage.h"
 #include "pages/distribution/DistributionPage.h"
@@ -34,6 +35,10 @@ void addPages(WizardWindow &window, const Services &services, const Closing &clo
     auto *distributionPage = new DistributionPage(context, [candelaPage] { candelaPage->lsbStart(); });
     window.addPage(distributionPage);
     window.addPage(candelaPage);
+    QObject::connect(candelaPage, &CandelaPage::followed, distributionPage, [context, candelaPage, distributionPage] {
+        if (candelaPage->flags().GridReady)
+            followTable(*distributionPage, context.state.PhotFiles(1));
+    });
     new TablePaste(window, *distributionPage, *candelaPage, services.files, closing);
     window.addPage(
         new FinishPage(context, services.store, services.files, services.wait, [&window] { emit window.fileTaken(); }));

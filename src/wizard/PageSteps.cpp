@@ -43,7 +43,8 @@ TypingGo::Key kindOf(const QKeyEvent &key)
 {
     if (key.key() == Qt::Key_Backspace || key.key() == Qt::Key_Delete)
         return TypingGo::Key::Deletion;
-    const bool isCharacter = !key.text().isEmpty() && key.text()[0].isPrint();
+    const auto modifiers = key.modifiers() & (Qt::ControlModifier | Qt::AltModifier);  // together they type, too
+    const bool isCharacter = !key.text().isEmpty() && key.text()[0].isPrint() && modifiers != Qt::ControlModifier;
     return isCharacter ? TypingGo::Key::Character : TypingGo::Key::Other;
 }
 
@@ -119,9 +120,10 @@ void PageSteps::beginAct(const QString &name)
 // What brings a text at once, or takes it away, has a name of its own and is none with what is typed.
 void PageSteps::noteKey(const QObject *watched, const QKeyEvent &key)
 {
-    const auto *line = qobject_cast<const QLineEdit *>(watched);
-    const auto isOfLine = [line](QWidget *box) { return PageFields::lineOf(box) == line; };
-    if (!line || std::none_of(m_fields.boxes().begin(), m_fields.boxes().end(), isOfLine))
+    const auto isWatched = [watched](QWidget *box) { return box == watched || PageFields::lineOf(box) == watched; };
+    const auto box = std::find_if(m_fields.boxes().begin(), m_fields.boxes().end(), isWatched);
+    const QLineEdit *line = box == m_fields.boxes().end() ? nullptr : PageFields::lineOf(*box);
+    if (!line)
         return;
     if (key.matches(QKeySequence::Paste))
         m_name = "Paste";

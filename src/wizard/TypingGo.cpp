@@ -4,6 +4,12 @@
 
 namespace penwright {
 
+void TypingGo::end()
+{
+    ++m_number;
+    m_isTyping = false;
+}
+
 void TypingGo::actEnded()
 {
     if (std::exchange(m_endsWithAct, false))
@@ -13,10 +19,12 @@ void TypingGo::actEnded()
 void TypingGo::add(Key key, bool hasSelection)
 {
     const bool isDeletion = key == Key::Deletion;
-    if (key != Key::Other && hasSelection)
+    const bool isTypedOn = m_isTyping && key == Key::Character;  // nothing between has selected anything
+    if (key != Key::Other && hasSelection && !isTypedOn)
         end();
     else if (isDeletion && m_deletions == 1 && m_characters > 1)  // the first one mends a slip
         end();
+    m_isTyping = key == Key::Character;
     if (isDeletion) {
         ++m_deletions;
         return;

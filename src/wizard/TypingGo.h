@@ -4,7 +4,7 @@ namespace penwright {
 
 /// Which keys that come to a box are one go of typing, to be undone at once: the characters that come one by one and
 /// the deletion that mends a slip among them. What replaces or deletes a selection, and what goes on deleting, begins
-/// another one.
+/// another one; but not where the box has selected its text by itself, in answer to the character before.
 class TypingGo {
 public:
     enum class Key { Character, Deletion, Other };
@@ -13,7 +13,7 @@ public:
     int number() const { return m_number; }
 
     /// What comes from now on is another go.
-    void end() { ++m_number; }
+    void end();
 
     /// What comes once the act under way has ended is another go: the focus has moved in it.
     void endWithAct() { m_endsWithAct = true; }
@@ -27,8 +27,9 @@ public:
 private:
     int m_number = 1;
     bool m_endsWithAct = false;
-    int m_characters = 0;  ///< one behind the other
-    int m_deletions = 0;   ///< behind them
+    bool m_isTyping = false;  ///< the key before was a character of this go
+    int m_characters = 0;     ///< one behind the other
+    int m_deletions = 0;      ///< behind them
 };
 
 }  // namespace penwright

@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "core/NumberText.h"
+#include "grid/GridModel.h"
 #include "pages/candela/CandelaChecks.h"
 #include "pages/candela/StoreCandela.h"
 #include "plot/PlotLook.h"
@@ -78,7 +79,10 @@ void CandelaPage::connectGrid()
 void CandelaPage::lsbStart()
 {
     const bool isFirst = m_form->cdaGridCd->model()->columnCount() == 0;
-    buildTable();
+    if (flags().GridReady && !m_table->isOutdated())
+        m_form->cdaGridCd->changes().exchange(m_table->newTable());  // no step: what has been undone can be redone
+    else
+        buildTable();
     m_form->cdaGridCd->goTo(1, 1);
     showCurrentCell();
     if (isFirst)
@@ -140,6 +144,7 @@ void CandelaPage::showTable()
 void CandelaPage::followValue()
 {
     showCurrentCell();
+    emit followed();
 }
 
 void CandelaPage::tmrFlip_Timer()

@@ -135,17 +135,22 @@ float singleIn(const AngleCell &cell)
 
 std::optional<AngleList::Resizing> AngleList::resize(std::string_view text, std::int16_t photometricType)
 {
-    constexpr std::string_view kName = "New Count";
     if (text.starts_with("Type"))
         return std::nullopt;
     try {
         if (leadingNumber(text) <= kMostAngles)
-            return Resizing{replacement(kName, isNumeric(text) ? blankCells(toInt16(text))
-                                                               : entryCells(text, photometricType, m_axis)),
-                            false};
+            return Resizing{
+                resized(isNumeric(text) ? blankCells(toInt16(text)) : entryCells(text, photometricType, m_axis)),
+                false};
     } catch (const RunTimeError &) {  // a text that makes no list is replaced without a message
     }
-    return Resizing{replacement(kName, blankCells(1)), true};
+    return Resizing{resized(blankCells(1)), true};
+}
+
+/// A list that stays what it is makes no step: each letter of a word is answered by one blank angle.
+GridEdit AngleList::resized(AngleCells now)
+{
+    return now == cells() ? GridEdit() : replacement("New Count", std::move(now));
 }
 
 void AngleList::readCell(int column, std::string &value) const

@@ -90,6 +90,8 @@ protected:
     void write(AngleCells &cells, int row, int column, std::string_view text) const override;
 
 private:
+    GridEdit resized(AngleCells now);
+
     AngleAxis m_axis;
 };
 

@@ -43,9 +43,21 @@ TEST(TypingGo, isAnotherOneForWhatGoesOnDeleting)
 
 TEST(TypingGo, isAnotherOneWhereASelectionIsReplacedOrDeleted)
 {
-    EXPECT_EQ(goesOf("aaA"), "112");
+    EXPECT_EQ(goesOf("aa.A"), "1112");
+    EXPECT_EQ(goesOf("Aa"), "22");
     EXPECT_EQ(goesOf("aa{a"), "1122");
     EXPECT_EQ(goesOf("aa{a<<"), "112222") << "one character was typed since";
+}
+
+TEST(TypingGo, isTheSameWhereTheBoxSelectsItsTextByItself)
+{
+    EXPECT_EQ(goesOf("aAAA"), "1111");
+    EXPECT_EQ(goesOf("aA<A"), "1112") << "nobody knows who selected it";
+    TypingGo go;
+    go.add(TypingGo::Key::Character, false);
+    go.end();
+    go.add(TypingGo::Key::Character, true);
+    EXPECT_EQ(go.number(), 3);
 }
 
 TEST(TypingGo, endsAtOnceOrWithTheAct)
