@@ -133,6 +133,21 @@ std::string HelpTopic::text() const
     return textBetween(m_tokens.begin(), m_tokens.end());
 }
 
+std::string HelpTopic::textWithout(std::string_view className) const
+{
+    std::string text;
+    for (auto token = m_tokens.begin(); token != m_tokens.end(); ++token) {
+        const auto found = token->attributes.find("class");
+        if (found != token->attributes.end() && found->second == className)
+            token = std::find_if(token, m_tokens.end(),
+                                 [end = "/" + token->tag](const HtmlToken &other) { return other.tag == end; });
+        if (token == m_tokens.end())
+            break;
+        text += kBlockEnds.count(token->tag) ? " " : token->text;
+    }
+    return collapsed(text);
+}
+
 std::string HelpTopic::linkOf(std::string_view text) const
 {
     for (auto open = m_tokens.begin(); open != m_tokens.end(); ++open) {

@@ -33,6 +33,9 @@ public:
     /// All that a reader sees, white space collapsed.
     std::string text() const;
 
+    /// The same without the elements of a class.
+    std::string textWithout(std::string_view className) const;
+
     /// The text of each element of a class, its <br> as "\r\n".
     std::vector<std::string> textsOf(std::string_view className) const;
 

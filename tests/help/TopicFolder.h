@@ -1,5 +1,7 @@
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -28,6 +30,20 @@ inline std::vector<std::string> topicNames()
 
 /// The topic that the help begins with when no page is meant.
 inline constexpr const char *kFirstTopic = "start.html";
+
+/// What a topic says word for word in the section at an anchor.
+struct Statement {
+    const char *topic;
+    const char *anchor;
+    std::vector<std::string> words;
+};
+
+inline void expectSaid(const Statement &statement)
+{
+    const std::string section = topic(statement.topic).sectionAt(statement.anchor);
+    for (const std::string &words : statement.words)
+        EXPECT_NE(section.find(words), std::string::npos) << words << "\n" << section;
+}
 
 /// One topic with the form of its page.
 struct PageTopic {
