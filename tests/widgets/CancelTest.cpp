@@ -26,6 +26,15 @@ TEST_F(Cancel, yesTellsTheHostGivesTheWindowBackAndEnds)
     EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(Cancel, windowIsGivenBackOnceTheHostHasTakenTheLastWord)
+{
+    startWizard();
+    std::vector<std::string> takenBefore;
+    embedding.onGiveBack = [&] { takenBefore = taken; };
+    EXPECT_EQ(askAndRun(Answer::Yes), 0);
+    EXPECT_EQ(takenBefore, std::vector{kCloseRemove});
+}
+
 TEST_F(Cancel, yesOfAToolThatIsNotEmbeddedTellsTheHostAndEnds)
 {
     state.start.EmbedInHost = false;
