@@ -29,10 +29,11 @@ TEST_F(Cancel, yesTellsTheHostGivesTheWindowBackAndEnds)
 TEST_F(Cancel, windowIsGivenBackOnceTheHostHasTakenTheLastWord)
 {
     startWizard();
-    std::vector<std::string> takenBefore;
-    embedding.onGiveBack = [&] { takenBefore = taken; };
+    std::vector<std::vector<std::string>> takenBefore;
+    embedding.onGiveBack = [&] { takenBefore.push_back(taken); };
     EXPECT_EQ(askAndRun(Answer::Yes), 0);
-    EXPECT_EQ(takenBefore, std::vector{kCloseRemove});
+    ASSERT_EQ(takenBefore.size(), 1U);
+    EXPECT_EQ(takenBefore[0], std::vector{kCloseRemove});
 }
 
 TEST_F(Cancel, yesOfAToolThatIsNotEmbeddedTellsTheHostAndEnds)
