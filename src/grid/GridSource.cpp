@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/Counted.h"
+#include "core/NumberText.h"
 
 namespace penwright {
 namespace {
@@ -55,6 +56,12 @@ GridEdit refusedPaste(const GridBlock &block, MessageBox box)
 }
 
 }  // namespace
+
+int rowAtDistance(std::string_view start, int fromNowhere, int offset)
+{
+    const double from = start.empty() ? fromNowhere : toInt32(start);
+    return toInt32(from + offset);
+}
 
 GridEdit GridSource::paste(const GridBlock &block, std::string_view text, const std::string &title)
 {

@@ -27,6 +27,10 @@ struct RelativeRow {
     bool operator==(const RelativeRow &) const = default;
 };
 
+/// The number of the row `offset` rows from the one that a text numbers, or from `fromNowhere` when the text is empty.
+/// Error 13 for a text that is no number, 6 where a number is beyond 32 bits.
+int rowAtDistance(std::string_view start, int fromNowhere, int offset);
+
 /// What stands behind a grid: the grid holds no data and asks here for every cell. Rows are counted from 1, columns
 /// from 0, as the grids' columns are numbered. A source changes nothing itself: it makes edits, which are applied by
 /// the one routine of the grid's model.

@@ -52,16 +52,16 @@ void appendCone(PlotCurve &cone, const std::vector<PlotNode> &listed, const Plot
     cone.stretches.push_back({turnedFullCircle(listed, circle), PlotSide::AroundFromTheRight});
 }
 
-void addTypeC(PlotCurves &curves, const PlotTable &table)
+void addTypeC(PlotCurves &curves, const PlotTable &table, const PlotAngle &horizontal, const PlotAngle &vertical)
 {
     const PlotCircle circle(table.firstHorizontal(), table.lastHorizontal());
-    if (const auto right = table.horizontalPlace(curves.horizontalAngle))
+    if (const auto right = table.horizontalPlace(horizontal))
         appendHalf(curves.plane, table.plane(*right), PlotSide::RightOfNadir);
     if (const auto angle = circle.listedAngle(double{curves.horizontalAngle} + 180))
         if (const auto left = table.horizontalPlace(*angle))
             appendHalf(curves.plane, table.plane(*left), PlotSide::LeftOfNadir);
-    if (const auto vertical = table.verticalPlace(curves.verticalAngle))
-        appendCone(curves.cone, table.cone(*vertical), circle);
+    if (const auto place = table.verticalPlace(vertical))
+        appendCone(curves.cone, table.cone(*place), circle);
 }
 
 void makeRuns(PlotCurve &curve, PlotShape shape)
@@ -79,17 +79,17 @@ double PlotCurves::largest() const
     return std::max(of(plane), of(cone));
 }
 
-PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
-                      float verticalAngle, PlotShape shape)
+PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells,
+                      const PlotAngle &horizontal, const PlotAngle &vertical, PlotShape shape)
 {
     const PlotTable table(record, cells);
     PlotCurves curves;
     curves.typeC = record.PhotometricType == kTypeC;
-    curves.horizontalAngle = horizontalAngle;
-    curves.verticalAngle = verticalAngle;
+    curves.horizontalAngle = horizontal.degrees;
+    curves.verticalAngle = vertical.degrees;
     if (!table.empty() && curves.typeC)
-        addTypeC(curves, table);
-    else if (const auto place = table.horizontalPlace(horizontalAngle))
+        addTypeC(curves, table, horizontal, vertical);
+    else if (const auto place = table.horizontalPlace(horizontal))
         appendHalf(curves.plane, table.plane(*place), PlotSide::AroundFromTheRight);
     reshape(curves, shape);
     return curves;

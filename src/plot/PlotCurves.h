@@ -7,6 +7,7 @@
 #include "core/CandelaCell.h"
 #include "core/OneBased.h"
 #include "core/PhotometricRecord.h"
+#include "plot/PlotAngle.h"
 #include "plot/PlotRuns.h"
 
 namespace penwright {
@@ -39,15 +40,15 @@ struct PlotCurves {
     double largest() const;
 };
 
-/// Finds the curves of the vertical plane through `horizontalAngle` and, for type C, of the cone through
-/// `verticalAngle`, both in degrees; cells are indexed (horizontal, vertical). Reads the cells of that plane, its
+/// Finds the curves of the vertical plane through `horizontal` and, for type C, of the cone through
+/// `vertical`, both in degrees; cells are indexed (horizontal, vertical). Reads the cells of that plane, its
 /// opposite and that cone only. Every photometric type other than C is drawn in the way of type B.
 ///
 /// Between neighbours the value goes in proportion to the angle, across the table and along the curve. A blank, a
 /// negative value and one that is not finite are gaps, never zeros. A record without angles has empty curves.
 /// Error 9 when the angle lists or the cells are smaller than the record's counts.
-PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
-                      float verticalAngle, PlotShape shape = PlotShape::Polar);
+PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells,
+                      const PlotAngle &horizontal, const PlotAngle &vertical, PlotShape shape = PlotShape::Polar);
 
 /// Has the same curves run in another shape.
 void reshape(PlotCurves &curves, PlotShape shape);

@@ -2,23 +2,24 @@
 
 namespace penwright {
 
-PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
-                        float verticalAngle, PlotShape shape)
+PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells,
+                        const PlotAngle &horizontal, const PlotAngle &vertical, PlotShape shape)
 {
     PlotPicture picture;
-    picture.curves = plotCurves(record, cells, horizontalAngle, verticalAngle, shape);
+    picture.curves = plotCurves(record, cells, horizontal, vertical, shape);
     picture.rings = plotRings(picture.curves.largest());
     picture.words = plotDescription(picture.curves);
     return picture;
 }
 
-PlotPicture plotPicture(const PhotometricRecord &record, float horizontalAngle, float verticalAngle, PlotShape shape)
+PlotPicture plotPicture(const PhotometricRecord &record, const PlotAngle &horizontal, const PlotAngle &vertical,
+                        PlotShape shape)
 {
     OneBasedTable<CandelaCell> cells(record.Candela.rows(), record.Candela.columns());
     for (int h = 1; h <= cells.rows(); ++h)
         for (int v = 1; v <= cells.columns(); ++v)
             cells(h, v) = record.Candela(h, v);
-    return plotPicture(record, cells, horizontalAngle, verticalAngle, shape);
+    return plotPicture(record, cells, horizontal, vertical, shape);
 }
 
 }  // namespace penwright

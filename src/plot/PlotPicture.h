@@ -15,14 +15,14 @@ struct PlotPicture {
     std::string words;            ///< for those who cannot see it
 };
 
-/// The picture of the vertical plane through `horizontalAngle` and, for type C, the cone through `verticalAngle`, both
+/// The picture of the vertical plane through `horizontal` and, for type C, the cone through `vertical`, both
 /// in degrees; cells are indexed (horizontal, vertical). Only counts, type and angles of the record are read. Error 9
 /// when the angle lists or the cells are smaller than the record's counts, 6 when a value is beyond the single range.
-PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
-                        float verticalAngle, PlotShape shape = PlotShape::Polar);
+PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells,
+                        const PlotAngle &horizontal, const PlotAngle &vertical, PlotShape shape = PlotShape::Polar);
 
 /// The same of the candela that the record itself holds.
-PlotPicture plotPicture(const PhotometricRecord &record, float horizontalAngle, float verticalAngle,
+PlotPicture plotPicture(const PhotometricRecord &record, const PlotAngle &horizontal, const PlotAngle &vertical,
                         PlotShape shape = PlotShape::Polar);
 
 }  // namespace penwright

@@ -6,8 +6,11 @@ namespace penwright {
 
 namespace {
 
-std::optional<PlotPlace> placeIn(const OneBased<float> &angles, int count, float degrees)
+std::optional<PlotPlace> placeIn(const OneBased<float> &angles, int count, const PlotAngle &angle)
 {
+    const float degrees = angle.degrees;
+    if (angle.place >= 1 && angle.place <= count && angles(angle.place) == degrees)
+        return PlotPlace{angle.place, angle.place, 0};
     for (int i = 1; i <= count; ++i)
         if (angles(i) == degrees)
             return PlotPlace{i, i, 0};
@@ -37,14 +40,14 @@ PlotTable::PlotTable(const PhotometricRecord &record, const OneBasedTable<Candel
         throw subscriptOutOfRange();
 }
 
-std::optional<PlotPlace> PlotTable::horizontalPlace(float degrees) const
+std::optional<PlotPlace> PlotTable::horizontalPlace(const PlotAngle &angle) const
 {
-    return placeIn(m_record.HorAngles, m_record.NumHorzAngles, degrees);
+    return placeIn(m_record.HorAngles, m_record.NumHorzAngles, angle);
 }
 
-std::optional<PlotPlace> PlotTable::verticalPlace(float degrees) const
+std::optional<PlotPlace> PlotTable::verticalPlace(const PlotAngle &angle) const
 {
-    return placeIn(m_record.VertAngles, m_record.NumVertAngles, degrees);
+    return placeIn(m_record.VertAngles, m_record.NumVertAngles, angle);
 }
 
 std::vector<PlotNode> PlotTable::plane(const PlotPlace &horizontal) const

@@ -6,6 +6,7 @@
 #include "core/CandelaCell.h"
 #include "core/OneBased.h"
 #include "core/PhotometricRecord.h"
+#include "plot/PlotAngle.h"
 #include "plot/PlotRuns.h"
 
 namespace penwright {
@@ -29,9 +30,10 @@ public:
     float firstHorizontal() const { return m_record.HorAngles(1); }
     float lastHorizontal() const { return m_record.HorAngles(m_record.NumHorzAngles); }
 
-    /// Where an angle stands: the first place that lists it, else between the first neighbours that hold it in between.
-    std::optional<PlotPlace> horizontalPlace(float degrees) const;
-    std::optional<PlotPlace> verticalPlace(float degrees) const;
+    /// Where an angle stands: its own place, else the first that lists it, else between the first neighbours that hold
+    /// it in between.
+    std::optional<PlotPlace> horizontalPlace(const PlotAngle &angle) const;
+    std::optional<PlotPlace> verticalPlace(const PlotAngle &angle) const;
 
     /// The values of the vertical plane at a place, in the order of the vertical angles.
     std::vector<PlotNode> plane(const PlotPlace &horizontal) const;

@@ -67,10 +67,10 @@ PlotView::PlotView(QWidget *parent)
 
 PlotView::~PlotView() = default;
 
-void PlotView::draw(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
-                    float verticalAngle)
+void PlotView::draw(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells,
+                    const PlotAngle &horizontal, const PlotAngle &vertical)
 {
-    setPicture(plotPicture(record, cells, horizontalAngle, verticalAngle, m_shape));
+    setPicture(plotPicture(record, cells, horizontal, vertical, m_shape));
 }
 
 void PlotView::setPicture(PlotPicture picture)

@@ -31,8 +31,8 @@ public:
 
     /// Shows the two curves, as `plotPicture` finds them; keeps none of the arguments. After an error the picture is
     /// the one before.
-    void draw(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, float horizontalAngle,
-              float verticalAngle);
+    void draw(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells, const PlotAngle &horizontal,
+              const PlotAngle &vertical);
 
     /// Shows a picture in the shape that is chosen now.
     void setPicture(PlotPicture picture);

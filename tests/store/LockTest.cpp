@@ -11,16 +11,20 @@ namespace {
 /// A store whose writing another process has locked.
 class LockTest : public StoreTest {
 protected:
-    LockTest()
-    {
-        write("a", "before");
-        host.sql("BEGIN EXCLUSIVE");
-    }
+    LockTest() { host.sql("BEGIN EXCLUSIVE"); }
 
     std::string lockedError() const { return "55\n" + path + ": database is locked"; }
 
-    Peer host{path};
+    Peer host{pathOfAStoreWithAValue()};
     int turns = 0;
+
+private:
+    /// The other process opens the file as soon as it runs, so that the file is there before.
+    std::string pathOfAStoreWithAValue()
+    {
+        write("a", "before");
+        return path;
+    }
 };
 
 TEST_F(LockTest, writeRunsTheHookUntilTheLockIsGone)

@@ -26,6 +26,16 @@ TEST_F(Cancel, yesTellsTheHostGivesTheWindowBackAndEnds)
     EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(Cancel, windowIsGivenBackOnceTheHostHasTakenTheLastWord)
+{
+    startWizard();
+    std::vector<std::vector<std::string>> takenBefore;
+    embedding.onGiveBack = [&] { takenBefore.push_back(taken); };
+    EXPECT_EQ(askAndRun(Answer::Yes), 0);
+    ASSERT_EQ(takenBefore.size(), 1U);
+    EXPECT_EQ(takenBefore[0], std::vector{kCloseRemove});
+}
+
 TEST_F(Cancel, yesOfAToolThatIsNotEmbeddedTellsTheHostAndEnds)
 {
     state.start.EmbedInHost = false;

@@ -1,6 +1,7 @@
 #include "widgets/CandelaPageTest.h"
 
 #include "pages/candela/LabelColumn.h"
+#include "widgets/PaintNotes.h"
 
 namespace penwright::test {
 namespace {
@@ -77,6 +78,23 @@ TEST_F(CandelaPageTest, namesPlaneAndConeInSingleForm)
     grid().goTo(2, 3);
     EXPECT_EQ(planes(), "33.3 / 66.7");
     EXPECT_EQ(grid().model()->headerData(2, Qt::Horizontal).toString(), "0.1");
+}
+
+TEST_F(CandelaPageTest, showsTheColumnAndRowThatOneIsInWhereTwoHaveTheSameAngle)
+{
+    showTable({0, 90, 90}, {0, 60, 60});
+    const auto largestIn = [this](int row, int column) {
+        grid().goTo(row, column);
+        std::string numbers;
+        for (QString words = QString::fromStdString(drawn()); words.contains("largest ");)
+            numbers += (words = words.section("largest ", 1)).section(' ', 0, 0).toStdString() + " ";
+        return numbers;
+    };
+    paste("1\t1\t1\n2\t3\t4\n5\t6\t7");
+    EXPECT_EQ(largestIn(2, 2), "6 4 ");
+    EXPECT_EQ(largestIn(3, 2), "6 7 ");
+    EXPECT_EQ(largestIn(2, 3), "7 4 ");
+    EXPECT_EQ(planes(), "90 / 60");
 }
 
 TEST_F(CandelaPageTest, keysHaveTheColoursOfTheirCurves)
@@ -196,6 +214,28 @@ TEST_F(CandelaPageTest, labelsShowTheAngleOfEachRowInView)
     EXPECT_NE(labels->grab().toImage(), top);
     grid().verticalScrollBar()->setValue(0);
     EXPECT_EQ(labels->grab().toImage(), top);
+}
+
+TEST_F(CandelaPageTest, eachLabelStandsBesideItsRow)
+{
+    showTable({0}, angles(91, 2));
+    auto *labels = window->findChild<LabelColumn *>();
+    for (const int scrolled : {0, 40, 57}) {
+        grid().verticalScrollBar()->setValue(scrolled);
+        PaintNotes notes;
+        NotedPaper paper(notes);
+        labels->render(&paper, {}, {}, {});
+        int seen = 0;
+        for (const auto &[text, place] : notes.texts) {
+            if (text.find_first_not_of(' ') == std::string::npos)
+                continue;  // of the caption
+            const QPoint at = grid().viewport()->mapFromGlobal(labels->mapToGlobal(place.toPoint()));
+            const int row = grid().rowAt(at.y() - 2) + 1;  // texts begin on their base line
+            EXPECT_EQ(text, cell(row, 0)) << scrolled;
+            ++seen;
+        }
+        EXPECT_GE(seen, grid().viewport()->height() / grid().rowHeight(0)) << scrolled;
+    }
 }
 
 TEST_F(CandelaPageTest, tabWalksAlongTheRowPastTheLabelsAndOutAtTheEnd)

@@ -20,9 +20,14 @@ protected:
         writeRecordTexts(sent, [this](std::string_view word, const std::string &text) {
             store.write("Lumentor_PE", "Sec", recordValueName(word, 1), text);
         });
-        sendCommand("DATACHANGED");
         const auto *log = find<QPlainTextEdit>("txtCmds");
-        ASSERT_TRUE(QTest::qWaitFor([&] { return log->toPlainText().endsWith("Data received but not used\n"); }));
+        const QString logBefore = log->toPlainText();
+        sendCommand("DATACHANGED");
+        const auto isObeyed = [&] {
+            const QString logged = log->toPlainText().mid(logBefore.size());
+            return logged.endsWith("Data received but not used\n");
+        };
+        ASSERT_TRUE(QTest::qWaitFor(isObeyed));
         EXPECT_EQ(state.PhotFiles(1).Filename, sent.Filename);
     }
 
@@ -141,6 +146,47 @@ TEST_F(HostData, isToldOnThePageThatIsShownUntilItIsLeft)
     EXPECT_EQ(current(), "1,1");
     window->ShowPage(kLampPage);
     EXPECT_EQ(note(kLampPage), "");
+}
+
+TEST_F(HostData, leavesAloneWhatIsBeingTypedOnAPageBefore)
+{
+    struct Case {
+        int page;
+        const char *box;
+    };
+    const std::string typed = "7";
+    showTable({0, 90}, {0, 45, 90});
+    std::vector<float> vertical{0, 90};
+    for (const auto &[page, name] : {Case{kTiltPage, "lmpTxtNumAngles"}, Case{kDistributionPage, "phoCmbVert"}}) {
+        window->ShowPage(page);
+        find(name)->setFocus();
+        typeText(typed);
+        hostSends({0}, vertical);
+        vertical.insert(vertical.end() - 1, 45);
+        EXPECT_EQ(shownPage(), page);
+        EXPECT_EQ(note(page), kNote);
+        EXPECT_EQ(focusName(), name);
+        auto *list = qobject_cast<QComboBox *>(find(name));
+        EXPECT_EQ(list ? list->currentText().toStdString() : text(name), typed);
+    }
+    EXPECT_EQ(grid().model()->rowCount(), 3);
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
+TEST_F(HostData, leavesAnOpenEditorOfTheKeywordsAlone)
+{
+    showTable({0, 90}, {0, 45, 90});
+    window->ShowPage(kKeywordPage);
+    auto *keywords = find<GridView>("keyGrid");
+    keywords->goTo(2, 1);
+    typeText("24-11");
+    hostSends({0}, {0, 90});
+    EXPECT_EQ(note(kKeywordPage), kNote);
+    EXPECT_TRUE(keywords->isEditing());
+    typeText("87");
+    press(Qt::Key_Return);
+    EXPECT_EQ(keywords->model()->index(1, 1).data().toString(), "24-1187");
+    EXPECT_EQ(grid().model()->rowCount(), 2);
 }
 
 TEST_F(HostData, isNotToldBeforeThereIsATable)

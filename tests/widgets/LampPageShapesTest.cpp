@@ -3,6 +3,7 @@
 #include "pages/luminaire/ShapeSketch.h"
 #include "pages/luminaire/ShapeSketchView.h"
 #include "widgets/LampPageTest.h"
+#include "widgets/PaintCounter.h"
 #include "widgets/PaintNotes.h"
 
 namespace penwright::test {
@@ -220,6 +221,49 @@ TEST(ShapeSketchViewTest, outlinesAreTwoPixelsWideAndHiddenEdgesDottedWithOne)
             EXPECT_EQ(pen.style() == Qt::SolidLine, kind != StrokeKind::Hidden) << position << " " << i;
         }
     }
+}
+
+TEST(ShapeSketchViewTest, labelsStandBesideTheEndsOfTheirLines)
+{
+    ShapeSketchView view;
+    view.resize(240, 180);
+    const QFontMetricsF font(view.fontMetrics());
+    const double scale = std::min(240 / kSketchWidth, 180 / kSketchHeight);
+    const QPointF origin((240 - scale * kSketchWidth) / 2, (180 - scale * kSketchHeight) / 2);
+    for (int position = -1; position < static_cast<int>(kShapeCount); ++position) {
+        view.setShape(position);
+        PaintNotes notes;
+        NotedPaper paper(notes);
+        view.render(&paper, {}, {}, {});
+        const ShapeSketch sketch = sketchOfShape(position);
+        ASSERT_EQ(notes.texts.size(), sketch.labels.size()) << position;
+        for (const SketchLabel &label : sketch.labels) {
+            const auto noted = notes.texts.find(std::string(label.text));
+            ASSERT_NE(noted, notes.texts.end()) << label.text;
+            const QSizeF size(font.horizontalAdvance(QString::fromStdString(noted->first)), font.capHeight());
+            const QPointF middle = noted->second + QPointF(size.width() / 2, -size.height() / 2);
+            const QPointF apart = middle - origin - scale * QPointF(label.end.x, label.end.y);
+            const double along = apart.x() * label.away.x + apart.y() * label.away.y;
+            EXPECT_LT(std::abs(apart.x() * label.away.y - apart.y() * label.away.x), 3) << position << noted->first;
+            EXPECT_GT(along, 3) << position << noted->first;
+            EXPECT_LT(along, 8 + (size.width() + size.height()) / 2) << position << noted->first;
+        }
+    }
+}
+
+TEST(ShapeSketchViewTest, isPaintedAnewForAnotherShape)
+{
+    PaintCounter counter;
+    ShapeSketchView view;
+    view.resize(240, 180);
+    view.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    QCoreApplication::processEvents();
+    view.installEventFilter(&counter);
+    view.setShape(2);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints == 1; }));
+    view.setShape(7);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints == 2; }));
 }
 
 TEST(ShapeSketchViewTest, growsWithTheWidget)

@@ -201,6 +201,24 @@ TEST_F(LampPageTest, tickBoxDecidesWhetherTheTiltPageFollows)
     EXPECT_FALSE(record().TiltIncl);
 }
 
+TEST_F(LampPageTest, tiltDataStayInARecordThatIsToHaveNone)
+{
+    record().TiltIncl = true;
+    record().LampToLuminaireGeometry = 2;
+    record().NumTiltAngles = 2;
+    record().TiltAngles = {0, 90};
+    record().TiltMultipliers = {1, 0.9F};
+    const PhotometricRecord before = record();
+    fillPageOne();
+    click("cmdNext10");
+    EXPECT_EQ(shownPage(), kKeywordPage);
+    EXPECT_FALSE(record().TiltIncl);
+    EXPECT_EQ(record().LampToLuminaireGeometry, before.LampToLuminaireGeometry);
+    EXPECT_EQ(record().NumTiltAngles, before.NumTiltAngles);
+    EXPECT_EQ(record().TiltAngles, before.TiltAngles);
+    EXPECT_EQ(record().TiltMultipliers, before.TiltMultipliers);
+}
+
 TEST_F(LampPageTest, tiltIsNotTouchedWhileThePageIsFaulty)
 {
     record().TiltIncl = true;

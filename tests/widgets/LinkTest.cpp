@@ -2,6 +2,8 @@
 
 #include <cerrno>
 
+#include "hostlink/RecordText.h"
+#include "support/SampleRecords.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright::test {
@@ -207,9 +209,7 @@ const Situation kSituations[] = {
      }},
 };
 
-enum class End { Close, HostGone };
-
-class LinkEnds : public WizardTest, public testing::WithParamInterface<std::tuple<Situation, End>> {
+class LinkUnder : public WizardTest {
 protected:
     /// Whether the situation has come about.
     bool isThere(const std::string &name)
@@ -227,39 +227,54 @@ protected:
             return QApplication::activePopupWidget();
         return name != "post" || wait.isWaiting();
     }
+
+    /// Opens a situation and acts once when it is there; the status with which the program ends, -77 when it does not.
+    int openAnd(const Situation &situation, const std::function<void()> &act)
+    {
+        useRealDialogs();
+        files.failure = ENOSPC;
+        state.PhotFiles(1).Keywords = {"IESNA:LM-63-2002"};
+        state.CandelaWorkRecord.reset(1);
+        state.CandelaWorkRecord(1).Filename = "of the host.ies";
+        startWizard();
+        QTimer look;
+        QObject::connect(&look, &QTimer::timeout, [&] {
+            if (!isThere(situation.name))
+                return;
+            look.stop();
+            act();
+        });
+        // A host that takes nothing but the last word keeps a post waiting.
+        QTimer host;
+        QObject::connect(&host, &QTimer::timeout, [this] {
+            if (hostInbox() == "CloseRemove,PenwrightPE,7")
+                taken.push_back(store.pop("Lumentor_PE", "Sec", "HostBox"));
+        });
+        host.start(5);
+        QTimer::singleShot(0, window.get(), [&] {
+            look.start(5);
+            situation.open(*window);
+        });
+        QTimer::singleShot(20000, &look, [] { QCoreApplication::exit(-77); });
+        return QApplication::exec();
+    }
 };
+
+enum class End { Close, DeleteFile, HostGone };
+
+class LinkEnds : public LinkUnder, public testing::WithParamInterface<std::tuple<Situation, End>> {};
 
 TEST_P(LinkEnds, whateverIsOpen)
 {
     const auto &[situation, end] = GetParam();
-    useRealDialogs();
-    files.failure = ENOSPC;
-    state.PhotFiles(1).Keywords = {"IESNA:LM-63-2002"};
-    startWizard();
-    QTimer look;
-    QObject::connect(&look, &QTimer::timeout, [&, name = situation.name, by = end] {
-        if (!isThere(name))
-            return;
-        look.stop();
-        if (by == End::Close)
-            sendCommand("CLOSE");
-        else
+    const auto makeItEnd = [this, by = end] {
+        if (by == End::HostGone)
             closing.hostVanished();
-    });
-    // A host that takes nothing but the last word keeps a post waiting.
-    QTimer host;
-    QObject::connect(&host, &QTimer::timeout, [this] {
-        if (hostInbox() == "CloseRemove,PenwrightPE,7")
-            taken.push_back(store.pop("Lumentor_PE", "Sec", "HostBox"));
-    });
-    host.start(5);
-    QTimer::singleShot(0, window.get(), [&, open = situation.open] {
-        look.start(5);
-        open(*window);
-    });
-    QTimer::singleShot(20000, &look, [] { QCoreApplication::exit(-77); });
-    EXPECT_EQ(QApplication::exec(), 0);
-    const bool isTold = end == End::Close;
+        else
+            sendCommand(by == End::Close ? "CLOSE" : "DELETEFILE,Of The Host.IES");
+    };
+    EXPECT_EQ(openAnd(situation, makeItEnd), 0);
+    const bool isTold = end != End::HostGone;
     EXPECT_EQ(taken, isTold ? std::vector<std::string>{"CloseRemove,PenwrightPE,7"} : std::vector<std::string>{});
     EXPECT_FALSE(window->isVisible());
     EXPECT_EQ(files.paths.size(), situation.name == "retryBox" ? 1u : 0u);
@@ -267,12 +282,59 @@ TEST_P(LinkEnds, whateverIsOpen)
         EXPECT_EQ(store.read("Lumentor_PE", "Sec", "Filename1", "(none)"), "(none)");
 }
 
+std::string nameOfEnd(const testing::TestParamInfo<std::tuple<Situation, End>> &row)
+{
+    constexpr const char *kBy[]{"OnClose", "OnDeleteFile", "HostGone"};
+    const auto &[situation, end] = row.param;
+    return situation.name + kBy[static_cast<int>(end)];
+}
+
 INSTANTIATE_TEST_SUITE_P(EverySituation, LinkEnds,
-                         testing::Combine(testing::ValuesIn(kSituations), testing::Values(End::Close, End::HostGone)),
-                         [](const auto &row) {
-                             return std::get<0>(row.param).name +
-                                    (std::get<1>(row.param) == End::Close ? "OnClose" : "HostGone");
-                         });
+                         testing::Combine(testing::ValuesIn(kSituations),
+                                          testing::Values(End::Close, End::DeleteFile, End::HostGone)),
+                         nameOfEnd);
+
+class LinkGoesOn : public LinkUnder, public testing::WithParamInterface<Situation> {
+protected:
+    /// Sends a command and waits until it is in the log with all that it logs of itself.
+    void obeyMeanwhile(const std::string &command, const QString &logged)
+    {
+        const auto *log = find<QPlainTextEdit>("txtCmds");
+        sendCommand(command);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return log->toPlainText().endsWith(logged); }, 10000)) << command;
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(EverySituation, LinkGoesOn, testing::ValuesIn(kSituations),
+                         [](const auto &row) { return row.param.name; });
+
+TEST_P(LinkGoesOn, underWhateverIsOpen)
+{
+    PhotometricRecord fresh = smallRecord();
+    fresh.Filename = "of the host.ies";
+    const auto commands = [&] {
+        writeRecordTexts(fresh, [this](std::string_view word, const std::string &text) {
+            store.write("Lumentor_PE", "Sec", recordValueName(word, 1), text);
+        });
+        obeyMeanwhile("DATACHANGED", "Updated data received and used\n");
+        EXPECT_EQ(state.PhotFiles(1).Candela, fresh.Candela);
+        EXPECT_EQ(state.CandelaWorkRecord(1).Candela, fresh.Candela);
+        EXPECT_TRUE(isThere(GetParam().name));
+        obeyMeanwhile("DELETEFILE,another.ies", "DELETEFILE,another.ies\n");
+        EXPECT_FALSE(closing.isClosing());
+        EXPECT_TRUE(isThere(GetParam().name));
+        const QWidget *modal = QApplication::activeModalWidget();
+        obeyMeanwhile("START", "START\n");
+        EXPECT_TRUE(window->isVisible());
+        EXPECT_EQ(shownPage(), kLampPage);
+        EXPECT_EQ(QApplication::activeModalWidget(), modal);
+        EXPECT_EQ(wait.isWaiting(), GetParam().name == "post");
+        sendCommand("CLOSE");
+    };
+    EXPECT_EQ(openAnd(GetParam(), commands), 0);
+    EXPECT_EQ(taken, std::vector<std::string>{"CloseRemove,PenwrightPE,7"});
+    EXPECT_FALSE(window->isVisible());
+}
 
 }  // namespace
 }  // namespace penwright::test

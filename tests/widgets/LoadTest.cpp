@@ -1,3 +1,4 @@
+#include "support/ToolBench.h"
 #include "widgets/WizardTest.h"
 
 namespace penwright::test {
@@ -139,6 +140,40 @@ TEST_F(Load, timersAreNamedAndOnlyThePollRuns)
     EXPECT_FALSE(find<QTimer>("tmrDeath")->isActive());
     window->startDeathTimer();
     EXPECT_TRUE(find<QTimer>("tmrDeath")->isActive());
+}
+
+TEST_F(Load, tickOfTheDeathTimerDoesNothing)
+{
+    loadWindow();
+    window->startDeathTimer();
+    auto *timer = find<QTimer>("tmrDeath");
+    int ticks = 0;
+    QObject::connect(timer, &QTimer::timeout, [&ticks] { ++ticks; });
+    const std::string before = embedding.transcript;
+    timer->setInterval(1);
+    ASSERT_TRUE(QTest::qWaitFor([&ticks] { return ticks > 2; }));
+    EXPECT_TRUE(timer->isActive());
+    EXPECT_FALSE(closing.isClosing());
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_EQ(embedding.transcript, before);
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
+TEST_F(Load, thatFailsIsToldToWhoAskedForTheWindow)
+{
+    store.write("Lumentor_PE", "Sec", "PenwrightPE|7", "START");
+    FullStore full;
+    const Services broken{full, files, dialogs, wait, embedding, help};
+    try {
+        window = assembleWizard(state, broken, closing, owner, nullptr);
+        FAIL() << "loaded";
+    } catch (const RunTimeError &error) {
+        EXPECT_EQ(error.number(), 61);
+        EXPECT_EQ(error.description(), "/the/store: database or disk is full");
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(dialogs.transcript, "");
+    EXPECT_EQ(store.read("Lumentor_PE", "Sec", "PenwrightPE|7"), "START");
 }
 
 TEST_F(Load, startClearsTheCandelaPagesState)

@@ -55,6 +55,25 @@ TEST(PlotPainter, paintsEachTextWhereItsRuleHasIt)
     }
 }
 
+TEST(PlotPainter, drawsTheGridWithAThinPenOfItsColour)
+{
+    PlotLook look = kPaperLook;
+    look.grid = QColor(1, 2, 3);
+    PaintNotes notes;
+    NotedPaper paper(notes);
+    QPainter painter(&paper);
+    paintPlot(painter, QRectF(0, 0, 300, 300), QFont(), lobe(), look);
+    painter.end();
+    constexpr std::size_t kSpokes = 12;
+    constexpr std::size_t kTicks = 36;
+    EXPECT_EQ(notes.lines.size(), kSpokes + kTicks);  // rings and curves are no lines
+    for (const PaintNotes::Line &line : notes.lines) {
+        EXPECT_EQ(line.pen.color(), look.grid);
+        EXPECT_EQ(line.pen.widthF(), 1);
+        EXPECT_EQ(line.pen.style(), Qt::SolidLine);
+    }
+}
+
 TEST(PlotPainter, paintsInTheColoursGivenAndNoOther)
 {
     const PlotLook look{.paper = Qt::black,

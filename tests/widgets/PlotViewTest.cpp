@@ -12,6 +12,7 @@
 #include "plot/PlotLook.h"
 #include "plot/PlotView.h"
 #include "support/PlotTables.h"
+#include "widgets/PaintCounter.h"
 
 namespace penwright::test {
 namespace {
@@ -179,15 +180,7 @@ TEST_F(PlotViewTest, isTheSameInADarkPalette)
 
 TEST_F(PlotViewTest, isPaintedAnewAfterEveryDraw)
 {
-    class Counter : public QObject {
-    public:
-        bool eventFilter(QObject *, QEvent *event) override
-        {
-            paints += event->type() == QEvent::Paint ? 1 : 0;
-            return false;
-        }
-        int paints = 0;
-    } counter;
+    PaintCounter counter;
     view.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
     QCoreApplication::processEvents();

@@ -96,10 +96,10 @@ public:
             if (const auto bytes = m_container.read(topic))
                 return decoded(*bytes);
         } catch (const ContainerError &error) {
-            throw RunTimeError(kDeviceError, "A page of the help file cannot be read: " + topic + " in " + m_path +
-                                                 ": " + error.what() + ".");
+            throw RunTimeError(kDeviceError, "A page of the help file cannot be read: " + decoded(topic) + " in " +
+                                                 m_path + ": " + error.what() + ".");
         }
-        throw RunTimeError(kHelpNotFound, "The help file lacks a page: " + topic + " in " + m_path);
+        throw RunTimeError(kHelpNotFound, "The help file lacks a page: " + decoded(topic) + " in " + m_path);
     }
 
     std::optional<std::string> object(const std::string &link) override { return readable(placeOfLink(link).topic); }
@@ -125,7 +125,7 @@ public:
             PlainPage page = plainPage(decoded(*bytes));
             size += bytes->size();
             if (page.title.empty())
-                page.title = name;
+                page.title = decoded(name);
             texts.push_back({name, std::move(page.title), std::move(page.text)});
         }
         return texts;

@@ -182,7 +182,8 @@ void CandelaPage::refreshPlot()
     if (!(flags().plotValue > 0))
         flags().plotValue = kLeastPlotValue;
     try {
-        m_form->picCda->draw(state().PhotFiles(1), m_table->CandelaCells(), m_shown.horizontal, m_shown.vertical);
+        m_form->picCda->draw(state().PhotFiles(1), m_table->CandelaCells(), {m_shown.horizontal, m_shown.column},
+                             {m_shown.vertical, m_shown.row});
         m_plotFailed = false;
     } catch (const std::exception &) {
         if (!std::exchange(m_plotFailed, true))

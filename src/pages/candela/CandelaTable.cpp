@@ -135,7 +135,7 @@ std::optional<CandelaTable::CellAngles> CandelaTable::anglesOf(int row, int colu
     const PhotometricRecord *from = record();
     if (!isCell(row, column) || !from || row > from->VertAngles.size() || column > from->HorAngles.size())
         return std::nullopt;
-    return CellAngles{from->HorAngles(column), from->VertAngles(row)};
+    return CellAngles{from->HorAngles(column), from->VertAngles(row), column, row};
 }
 
 int CandelaTable::rowCount() const

@@ -52,10 +52,12 @@ public:
     /// another length than the table's, and the cell that the new ones end before, are hinted at.
     GridEdit PasteCandelaTable(std::string_view text);
 
-    /// The angles of a data cell, in degrees.
+    /// The angles of a data cell, in degrees, and where the table has them.
     struct CellAngles {
         float horizontal = 0;
         float vertical = 0;
+        int column = 0;
+        int row = 0;
     };
 
     /// Nothing for the label column and outside the table.

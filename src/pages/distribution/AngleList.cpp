@@ -166,8 +166,7 @@ void AngleList::readCell(int column, std::string &value) const
 
 RelativeRow AngleList::relativeRow(std::string_view start, int offset)
 {
-    const int fromNowhere = offset < 0 ? 1 : 0;
-    const int row = (start.empty() ? fromNowhere : toInt32(start)) + offset;
+    const int row = rowAtDistance(start, offset < 0 ? 1 : 0, offset);
     return {row == 1 ? "1" : "", row};
 }
 

@@ -58,8 +58,7 @@ std::string TiltTable::read(int row, int column) const
 
 RelativeRow TiltTable::relativeRow(std::string_view start, int offset) const
 {
-    const int fromNowhere = offset < 0 ? rowCount() + 1 : 0;
-    const int row = (start.empty() ? fromNowhere : toInt32(start)) + offset;
+    const int row = rowAtDistance(start, offset < 0 ? rowCount() + 1 : 0, offset);
     return {row >= 1 && row <= rowCount() ? std::to_string(row) : "", row};
 }
 

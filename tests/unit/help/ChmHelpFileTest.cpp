@@ -185,6 +185,18 @@ TEST(OtherMakers, textsAreInTheCodePageOfTheirLanguage)
     EXPECT_EQ(file->page("b.html"), samplePage("П", "п"));
 }
 
+// A page without a title is called by its name, which a compiler may have stored in any bytes.
+TEST(OtherMakers, namesOfPagesAreSaidInUtf8)
+{
+    const auto file =
+        fileOf({{"/#SYSTEM", systemObject({{3, "T"}}) + systemRecord(4, "\x19\x04\0\0"s)}, {"/\xD1.html", "<p>p</p>"}});
+    ASSERT_EQ(file->texts().size(), 1u);
+    EXPECT_EQ(file->texts()[0].title, "С.html");
+    EXPECT_EQ(file->texts()[0].topic, "\xD1.html");
+    EXPECT_EQ(file->page("\xD1.html"), "<p>p</p>");
+    EXPECT_EQ(errorOf([&] { file->page("\xD2.html"); }), "The help file lacks a page: Т.html in /help/x.chm");
+}
+
 // Made by another compiler: compressed, and with its own order of everything.
 TEST(OtherMakers, compressedFilesAreRead)
 {

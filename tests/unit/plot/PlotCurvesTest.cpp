@@ -271,5 +271,21 @@ TEST(PlotCurves, anglesOfAnySizeEndInGapsOrPoints)
     EXPECT_EQ(curves.largest(), 4);
 }
 
+TEST(PlotCurves, anAngleThatIsListedTwiceIsReadAtItsOwnPlace)
+{
+    const PlotTableCase table = tableOf(kTypeC, {0, 90, 90}, {0, 60, 60}, {{1, 2, 5}, {1, 3, 6}, {1, 4, 7}}, 90, 60);
+    const auto largestAt = [&table](const PlotAngle &horizontal, const PlotAngle &vertical) {
+        const PlotCurves curves = plotCurves(table.record, table.cells, horizontal, vertical);
+        return std::pair(curves.plane.largest->candela, curves.cone.largest->candela);
+    };
+    EXPECT_EQ(largestAt({90, 3}, {60, 2}), std::pair(7.0, 4.0));
+    EXPECT_EQ(largestAt({90, 2}, {60, 3}), std::pair(6.0, 7.0));
+    EXPECT_EQ(largestAt(90, 60), std::pair(6.0, 4.0)) << "the first of them";
+    for (const int place : {-1, 0, 1, 4})  // places of no angle, or of another
+        EXPECT_EQ(largestAt({90, place}, {60, place}), std::pair(6.0, 4.0)) << place;
+    const PlotTableCase typeB = tableOf(kTypeB, {-90, 0, 0}, {-90, 90}, {{1, 1}, {2, 2}, {3, 3}}, 0, 0);
+    EXPECT_EQ(plotCurves(typeB.record, typeB.cells, {0, 3}, 90).plane.largest->candela, 3);
+}
+
 }  // namespace
 }  // namespace penwright::test

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
+#include <numbers>
 #include <set>
 #include <string>
 #include <vector>
@@ -93,6 +96,35 @@ TEST_F(PlotLetteringTest, typeBCountsFromTheRightUpAndDown)
     EXPECT_GT(placeOf(lettering.degrees, "0°").x, frame.radius);
     EXPECT_GT(placeOf(lettering.degrees, "90°").y, frame.radius);
     EXPECT_LT(placeOf(lettering.degrees, "-90°").y, -frame.radius);
+}
+
+TEST_F(PlotLetteringTest, degreesStandInTheirDirectionsJustOutsideTheRing)
+{
+    for (const bool typeC : {true, false}) {
+        letter(300, typeC, 0);
+        for (const PlotFigure &figure : lettering.degrees) {
+            const PlotPoint middle =
+                fromCentre(figure.box.left + figure.box.width / 2, figure.box.top + figure.box.height / 2);
+            const double direction = std::atan2(middle.y, middle.x) * 180 / std::numbers::pi;
+            const double fromNadir = std::abs(direction + 90);
+            EXPECT_NEAR(std::stod(figure.text), typeC ? std::min(fromNadir, 360 - fromNadir) : direction, 3);
+            const double toItsBox = std::hypot(std::cos(direction * std::numbers::pi / 180) * figure.box.width / 2,
+                                               std::sin(direction * std::numbers::pi / 180) * figure.box.height / 2);
+            EXPECT_NEAR(std::hypot(middle.x, middle.y) - toItsBox, frame.radius + 3, 1.5) << figure.text;
+        }
+    }
+}
+
+TEST_F(PlotLetteringTest, candelasHangInsideTheirRings)
+{
+    letter(300, true, 500);
+    for (const PlotFigure &figure : lettering.candelas) {
+        const double ring = frame.radius * std::stod(figure.text) / 500;
+        const double top = fromCentre(0, figure.box.top).y;
+        EXPECT_LT(top, ring) << figure.text;
+        EXPECT_GT(top, ring - 8) << figure.text << ": nearer to its ring than it is high";
+    }
+    EXPECT_EQ(lettering.candelas.size(), 5U);
 }
 
 TEST_F(PlotLetteringTest, middlingPicturesHaveDegreesAtTheAxesAlone)

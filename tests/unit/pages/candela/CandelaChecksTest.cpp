@@ -157,17 +157,17 @@ TEST_F(CandelaChecks, compareKeptDoublesAsSingles)
 
 TEST_F(CandelaChecks, raiseWhatNoSingleHoldsUnderTheAnglesOfTheCell)
 {
-    giveAngles({0, 90}, {0, 45}, kTypeB);
-    fill({{"1", "1"}, {"1", "1"}});
-    cells(2, 2) = 1E39;
+    giveAngles({0, 90}, {0, 45, 60}, kTypeB);
+    fill({{"1", "1"}, {"1", "1"}, {"1", "1"}});
+    cells(2, 3) = 1E39;
     try {
         checkCandela(record(), cells, list);
         ADD_FAILURE();
     } catch (const RunTimeError &error) {
         EXPECT_EQ(error.number(), 6);
-        EXPECT_EQ(error.description(), "value H:90 V:45: Overflow");
+        EXPECT_EQ(error.description(), "value H:90 V:60: Overflow");
     }
-    EXPECT_EQ(firstFault(), (FaultPlace{.row = 2, .column = 2}));
+    EXPECT_EQ(firstFault(), (FaultPlace{.row = 3, .column = 2}));
 }
 
 TEST_F(CandelaChecks, raiseWhenTheRecordHasOutgrownTheCells)

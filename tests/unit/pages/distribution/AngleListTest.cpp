@@ -147,6 +147,10 @@ TEST(AngleList, hasOneRowAtAnyDistance)
     EXPECT_EQ(AngleList::relativeRow("1", 1), (RelativeRow{"", 2}));
     EXPECT_EQ(AngleList::relativeRow("1", -1), (RelativeRow{"", 0}));
     EXPECT_EQ(AngleList::relativeRow("2", -1), (RelativeRow{"1", 1}));
+    EXPECT_EQ(AngleList::relativeRow("2147483647", 0), (RelativeRow{"", 2147483647}));
+    EXPECT_THROW(AngleList::relativeRow("2147483647", 1), RunTimeError);
+    EXPECT_THROW(AngleList::relativeRow("-2147483648", -1), RunTimeError);
+    EXPECT_THROW(AngleList::relativeRow("x", 1), RunTimeError);
 }
 
 TEST(AngleListResize, computesInSinglePrecision)

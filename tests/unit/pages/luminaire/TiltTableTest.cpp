@@ -177,6 +177,10 @@ TEST(TiltTable, tellsRowsAtADistance)
     EXPECT_EQ(table.relativeRow("2", -1), (RelativeRow{"1", 1}));
     EXPECT_EQ(table.relativeRow("2", -2), (RelativeRow{"", 0}));
     EXPECT_EQ(table.relativeRow("3", 1), (RelativeRow{"", 4}));
+    EXPECT_EQ(table.relativeRow("2147483647", -2147483647), (RelativeRow{"", 0}));
+    EXPECT_THROW(table.relativeRow("2147483647", 1), RunTimeError);
+    EXPECT_THROW(table.relativeRow("-2147483648", -1), RunTimeError);
+    EXPECT_THROW(table.relativeRow("x", 1), RunTimeError);
 }
 
 TEST(HeldTilt, comesBackToTheLastBit)
