@@ -96,6 +96,7 @@ private:
 
     const Cells &cellsAt(std::size_t line) const { return m_sample.lines[line].cells; }
     Axis columnFrom(std::size_t line) const;
+    bool isColumnNamed() const;
     std::optional<AngleRow> rowFound() const;
     std::optional<AngleRow> rowOfNumbers() const;
     std::optional<AngleRow> rowAt(std::size_t line, Beside beside, Proof proof) const;
@@ -119,6 +120,7 @@ void TableAxes::find()
         m_reading.hasAngleColumn = m_row.beside == Beside::Column;
         m_column = columnFrom(m_row.firstValues);
     } else {
+        m_reading.hasAngleColumn = m_reading.hasAngleColumn || isColumnNamed();
         for (std::size_t i = m_reading.hasAngleColumn ? 1 : 0; i < m_sample.width; ++i)
             m_row.columns.push_back(i);
     }
@@ -136,6 +138,18 @@ Axis TableAxes::columnFrom(std::size_t line) const
             if (const std::optional<TableAngle> angle = tableAngle(cellsAt(line).front(), m_reading))
                 add(column, *angle);
     return column;
+}
+
+/// Whether a line of names above the values names angles over the first column, so that they need not look like a list.
+bool TableAxes::isColumnNamed() const
+{
+    if (m_sample.width < 2 || !isMonotone(m_column.degrees))
+        return false;
+    for (std::size_t up = 1; up <= std::min(m_sample.first, kLinesAbove); ++up)
+        if (const Cells &names = cellsAt(m_sample.first - up);
+            names.size() == m_sample.width && cornerWord(names.front()) != AngleWord::None)
+            return true;
+    return false;
 }
 
 std::optional<AngleRow> TableAxes::rowFound() const
