@@ -40,7 +40,8 @@ bool isMonotone(const std::vector<double> &numbers)
     return !numbers.empty() && (rises || falls) && areInRange(numbers);
 }
 
-/// Whether numbers without a word look like a list of angles: few steps, and a beginning or end as lists have it.
+/// Whether numbers without a word look like a list of angles: few steps, and a beginning or end as lists have it. Those
+/// that fall, as values do, have one step alone.
 bool looksLikeAngles(const std::vector<double> &numbers)
 {
     if (numbers.size() < 2 || !isMonotone(numbers))
@@ -48,9 +49,12 @@ bool looksLikeAngles(const std::vector<double> &numbers)
     std::vector<long> steps;
     for (std::size_t i = 1; i < numbers.size(); ++i)
         steps.push_back(std::lround(1000 * std::fabs(numbers[i] - numbers[i - 1])));
-    const long firstStep = numbers.front() < numbers.back() ? steps.front() : steps.back();
+    const bool isFalling = numbers.front() > numbers.back();
+    const long firstStep = isFalling ? steps.back() : steps.front();
     std::sort(steps.begin(), steps.end());
     const auto distinct = std::unique(steps.begin(), steps.end()) - steps.begin();
+    if (isFalling && (distinct > 1 || steps.size() < 3))
+        return false;
     const double least = std::min(numbers.front(), numbers.back());
     const bool isHalfAStep = std::lround(2000 * least) == firstStep;
     static constexpr double kUsual[]{-180, -90, -85, -80, -75, -60, -45, -30, 0, 30, 45, 60, 90, 180, 270};
