@@ -53,7 +53,7 @@ bool looksLikeAngles(const std::vector<double> &numbers)
     const long firstStep = isFalling ? steps.back() : steps.front();
     std::sort(steps.begin(), steps.end());
     const auto distinct = std::unique(steps.begin(), steps.end()) - steps.begin();
-    if (isFalling && (distinct > 1 || steps.size() < 3))
+    if (isFalling && (distinct > 1 || steps.size() < 3 || numbers.front() > 180))
         return false;
     const double least = std::min(numbers.front(), numbers.back());
     const bool isHalfAStep = std::lround(2000 * least) == firstStep;
