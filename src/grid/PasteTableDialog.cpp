@@ -1,5 +1,6 @@
 #include "grid/PasteTableDialog.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QProgressBar>
@@ -13,6 +14,7 @@
 #include <utility>
 
 #include "controls/ClipboardText.h"
+#include "controls/InView.h"
 #include "controls/ScreenReader.h"
 #include "core/FileErrors.h"
 #include "core/NumberText.h"
@@ -51,14 +53,21 @@ QLayout *makeLine(QWidget *first, std::initializer_list<QWidget *> atEnd)
     return line;
 }
 
-/// On a small screen the choices scroll, so that the buttons stay in sight.
-QWidget *makeScrolled(QWidget *choices)
+/// On a small screen what is in it scrolls, so that the buttons stay in sight.
+QScrollArea *makeScrolled(QWidget *content)
 {
     auto *area = new QScrollArea;
-    area->setWidget(choices);
+    area->setWidget(content);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
     area->setFocusPolicy(Qt::NoFocus);
+    return area;
+}
+
+/// The choices scroll downwards only.
+QWidget *makeScrolledDown(QWidget *choices)
+{
+    QScrollArea *area = makeScrolled(choices);
     area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFixedWidth(choices->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
     return area;
@@ -100,12 +109,25 @@ PasteTableDialog::PasteTableDialog(TablePurpose purpose, Dialogs &dialogs, TextF
     });
 }
 
-void PasteTableDialog::makeLayout()
+/// All but the words and the buttons, which are in sight however small the dialog is.
+QWidget *PasteTableDialog::makeBody()
 {
+    m_preview->setMinimumSize(120, 80);
     auto *middle = new QHBoxLayout;
     middle->setSpacing(16);
     middle->addWidget(m_preview, 1);
-    middle->addWidget(makeScrolled(m_choices));
+    middle->addWidget(makeScrolledDown(m_choices));
+    auto *body = new QWidget;
+    auto *layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(12);
+    layout->addLayout(makeSourceLine());
+    layout->addLayout(middle, 1);
+    return makeScrolled(body);
+}
+
+void PasteTableDialog::makeLayout()
+{
     auto *words = new QVBoxLayout;
     words->setSpacing(6);
     words->addWidget(m_words);
@@ -114,14 +136,16 @@ void PasteTableDialog::makeLayout()
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(16, 16, 16, 16);
     layout->setSpacing(12);
-    layout->addLayout(makeSourceLine());
-    layout->addLayout(middle, 1);
+    layout->addWidget(makeBody(), 1);
     layout->addLayout(words);
     layout->addLayout(makeButtons());
-    m_preview->setMinimumSize(120, 80);
-    setMinimumSize(440, 300);
+    setMinimumSize(320, 200);
     resize(QSize(780, 520).boundedTo(screen()->availableSize() * kMostOfScreen));
     followTheEye();
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now && isAncestorOf(now))
+            bringIntoView(*now);
+    });
     m_ok->setDefault(true);  // not before it is in the dialog, which would choose another one
 }
 

@@ -58,6 +58,7 @@ public:
     double factor() const;
 
 private:
+    QWidget *makeBody();
     QLayout *makeSourceLine();
     QLayout *makeButtons();
     void makeLayout();

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "core/Ascii.h"
+#include "core/NumberText.h"
 #include "grid/TableLines.h"
 #include "grid/TableNumber.h"
 
@@ -39,8 +40,12 @@ constexpr WordRow kWords[]{
     {"plane", AngleWord::Horizontal},
     {"planes", AngleWord::Horizontal},
     {"plan", AngleWord::Horizontal},
+    {"plano", AngleWord::Horizontal},
+    {"piano", AngleWord::Horizontal},
+    {"vlak", AngleWord::Horizontal},
     {"ebene", AngleWord::Horizontal},
     {"halfplane", AngleWord::Horizontal},
+    {"halbebene", AngleWord::Horizontal},
     {"horizontal", AngleWord::Horizontal},
     {"horizontalangle", AngleWord::Horizontal},
     {"horizontalangles", AngleWord::Horizontal},
@@ -100,11 +105,24 @@ bool takeDegrees(std::string &letters)
     return false;
 }
 
-AngleWord wordOf(const std::string &letters)
+AngleWord wordOf(std::string_view letters)
 {
     const auto row = std::find_if(std::begin(kWords), std::end(kWords),
-                                  [&letters](const WordRow &r) { return r.letters == letters; });
+                                  [letters](const WordRow &r) { return r.letters == letters; });
     return row == std::end(kWords) ? AngleWord::None : row->word;
+}
+
+/// The angle that letters before a number name: "c", "plane", and both together as in "Plane C0" and "I(C0)".
+AngleWord wordBefore(std::string_view letters)
+{
+    static constexpr std::string_view kIntensities[]{"i", "intensity"};
+    const AngleWord word = wordOf(letters);
+    if (word != AngleWord::None || !letters.ends_with('c'))
+        return word;
+    letters.remove_suffix(1);
+    const bool isIntensity =
+        std::find(std::begin(kIntensities), std::end(kIntensities), letters) != std::end(kIntensities);
+    return isIntensity || wordOf(letters) == AngleWord::Horizontal ? AngleWord::Horizontal : AngleWord::None;
 }
 
 /// What an angle says besides its number.
@@ -133,31 +151,68 @@ std::optional<AngleParts> angleParts(std::string_view cell)
     const std::string before = lettersOf(cell.substr(0, begin));
     const bool isMinus = std::find(kMinusSigns.begin(), kMinusSigns.end(), before) != kMinusSigns.end();
     parts.number = cell.substr(isMinus ? 0 : begin, end - (isMinus ? 0 : begin));
-    parts.word = before.empty() || isMinus ? AngleWord::None : wordOf(before);
+    parts.word = before.empty() || isMinus ? AngleWord::None : wordBefore(before);
     if (!before.empty() && !isMinus && parts.word == AngleWord::None)
         return std::nullopt;
     parts.isMarked = hasDegrees || parts.word != AngleWord::None;
     return parts;
 }
 
+/// Whether two planes are the halves of one.
+bool areOpposite(std::string_view first, std::string_view second)
+{
+    const auto degreesOf = [](std::string_view number) {
+        std::string plain(number);
+        std::replace(plain.begin(), plain.end(), ',', '.');
+        return isNumeric(plain) ? leadingNumber(plain) : 0;
+    };
+    return degreesOf(second) - degreesOf(first) == 180;
+}
+
 /// The first of two planes in one cell; any other cell as it is.
 std::string_view firstPlane(std::string_view cell)
 {
+    static constexpr std::array<std::string_view, 5> kStrokes{"-", "/", "+", "\xE2\x88\x92", "\xE2\x80\x93"};
     const std::size_t digit = cell.find_first_of("0123456789");
-    const std::size_t stroke = digit == std::string_view::npos ? digit : cell.find_first_of("-/", digit);
+    const std::string_view behind = cell.substr(std::min(digit, cell.size()));
+    std::size_t stroke = std::string_view::npos;
+    std::size_t length = 0;
+    for (const std::string_view sign : kStrokes)
+        if (const std::size_t place = behind.find(sign); place < stroke) {
+            stroke = place;
+            length = sign.size();
+        }
     if (stroke == std::string_view::npos)
         return cell;
+    stroke += digit;
     const std::optional<AngleParts> first = angleParts(withoutCellBlanks(cell.substr(0, stroke)));
-    const std::optional<AngleParts> second = angleParts(withoutCellBlanks(cell.substr(stroke + 1)));
-    const bool areTwo = first && second && first->word == AngleWord::Horizontal;
+    const std::optional<AngleParts> second = angleParts(withoutCellBlanks(cell.substr(stroke + length)));
+    const bool areTwo =
+        first && second && (first->word == AngleWord::Horizontal || areOpposite(first->number, second->number));
     return areTwo ? withoutCellBlanks(cell.substr(0, stroke)) : cell;
+}
+
+/// The one angle that a heading names, without a unit of intensities behind it, as "C0 [cd/klm]" has one. What then is
+/// a bare number is a value.
+std::string_view oneAngle(std::string_view cell)
+{
+    if (cell.find_first_of("dD") == std::string_view::npos)
+        return firstPlane(cell);
+    const std::size_t digit = cell.find_first_of("0123456789");
+    const std::size_t unit = lowerCase(cell).find("cd", std::min(digit, cell.size()));
+    if (unit == std::string::npos)
+        return firstPlane(cell);
+    constexpr std::string_view kBetween = " ([,/";
+    const std::string_view angle = firstPlane(cell.substr(0, cell.find_last_not_of(kBetween, unit - 1) + 1));
+    const std::optional<AngleParts> parts = angleParts(angle);
+    return parts && parts->isMarked ? angle : cell;
 }
 
 }  // namespace
 
 std::optional<TableAngle> tableAngle(std::string_view cell, const TableReading &reading)
 {
-    const std::optional<AngleParts> parts = angleParts(firstPlane(cell));
+    const std::optional<AngleParts> parts = angleParts(oneAngle(cell));
     const std::optional<double> degrees = parts ? tableNumber(parts->number, reading) : std::nullopt;
     if (!degrees)
         return std::nullopt;
@@ -166,7 +221,7 @@ std::optional<TableAngle> tableAngle(std::string_view cell, const TableReading &
 
 bool isLikeAngle(std::string_view cell)
 {
-    const std::optional<AngleParts> parts = angleParts(firstPlane(cell));
+    const std::optional<AngleParts> parts = angleParts(oneAngle(cell));
     return parts && isLikeNumber(parts->number);
 }
 
@@ -179,15 +234,35 @@ AngleWord angleWord(std::string_view heading)
 
 bool isSummary(std::string_view heading)
 {
-    static constexpr std::string_view kMeans[]{"ave",   "avg",      "mean",     "mittel",      "durchschnitt",
-                                               "moyen", "media",    "prom",     "gemiddeld",   "total",
-                                               "sum",   "\xC3\xB8", "\xC3\x98", "\xE2\x8C\x80"};
+    static constexpr std::string_view kMeans[]{"ave",
+                                               "avg",
+                                               "mean",
+                                               "mittel",
+                                               "durchschnitt",
+                                               "moyen",
+                                               "media",
+                                               "prom",
+                                               "gemiddeld",
+                                               "total",
+                                               "sum",
+                                               "gesamt",
+                                               "totaal",
+                                               "somm",
+                                               "\xC3\xB8",
+                                               "\xC3\x98",
+                                               "\xE2\x8C\x80",
+                                               "\xE5\xB9\xB3\xE5\x9D\x87",  // average, in Chinese and Japanese
+                                               "\xE5\x90\x88\xE8\xAE\xA1",
+                                               "\xE5\x90\x88\xE8\xA8\x88"};  // sum
+    static constexpr std::string_view kExtremes[]{"max", "maximum", "imax", "maxcd", "min", "minimum", "imin", "mincd"};
     static constexpr std::string_view kFluxes[]{"lumen", "flux", "lm", "zonal"};
     const std::string letters = lettersOf(heading);
     const auto isThere = [&letters](std::string_view word) { return letters.find(word) != std::string::npos; };
     // The unit of intensities has lumens in it too.
     const bool isIntensity = isThere("cd") || isThere("candela");
-    return std::any_of(std::begin(kMeans), std::end(kMeans), isThere) ||
+    // Whole words, for they are parts of many others.
+    const bool isExtreme = std::find(std::begin(kExtremes), std::end(kExtremes), letters) != std::end(kExtremes);
+    return isExtreme || std::any_of(std::begin(kMeans), std::end(kMeans), isThere) ||
            (!isIntensity && std::any_of(std::begin(kFluxes), std::end(kFluxes), isThere));
 }
 

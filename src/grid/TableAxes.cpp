@@ -40,7 +40,8 @@ bool isMonotone(const std::vector<double> &numbers)
     return !numbers.empty() && (rises || falls) && areInRange(numbers);
 }
 
-/// Whether numbers without a word look like a list of angles: few steps, and a beginning or end as lists have it.
+/// Whether numbers without a word look like a list of angles: few steps, and a beginning or end as lists have it. Those
+/// that fall, as values do, have one step alone.
 bool looksLikeAngles(const std::vector<double> &numbers)
 {
     if (numbers.size() < 2 || !isMonotone(numbers))
@@ -48,9 +49,12 @@ bool looksLikeAngles(const std::vector<double> &numbers)
     std::vector<long> steps;
     for (std::size_t i = 1; i < numbers.size(); ++i)
         steps.push_back(std::lround(1000 * std::fabs(numbers[i] - numbers[i - 1])));
-    const long firstStep = numbers.front() < numbers.back() ? steps.front() : steps.back();
+    const bool isFalling = numbers.front() > numbers.back();
+    const long firstStep = isFalling ? steps.back() : steps.front();
     std::sort(steps.begin(), steps.end());
     const auto distinct = std::unique(steps.begin(), steps.end()) - steps.begin();
+    if (isFalling && (distinct > 1 || steps.size() < 3 || numbers.front() > 180))
+        return false;
     const double least = std::min(numbers.front(), numbers.back());
     const bool isHalfAStep = std::lround(2000 * least) == firstStep;
     static constexpr double kUsual[]{-180, -90, -85, -80, -75, -60, -45, -30, 0, 30, 45, 60, 90, 180, 270};
@@ -96,6 +100,7 @@ private:
 
     const Cells &cellsAt(std::size_t line) const { return m_sample.lines[line].cells; }
     Axis columnFrom(std::size_t line) const;
+    bool isColumnNamed() const;
     std::optional<AngleRow> rowFound() const;
     std::optional<AngleRow> rowOfNumbers() const;
     std::optional<AngleRow> rowAt(std::size_t line, Beside beside, Proof proof) const;
@@ -119,6 +124,7 @@ void TableAxes::find()
         m_reading.hasAngleColumn = m_row.beside == Beside::Column;
         m_column = columnFrom(m_row.firstValues);
     } else {
+        m_reading.hasAngleColumn = m_reading.hasAngleColumn || isColumnNamed();
         for (std::size_t i = m_reading.hasAngleColumn ? 1 : 0; i < m_sample.width; ++i)
             m_row.columns.push_back(i);
     }
@@ -136,6 +142,18 @@ Axis TableAxes::columnFrom(std::size_t line) const
             if (const std::optional<TableAngle> angle = tableAngle(cellsAt(line).front(), m_reading))
                 add(column, *angle);
     return column;
+}
+
+/// Whether a line of names above the values names angles over the first column, so that they need not look like a list.
+bool TableAxes::isColumnNamed() const
+{
+    if (m_sample.width < 2 || !isMonotone(m_column.degrees))
+        return false;
+    for (std::size_t up = 1; up <= std::min(m_sample.first, kLinesAbove); ++up)
+        if (const Cells &names = cellsAt(m_sample.first - up);
+            names.size() == m_sample.width && cornerWord(names.front()) != AngleWord::None)
+            return true;
+    return false;
 }
 
 std::optional<AngleRow> TableAxes::rowFound() const

@@ -36,6 +36,7 @@ bool namesKilolumen(std::string_view text)
                                                "candelas/1000lumen",
                                                "per1000lumen",
                                                "per1000lm",
+                                               "per1000lamplumen",
                                                "pro1000lm"};
     const std::string letters = squeezed(text);
     for (const std::string_view word : kWords)

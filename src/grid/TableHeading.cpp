@@ -2,6 +2,29 @@
 
 namespace penwright {
 
+namespace {
+
+/// Whether a line of angles beside a column of them begins with its first angle, nothing standing over the column.
+bool hasNoCorner(const std::vector<std::string_view> &cells, const TableReading &reading)
+{
+    if (!reading.hasAngleColumn || reading.separator != TableSeparator::Blanks || cells.size() < 2)
+        return false;
+    const std::optional<TableAngle> first = tableAngle(cells[0], reading);
+    const std::optional<TableAngle> second = tableAngle(cells[1], reading);
+    return first && second && first->degrees < second->degrees;
+}
+
+}  // namespace
+
+std::size_t headedWidth(const std::vector<std::string_view> &cells, std::size_t width, const TableReading &reading)
+{
+    std::size_t named = 0;
+    while (named < cells.size() && isSummary(cells[cells.size() - named - 1]))
+        ++named;
+    const std::size_t whole = cells.size() + (hasNoCorner(cells, reading) ? 1 : 0);
+    return width < whole && width + named >= whole ? whole : width;
+}
+
 TableHeading tableHeading(const std::vector<std::string_view> &cells, std::size_t width, const TableReading &reading)
 {
     TableHeading heading;

@@ -18,6 +18,10 @@ struct TableHeading {
     std::optional<std::size_t> wrong;  ///< the first cell of the line of angles that is none
 };
 
+/// The width of the lines below a line of angles, of which the first has `width` cells: more than it has where the
+/// names of averages or sums end the line of angles and it has no cells for them.
+std::size_t headedWidth(const std::vector<std::string_view> &cells, std::size_t width, const TableReading &reading);
+
 /// Puts a line of angles over lines of `width` cells. The first of these is no value where the reading has a column of
 /// angles; nothing, or a word or several, may stand over it. Columns with nothing or with a summary's name over them
 /// hold no values.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/Ascii.h"
 #include "core/LineEnds.h"
 
 namespace penwright {
@@ -19,6 +20,41 @@ constexpr std::array<std::string_view, 5> kBlanks{" ", "\t", "\xC2\xA0", "\xE2\x
 bool isBlank(char c)
 {
     return c == ' ' || c == '\t';
+}
+
+/// Whether a line is drawn of strokes, as text tables have them below headings and around.
+bool isDrawn(const std::vector<std::string_view> &cells)
+{
+    const auto isStroke = [](std::string_view cell) {
+        return cell.size() > 1 && cell.find_first_not_of("-=+_:|") == std::string_view::npos;
+    };
+    return !cells.empty() && std::all_of(cells.begin(), cells.end(), isStroke);
+}
+
+/// Puts words to the numbers behind them where the same one stands before several: "C 0  C 45" are two angles.
+void joinWords(std::vector<std::string_view> &cells)
+{
+    const auto isWord = [&cells](std::size_t at) {
+        return at + 1 < cells.size() && isDigit(cells[at + 1].front()) && !isDigit(cells[at].front()) &&
+               cells[at].find_first_of("0123456789.+-") == std::string_view::npos;
+    };
+    std::size_t first = 0;
+    while (first < cells.size() && !isWord(first))
+        ++first;
+    std::size_t second = first + 1;
+    while (second < cells.size() && !(isWord(second) && cells[second] == cells[first]))
+        ++second;
+    if (second >= cells.size())
+        return;
+    const std::string_view word = cells[first];
+    std::vector<std::string_view> joined;
+    for (std::size_t at = 0; at < cells.size(); ++at) {
+        const char *begin = cells[at].data();
+        if (isWord(at) && cells[at] == word)
+            ++at;
+        joined.emplace_back(begin, static_cast<std::size_t>(cells[at].data() + cells[at].size() - begin));
+    }
+    cells = std::move(joined);
 }
 
 }  // namespace
@@ -66,7 +102,11 @@ bool TableLines::next(TableLine &line)
         passLineEnd();
         while (!line.cells.empty() && line.cells.back().empty())
             line.cells.pop_back();
+        if (isDrawn(line.cells))
+            line.cells.clear();
     }
+    if (m_separator == TableSeparator::Blanks)
+        joinWords(line.cells);
     line.before = 0;
     while (line.before < std::min(m_blankColumns, line.cells.size()) && line.cells[line.before].empty())
         ++line.before;
@@ -79,7 +119,8 @@ std::string_view TableLines::nextCell()
     const std::size_t quoted = quotedLength();
     std::string_view cell;
     if (quoted > 0) {
-        cell = m_text.substr(m_at + 1, quoted - 2);
+        cell = withoutCellBlanks(m_text.substr(m_at, quoted));
+        cell = cell.substr(1, cell.size() - 2);
         for (std::size_t end = m_at + quoted; m_at < end;)
             isAtLineEnd() ? passLineEnd() : static_cast<void>(++m_at);
     } else {
@@ -117,18 +158,21 @@ std::size_t TableLines::blankColumns() const
     return least == std::string_view::npos ? 0 : least;
 }
 
-/// The length of the cell in quotes that stands here, with them; 0 for any other cell.
+/// The length of the cell in quotes that stands here, with them and the blanks around them; 0 for any other cell.
 std::size_t TableLines::quotedLength() const
 {
     const std::string_view here = m_text.substr(m_at, kLongestQuoted);
-    if (!here.starts_with('"'))
+    const std::size_t begin = here.find_first_not_of(' ');
+    if (begin == std::string_view::npos || here[begin] != '"')
         return 0;
-    std::size_t at = here.find('"', 1);
+    std::size_t at = here.find('"', begin + 1);
     while (at != std::string_view::npos && here.substr(at, 2) == "\"\"")
         at = here.find('"', at + 2);
     if (at == std::string_view::npos)
         return 0;
-    const std::size_t length = at + 1;
+    std::size_t length = at + 1;
+    while (m_separator != TableSeparator::Blanks && length < here.size() && here[length] == ' ')
+        ++length;
     const bool isWhole = m_at + length == m_text.size() || isSeparator(m_text[m_at + length]) ||
                          lineEndLength(m_text.substr(m_at + length, 2)) > 0;
     return isWhole ? length : 0;
@@ -146,12 +190,12 @@ bool TableLines::isSeparator(char c) const
         case TableSeparator::Blanks:
             break;
     }
-    return isBlank(c);
+    return isBlank(c) || c == '|';
 }
 
 void TableLines::skipBlanks()
 {
-    while (m_at < m_text.size() && isBlank(m_text[m_at]))
+    while (m_at < m_text.size() && isSeparator(m_text[m_at]))
         ++m_at;
 }
 

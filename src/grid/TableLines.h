@@ -16,8 +16,9 @@ struct TableLine {
 };
 
 /// The lines of a text with cells in them, one by one. Cells in quotes come without the outer quotes and may hold
-/// separators and line ends. Empty cells at a line's end are left out, and so are blank lines, and the blank columns
-/// that the first lines begin with. Takes time in proportion to the text.
+/// separators and line ends. Empty cells at a line's end are left out, and so are blank lines, those drawn of strokes,
+/// and the blank columns that the first lines begin with. Between blanks an upright stroke is one. Takes time in
+/// proportion to the text.
 class TableLines {
 public:
     /// Refers to `text`.

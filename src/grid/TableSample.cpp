@@ -84,7 +84,7 @@ bool risesInFirstColumn(const TableSample &sample)
         if (!line.isFull || line.cells.size() != sample.width || line.cells.front().empty())
             continue;
         const auto angle = tableAngle(line.cells.front(), TableReading());
-        if (!angle || angle->degrees <= last)
+        if (!angle || angle->degrees <= last || angle->degrees > 360)
             return false;
         last = angle->degrees;
     }

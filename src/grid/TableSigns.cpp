@@ -107,19 +107,28 @@ double roughness(const std::vector<std::vector<std::string_view>> &lines, const 
 }
 
 /// Whether the only sign of a table, which could be either, stands between thousands: beside whole numbers of up to
-/// three digits without it, none of four, and with less of a jump between them.
+/// three digits without it, none of four, and with less of a jump between them; or beside zeros without it alone.
 bool fitsThousands(const TableSample &sample, char sign)
 {
     const auto lines = valueCells(sample);
     std::size_t plain = 0;
     std::size_t longest = 0;
+    bool hasZero = false;
+    bool hasRound = false;
     for (const auto &line : lines)
-        for (const std::string_view cell : line)
-            if (!cell.empty() && cell != "0" && std::all_of(cell.begin(), cell.end(), isDigit)) {
+        for (const std::string_view cell : line) {
+            const bool isWhole = !cell.empty() && std::all_of(cell.begin(), cell.end(), isDigit);
+            hasZero |= cell == "0";
+            hasRound |= !isWhole && cell.ends_with('0');
+            if (isWhole && cell != "0") {
                 ++plain;
                 longest = std::max(longest, cell.size());
             }
-    if (plain == 0 || longest > 3)
+        }
+    // Decimals that end with 0 are written with all their digits, and so would be a zero among them.
+    if (plain == 0)
+        return hasZero && hasRound;
+    if (longest > 3)
         return false;
     TableReading decimal;
     decimal.decimalSign = sign;

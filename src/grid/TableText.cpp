@@ -38,6 +38,7 @@ private:
     std::size_t firstNoNumber(const TableLine &line) const;
     void refuse(std::size_t line, std::size_t cell, const std::string &wrong);
     void refuseCell(const TableLine &line, std::size_t place);
+    void refuseWidth(const TableLine &line, std::size_t above);
     void refuseFall(std::size_t line, std::size_t cell, double angle, double before);
     TableFault nothingRead() const;
     TableContent content() const;
@@ -46,7 +47,8 @@ private:
     TableReading m_reading;
     TableLines m_lines;
     std::optional<TableLine> m_heading;  ///< the line of angles until the first line of values
-    std::size_t m_width = 0;             ///< cells of each line, 0 before the first line of values
+    std::size_t m_width = 0;             ///< cells of a whole line, 0 before the first line of values
+    std::size_t m_least = 0;             ///< cells of a line that lacks averages and sums
     std::vector<std::size_t> m_columns;  ///< cells with values
     std::vector<double> m_across;
     std::vector<double> m_down;
@@ -126,18 +128,27 @@ std::size_t TableTextReading::firstNoNumber(const TableLine &line) const
 /// Settles by the first line of values which cells hold them.
 void TableTextReading::begin(const TableLine &line)
 {
-    m_width = line.cells.size();
+    m_width = m_least = line.cells.size();
     const std::size_t firstValue = m_reading.hasAngleColumn ? 1 : 0;
     if (!m_heading) {
         for (std::size_t i = firstValue; i < m_width; ++i)
             m_columns.push_back(i);
         return;
     }
-    const TableHeading heading = tableHeading(m_heading->cells, m_width, m_reading);
+    const std::vector<std::string_view> &angles = m_heading->cells;
+    const bool areCellsCut = m_reading.separator != TableSeparator::Blanks;
+    for (std::size_t place = m_width; areCellsCut && place < angles.size(); ++place)
+        if (tableAngle(angles[place], m_reading))
+            return refuseWidth(line, angles.size());
+    m_width = headedWidth(angles, m_width, m_reading);
+    const TableHeading heading = tableHeading(angles, m_width, m_reading);
     if (heading.wrong)
         return refuse(m_heading->number, m_heading->before + *heading.wrong + 1,
-                      shownWord(m_heading->cells[*heading.wrong]) + " is no angle.");
+                      shownWord(angles[*heading.wrong]) + " is no angle.");
     m_columns = heading.columns;
+    // Between blanks a cell that is missing may be any: only where the first line lacks some others may.
+    if (areCellsCut && !m_columns.empty())
+        m_least = m_columns.back() + 1;
     for (std::size_t i = 0; i < heading.angles.size(); ++i) {
         const double angle = heading.angles[i].degrees;
         if (!m_across.empty() && angle < m_across.back())
@@ -151,13 +162,11 @@ void TableTextReading::readRow(const TableLine &line)
 {
     if (m_width == 0)
         begin(line);
-    if (line.cells.size() != m_width) {
+    if (line.cells.size() < m_least || line.cells.size() > m_width) {
         const std::size_t place = firstNoNumber(line);
         if (line.cells.size() > m_width && place < line.cells.size() && !(place == 0 && m_reading.hasAngleColumn))
             return refuseCell(line, place);
-        return refuse(
-            line.number, 0,
-            counted(line.cells.size(), "cell") + " where the lines above have " + std::to_string(m_width) + ".");
+        return refuseWidth(line, m_width);
     }
     if (m_reading.hasAngleColumn)
         readAngle(line);
@@ -198,6 +207,12 @@ void TableTextReading::refuseCell(const TableLine &line, std::size_t place)
     const std::string_view cell = line.cells[std::min(place, line.cells.size() - 1)];
     refuse(line.number, line.before + place + 1,
            cell.empty() ? "the cell is empty; a number belongs there." : shownWord(cell) + " is no number.");
+}
+
+void TableTextReading::refuseWidth(const TableLine &line, std::size_t above)
+{
+    refuse(line.number, 0,
+           counted(line.cells.size(), "cell") + " where the lines above have " + std::to_string(above) + ".");
 }
 
 void TableTextReading::refuseFall(std::size_t line, std::size_t cell, double angle, double before)

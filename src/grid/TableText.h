@@ -30,10 +30,10 @@ struct TableFault {
 TableReading guessTable(std::string_view text);
 
 /// Reads the table of a UTF-8 text. Left out are blank lines, lines without any number below the line of angles (such
-/// as units), lines and columns that a word names as averages or sums, columns without an angle, and remarks behind the
-/// last line. All else that is no number is a fault, as are angles that fall and lines of unequal length.
-/// Takes time and memory in proportion to the text. `goOn` is asked now and then with the part that is read, 0 to 1;
-/// when it says no, the fault has no text.
+/// as units), lines and columns that a word names as averages, sums or the like, columns without an angle, and remarks
+/// behind the last line. All else that is no number is a fault, as are angles that fall and lines of unequal length,
+/// but for what is left out at their ends. Takes time and memory in proportion to the text. `goOn` is asked now and
+/// then with the part that is read, 0 to 1; when it says no, the fault has no text.
 std::variant<TableContent, TableFault> readTable(std::string_view text, const TableReading &reading,
                                                  const std::function<bool(double)> &goOn = {});
 

@@ -47,7 +47,6 @@ void addTypeC(MainPlanes &planes, const PhotometricRecord &record, const Cells &
         const auto listed = circle.listedAngle(direction);
         return listed ? plotCurves(record, cells, *listed, kNoCone).plane : PlotCurve();
     };
-    planes.picture.curves.hasTwoPlanes = true;
     planes.picture.curves.plane = planeOf(0);
     if (!planes.second.empty())
         planes.picture.curves.cone = planeOf(90);
@@ -57,7 +56,6 @@ void addTypeB(MainPlanes &planes, const PhotometricRecord &record, const Cells &
 {
     PlotCurves &curves = planes.picture.curves;
     curves.typeC = false;
-    curves.hasTwoPlanes = true;
     curves.plane = plotCurves(record, cells, 0, kNoCone).plane;
     curves.cone = plotCurves(turned(record), turned(cells), 0, kNoCone).plane;
 }
@@ -80,6 +78,9 @@ MainPlanes mainPlanes(const PhotometricRecord &record)
     MainPlanes planes{{}, isTypeC ? "Plane 0-180" : "Vertical plane", isTypeC ? "Plane 90-270" : "Horizontal plane"};
     if (isRound)
         planes = {{}, "All planes", ""};
+    planes.picture.planeName = planes.first;
+    planes.picture.coneName = planes.second;
+    planes.picture.curves.hasTwoPlanes = true;
     try {
         MainPlanes found = planes;
         isTypeC ? addTypeC(found, record, cellsOf(record)) : addTypeB(found, record, cellsOf(record));

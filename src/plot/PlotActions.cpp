@@ -92,8 +92,9 @@ void PlotActions::savePng()
 
 void PlotActions::save(const QByteArray &picture, const char *suffix, const char *filter)
 {
-    const std::string proposed = "candela-plot-H" + generalText(m_picture().curves.horizontalAngle) + "." + suffix;
-    const auto chosen = m_dialogs->chooseSaveName({kTitle, filter, suffix, proposed});
+    const PlotCurves &curves = m_picture().curves;
+    const std::string plane = curves.hasTwoPlanes ? "" : "-H" + generalText(curves.horizontalAngle);
+    const auto chosen = m_dialogs->chooseSaveName({kTitle, filter, suffix, "candela-plot" + plane + "." + suffix});
     if (!chosen || chosen->empty())
         return;
     QString path = QString::fromStdString(*chosen);

@@ -4,7 +4,6 @@
 #include <QPainter>
 #include <QSvgGenerator>
 
-#include "core/NumberText.h"
 #include "plot/PlotPainter.h"
 
 namespace penwright {
@@ -27,7 +26,7 @@ PlotLook exportedLook()
 
 int legendLines(const PlotPicture &picture)
 {
-    return picture.curves.typeC ? 2 : 1;
+    return picture.coneName.empty() ? 1 : 2;
 }
 
 QSize sizeOf(const PlotPicture &picture)
@@ -58,13 +57,9 @@ void paint(QPainter &painter, const PlotPicture &picture)
     painter.fillRect(QRect(QPoint(), size), look.paper);
     paintPlot(painter, QRectF(QPointF(), plot), font, picture, look);
     painter.setFont(font);
-    paintLegend(painter, 0, size, lines, look.plane,
-                QStringLiteral("Vertical Plane Through Horizontal Angle ") +
-                    QString::fromStdString(generalText(picture.curves.horizontalAngle)));
-    if (picture.curves.typeC)
-        paintLegend(painter, 1, size, lines, look.cone,
-                    QStringLiteral("Horizontal Cone Through Vertical Angle ") +
-                        QString::fromStdString(generalText(picture.curves.verticalAngle)));
+    paintLegend(painter, 0, size, lines, look.plane, QString::fromStdString(picture.planeName));
+    if (!picture.coneName.empty())
+        paintLegend(painter, 1, size, lines, look.cone, QString::fromStdString(picture.coneName));
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include "plot/PlotPicture.h"
 
+#include "core/NumberText.h"
+
 namespace penwright {
 
 PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells,
@@ -9,6 +11,9 @@ PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<Can
     picture.curves = plotCurves(record, cells, horizontal, vertical, shape);
     picture.rings = plotRings(picture.curves.largest());
     picture.words = plotDescription(picture.curves);
+    picture.planeName = "Vertical Plane Through Horizontal Angle " + generalText(horizontalAngle);
+    if (picture.curves.typeC)
+        picture.coneName = "Horizontal Cone Through Vertical Angle " + generalText(verticalAngle);
     return picture;
 }
 

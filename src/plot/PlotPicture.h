@@ -13,6 +13,8 @@ struct PlotPicture {
     PlotCurves curves;
     std::vector<PlotRing> rings;  ///< from the inside out; none when no value is above zero
     std::string words;            ///< for those who cannot see it
+    std::string planeName;        ///< what a picture that leaves the program says of its first curve
+    std::string coneName;         ///< the same of the second one, "" where there is none
 };
 
 /// The picture of the vertical plane through `horizontal` and, for type C, the cone through `vertical`, both

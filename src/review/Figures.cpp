@@ -78,8 +78,11 @@ void addBeams(std::vector<Figure> &figures, const Photometry &photometry)
 
 void addShares(std::vector<Figure> &figures, const TableLumens &lumens)
 {
+    constexpr double kRest = 1e-9;  // that two sums over the same values may differ by
     const Measure down = percentOf(lumens.below, lumens.all, "The table gives no light.");
-    figures.push_back(measured("Upward share", down.isKnown() ? Measure(100 - down.value()) : down, "%"));
+    const double rest = down.isKnown() ? 100 - down.value() : 0;
+    const Measure up = Measure(std::fabs(rest) < kRest ? 0 : rest);
+    figures.push_back(measured("Upward share", down.isKnown() ? up : down, "%"));
     figures.push_back(measured("Downward share", down, "%"));
 }
 

@@ -103,6 +103,10 @@ TEST_F(ReadRun, everyPageReadsAsItLooks)
     EXPECT_TRUE(reads(kCaptions[4], "page-5"));
     type("5\r");
 
+    typeKeys({"ctrl+c", "ctrl+shift+v"});
+    EXPECT_TRUE(reads("Paste Table", "paste-table"));
+    typeKeys({"Escape"});
+
     typeKeys({"alt+n"});
     EXPECT_TRUE(reads(kCaptions[5], "page-6"));
     send("CLOSE");

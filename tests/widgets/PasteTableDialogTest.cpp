@@ -170,6 +170,33 @@ TEST_F(PasteTable, everyInputHasALabelAndTabGoesFromTheTopToTheButtons)
     EXPECT_EQ(focusName(), "cdaGridCd");
 }
 
+// 800 x 600 pixels at a scale factor of 2, without the frame of a window manager.
+TEST_F(PasteTable, onASmallScreenWordsAndButtonsStayInSightAndAllElseScrollsToTheFocus)
+{
+    openPageFive();
+    open("x" + kTable, [&](PasteTableDialog &dialog) {
+        const QSize small(380, 270);
+        dialog.resize(small);
+        QTest::qWait(0);
+        EXPECT_EQ(dialog.size(), small);
+        const auto isWhole = [&](QWidget *widget) {
+            return widget->visibleRegion().boundingRect() == widget->rect() &&
+                   dialog.rect().contains(QRect(widget->mapTo(&dialog, QPoint()), widget->size()));
+        };
+        for (const char *always : {"tableWords", "helpButton", "cancelButton", "okButton"})
+            EXPECT_TRUE(isWhole(&in(always))) << always;
+        for (int tab = 0; tab < 14; ++tab) {
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+            QTest::qWait(0);
+            QWidget *focus = dialog.focusWidget();
+            if (focus != &in("tablePreview"))
+                EXPECT_TRUE(isWhole(focus)) << focusName();
+            EXPECT_FALSE(focus->visibleRegion().isEmpty()) << focusName();
+        }
+        leave();
+    });
+}
+
 TEST_F(PasteTable, enterTakesItFromWhereverTheFocusIsAndEscapeLeavesIt)
 {
     openPageFive();

@@ -6,6 +6,7 @@
 #include "review/Figures.h"
 #include "review/Photometry.h"
 #include "review/Remarks.h"
+#include "support/TempFolder.h"
 #include "widgets/ReviewTest.h"
 
 namespace penwright::test {
@@ -47,6 +48,56 @@ TEST_F(Review, showsTheRemarksInTheOrderOfTheirWeight)
     for (int row = 0; const Remark &remark : expected)
         EXPECT_EQ(spoken(*remarks(), row++), remark.text);
     EXPECT_EQ(find<QLabel>("labRemarks")->text().toStdString(), "Remarks (" + std::to_string(expected.size()) + ")");
+}
+
+TEST_F(Review, thePictureIsReadInTheLineOfTheTabs)
+{
+    showRecord(goodRecord());
+    auto *reading = find<QLabel>("reviewReading");
+    auto *picture = find<QWidget>("reviewPicture");
+    EXPECT_FALSE(reading->isVisible());
+    picture->setFocus();
+    QTest::keyClick(picture, Qt::Key_Home);
+    QTest::keyClick(picture, Qt::Key_End);
+    EXPECT_EQ(reading->text(), "H 0, V 90: 0 cd");
+    QTest::keyClick(picture, Qt::Key_Down);
+    QTest::keyClick(picture, Qt::Key_Home);
+    EXPECT_EQ(reading->text(), "H 270, V 90: 0 cd");
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(reading->isVisible());
+    EXPECT_EQ(reading->visibleRegion().boundingRect(), reading->rect());
+    find<QWidget>("cmdSaveAs")->setFocus();
+    EXPECT_FALSE(reading->isVisible());
+}
+
+TEST_F(Review, thePictureLeavesWithTheNamesOfItsPlanes)
+{
+    const auto svgOf = [this](const PhotometricRecord &shown) {
+        showRecord(shown);
+        QWidget *picture = find<QWidget>("reviewPicture");
+        picture->setFocus();
+        QTest::keyClick(picture, Qt::Key_C, Qt::ControlModifier);
+        return QGuiApplication::clipboard()->mimeData()->data("image/svg+xml");
+    };
+    const QByteArray two = svgOf(goodRecord());
+    EXPECT_TRUE(two.contains(">Plane 0-180<") && two.contains(">Plane 90-270<"));
+    EXPECT_FALSE(two.contains(">Horizontal Cone"));
+    const QByteArray one = svgOf(goodRecord({0}));
+    EXPECT_TRUE(one.contains(">All planes<"));
+    EXPECT_FALSE(one.contains(">Plane 90-270<"));
+}
+
+TEST_F(Review, thePictureCanBeSaved)
+{
+    showRecord(goodRecord());
+    const TempFolder folder;
+    dialogs.names = {folder.file("planes.svg")};
+    auto *menu = find<QWidget>("reviewPicture")->findChild<QMenu *>("mnuPlot");
+    auto *save = menu->findChild<QAction *>("saveSvg");
+    ASSERT_TRUE(save->isVisible());
+    save->trigger();
+    EXPECT_EQ(dialogs.proposedName, "candela-plot.svg");
+    EXPECT_NE(contentOf(folder.file("planes.svg")).find(">Plane 0-180<"), std::string::npos);
 }
 
 TEST_F(Review, saysThatThereAreNoRemarks)

@@ -2,7 +2,7 @@
 #include <random>
 #include <set>
 
-#include "widgets/StepsTest.h"
+#include "widgets/PasteTableTest.h"
 
 namespace penwright::test {
 namespace {
@@ -10,6 +10,7 @@ namespace {
 /// Everything that a page's steps answer for, the record and the working copy that follow page 5 among it.
 struct StepState {
     PageText texts;
+    PageText otherTexts;  ///< of the page that a pasted table changes too
     PhotometricRecord record;
     OneBased<PhotometricRecord> work;
 
@@ -22,14 +23,14 @@ struct RandomCase {
 };
 
 /// Acts that a user may do on a page, one after the other, in an order that the seed decides.
-class RandomSteps : public StepsTest, public testing::WithParamInterface<RandomCase> {
+class RandomSteps : public PasteTableTest, public testing::WithParamInterface<RandomCase> {
 protected:
     static constexpr int kActs = 200;
 
     void SetUp() override
     {
         StepsTest::SetUp();
-        open();
+        openPage();
         m_states = {now()};
         QObject::connect(&page().steps(), &PageSteps::stepped, window.get(), [this] {
             const auto count = static_cast<std::size_t>(page().steps().count());
@@ -41,7 +42,7 @@ protected:
         });
     }
 
-    void open()
+    void openPage()
     {
         if (GetParam().page == kCandelaPage)
             return openTable();
@@ -54,7 +55,9 @@ protected:
     StepState now()
     {
         const bool hasTable = GetParam().page == kCandelaPage;
-        return {texts(), hasTable ? state.PhotFiles(1) : PhotometricRecord(),
+        const bool hasOther = hasTable || GetParam().page == kDistributionPage;
+        return {texts(), hasOther ? textsOf(page(hasTable ? kDistributionPage : kCandelaPage)) : PageText(),
+                hasTable ? state.PhotFiles(1) : PhotometricRecord(),
                 hasTable ? state.CandelaWorkRecord : OneBased<PhotometricRecord>()};
     }
 
@@ -173,8 +176,45 @@ protected:
         }
     }
 
+    /// A list of angles that both types take, or one angle, which type C takes.
+    std::vector<int> anyAngles(int most)
+    {
+        if (most == 1)
+            return {0};
+        std::vector<int> angles{0};
+        for (int count = any(0, most - 2); count > 0 && angles.back() < 80; --count)
+            angles.push_back(angles.back() + any(1, 10));
+        angles.push_back(90);
+        return angles;
+    }
+
+    /// Opens "Paste Table..." over a table, with angles or without, and takes it where it is offered.
+    void pasteAnyTable()
+    {
+        const std::vector<int> across = anyAngles(any(1, 4));
+        const bool hasAngles = any(0, 3) != 0;
+        std::string text = hasAngles ? "Gamma" : "";
+        for (std::size_t h = 0; hasAngles && h < across.size(); ++h)
+            text += "\tC" + std::to_string(across[h]);
+        text += hasAngles ? "\n" : "";
+        for (const int v : anyAngles(any(2, 6))) {
+            text += hasAngles ? std::to_string(v) : "";
+            for (std::size_t h = 0; h < across.size(); ++h)
+                text += (hasAngles || h > 0 ? "\t" : "") + std::to_string(any(0, 99999) / 8.0);
+            text += "\n";
+        }
+        PasteTableTest::open(text, [this](PasteTableDialog &dialog) {
+            m_tables += isOffered() ? 1 : 0;
+            QTest::keyClick(dialog.focusWidget(), isOffered() ? Qt::Key_Return : Qt::Key_Escape);
+        });
+        page().steps().endAct();
+        m_states.at(static_cast<std::size_t>(page().steps().count())) = now();  // told before the other page had it
+    }
+
     void actOnAngles()
     {
+        if (any(0, 12) == 0)
+            return pasteAnyTable();
         const std::string axis = any(0, 1) ? "Vert" : "Horz";
         if (const int kind = any(0, 6); kind == 0) {
             click(any(0, 1) ? "rdoC" : "rdoB");
@@ -192,6 +232,8 @@ protected:
 
     void actOnCandela()
     {
+        if (any(0, 12) == 0)
+            return pasteAnyTable();
         if (const int kind = any(0, 5); kind == 0) {
             PhotometricRecord &record = state.PhotFiles(1);
             record.PhotometricType = any(0, 1) ? kTypeC : kTypeB;
@@ -235,6 +277,7 @@ protected:
     std::mt19937 m_random{GetParam().seed};
     std::vector<StepState> m_states;  ///< by the number of steps that stand
     std::size_t m_most = 0;
+    int m_tables = 0;  ///< that were taken
     bool m_isChecking = false;
 };
 
@@ -265,6 +308,8 @@ TEST_P(RandomSteps, leadToTheBottomAndToTheTopOverEachState)
     }
     EXPECT_EQ(page().steps().count(), static_cast<int>(m_states.size()) - 1);
     EXPECT_GT(m_most, 40U);
+    const bool takesTables = GetParam().page == kDistributionPage || GetParam().page == kCandelaPage;
+    EXPECT_EQ(m_tables > 2, takesTables) << m_tables;
 }
 
 std::vector<RandomCase> cases()

@@ -55,6 +55,7 @@ FileReview::FileReview(QWidget *parent) : QWidget(parent)
     m_tabs->setDocumentMode(true);
     m_tabs->addTab(makePicture(), "Picture");
     m_tabs->addTab(m_text, "File");
+    m_tabs->setCornerWidget(makeReading());
     connect(m_tabs, &QTabWidget::currentChanged, this, &FileReview::showTextWhenLookedAt);
 
     auto *halves = new QSplitter;
@@ -130,6 +131,26 @@ QWidget *FileReview::makePicture()
     layout->addWidget(m_picture, 1);
     layout->addLayout(keys);
     return whole;
+}
+
+/// The value that is marked in the picture, where the line of the tabs has room for it.
+QWidget *FileReview::makeReading()
+{
+    m_reading = new QuietLabel;
+    m_reading->setObjectName("reviewReading");
+    m_reading->setTextFormat(Qt::PlainText);
+    m_reading->hide();
+    connect(m_picture, &PlotView::readingChanged, this, [this] {
+        const auto &reading = m_picture->reading();
+        m_reading->setText(reading ? QString::fromStdString(readingText(*reading)) : QString());
+        m_reading->setVisible(reading.has_value());
+    });
+    return m_reading;
+}
+
+void FileReview::setDialogs(Dialogs &dialogs)
+{
+    m_picture->setDialogs(dialogs);
 }
 
 void FileReview::refresh()

@@ -14,9 +14,11 @@ class QTabWidget;
 namespace penwright {
 
 class CurveKey;
+class Dialogs;
 class FigureList;
 class NumberedText;
 class PlotView;
+class QuietLabel;
 class RemarkList;
 
 /// What a finished file says, to be read before it is handed over: remarks and figures on the left, on the right the
@@ -31,6 +33,9 @@ public:
 
     /// Where the record is found, each time it is looked at.
     void setRecord(Record record) { m_record = std::move(record); }
+
+    /// What saving the picture asks with; they outlive the review.
+    void setDialogs(Dialogs &dialogs);
 
     /// Shows the record as it is now. Its text, which takes the longest, is made once its tab is looked at.
     void refresh();
@@ -48,6 +53,7 @@ signals:
 private:
     QWidget *makeLists();
     QWidget *makePicture();
+    QWidget *makeReading();
     void showRemarks();
     void showPicture(const PhotometricRecord &record);
     void showTextWhenLookedAt();
@@ -62,6 +68,7 @@ private:
     FigureList *m_figureList = nullptr;
     QTabWidget *m_tabs = nullptr;
     PlotView *m_picture = nullptr;
+    QuietLabel *m_reading = nullptr;
     CurveKey *m_firstKey = nullptr;
     CurveKey *m_secondKey = nullptr;
     QLabel *m_firstPlane = nullptr;

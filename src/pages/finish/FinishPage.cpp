@@ -24,6 +24,7 @@ FinishPage::FinishPage(const PageContext &context, SettingsStore &store, TextFil
     large.setPointSizeF(large.pointSizeF() * 1.2);
     m_form->Label80a->setFont(large);
     m_form->review->setRecord([this]() -> const PhotometricRecord & { return state().PhotFiles(1); });
+    m_form->review->setDialogs(dialogs());
     connect(m_form->review, &FileReview::placeChosen, this,
             [this](const RecordPlace &place) { run([&] { navigator().goToPlace(place); }); });
     connect(m_form->review, &FileReview::whyAsked, this, [this](RemarkRule rule) {

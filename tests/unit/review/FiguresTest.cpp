@@ -111,6 +111,16 @@ TEST(Figures, ofAnEmptyRecordAllSayWhy)
               "Width x length x height in feet: - (The record does not say whether it counts in feet or meters.)\n");
 }
 
+TEST(Figures, ofADownlightHaveNoRestOfSharesUpwards)
+{
+    for (int peak = 1; peak < 100; ++peak) {
+        const PhotometricRecord record = withTable(plainRecord(), kTypeC, {0, 90}, anglesTo(90, 5),
+                                                   [=](double, double v) { return std::round(peak * cosine(v)); });
+        EXPECT_EQ(figureOf(record, "Upward share").text, "0") << peak;
+        EXPECT_EQ(figureOf(record, "Downward share").text, "100") << peak;
+    }
+}
+
 TEST(Figures, ofZerosSayWhatIsMissing)
 {
     const PhotometricRecord record =
