@@ -49,6 +49,9 @@ public:
     /// last one where rows can be appended.
     virtual std::optional<MessageBox> check(int, int, std::string_view) const { return std::nullopt; }
 
+    /// What is said under the grid of a text that `check` refuses with a message that cannot say it; "" for nothing.
+    virtual std::string hintOfRefused(std::string_view) const { return {}; }
+
     /// What of a text would be kept, for a source that keeps less than all; nothing of it appends no row.
     virtual std::string_view kept(std::string_view text) const { return text; }
 
