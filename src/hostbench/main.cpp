@@ -9,6 +9,7 @@
 #include <QTemporaryDir>
 #include <QTimer>
 
+#include "controls/OutlinedStyle.h"
 #include "hostbench/HostWindow.h"
 #include "hostbench/Walk.h"
 
@@ -142,6 +143,7 @@ int main(int argc, char **argv)
 
     QApplication application(argc, argv);
     QApplication::setStyle("Fusion");
+    penwright::OutlinedStyle::install();
     try {
         return runHost(application, options);
     } catch (const std::exception &error) {
