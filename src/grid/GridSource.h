@@ -42,6 +42,10 @@ public:
     virtual std::string rowName(int row) const { return row > rowCount() ? "New row" : "Row " + std::to_string(row); }
     virtual std::string columnName(int column) const { return columnCaption(column); }
 
+    /// Whether each cell tells a screen reader its row and column too: readers go through a whole row when they come to
+    /// it, and do not say which of its values one is at.
+    virtual bool tellsPlaces() const { return false; }
+
     /// The text that a cell shows.
     virtual std::string read(int row, int column) const = 0;
 

@@ -70,6 +70,7 @@ public:
     /// The angles, in degrees: "V 30" and "H 90".
     std::string rowName(int row) const override;
     std::string columnName(int column) const override;
+    bool tellsPlaces() const override { return true; }
 
     std::string read(int row, int column) const override;
     std::optional<MessageBox> check(int row, int column, std::string_view text) const override;
