@@ -16,10 +16,10 @@ namespace {
 /// The palette's colour for links, or one that is read where that is as dark as the ground.
 QColor linkColour(const QPalette &palette)
 {
-    constexpr int kDark = 128;
+    constexpr int kDark = 100;
     constexpr float kShareOfText = 0.6F;
     const QColor link = palette.color(QPalette::Link);
-    const bool isLost = palette.color(QPalette::Base).lightness() < kDark && link.lightness() <= kDark;
+    const bool isLost = qGray(palette.color(QPalette::Base).rgb()) < kDark && qGray(link.rgb()) < kDark;
     return isLost ? mixedColour(palette.color(QPalette::Text), link, kShareOfText) : link;
 }
 
