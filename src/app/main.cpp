@@ -6,6 +6,7 @@
 
 #include "app/PlatformChoice.h"
 #include "app/StartUp.h"
+#include "controls/OutlinedStyle.h"
 
 namespace {
 
@@ -39,5 +40,6 @@ int main(int argc, char **argv)
     int nameAlone = 1;
     QApplication app(nameAlone, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    penwright::OutlinedStyle::install();
     return penwright::runTool(commandLine, folder);
 }

@@ -21,6 +21,12 @@ inline QColor quietText(const QPalette &palette, QPalette::ColorRole text = QPal
     return mixedColour(palette.color(text), palette.color(ground), 0.70F);
 }
 
+/// The colour of lines around pictures and lists, in any palette.
+inline QColor frameColour(const QPalette &palette)
+{
+    return mixedColour(palette.color(QPalette::Text), palette.color(QPalette::Base), 0.40F);
+}
+
 /// The colour of thin lines between values, in any palette.
 inline QColor lineColour(const QPalette &palette)
 {

@@ -4,6 +4,7 @@
 #include <QAccessibleApplication>
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QTimer>
 #include <QWindow>
 
 namespace penwright {
@@ -61,6 +62,18 @@ QAccessibleInterface *answer(const QString &className, QObject *object)
     return new QAccessibleWidget(static_cast<QWidget *>(object), static_cast<QAccessible::Role>(role.toInt()));
 }
 
+/// Whether there is a current item in a view that has the focus.
+bool tellItemWithFocus(QAbstractItemView &view)
+{
+    const QModelIndex current = view.currentIndex();
+    QAccessibleTableInterface *table = QAccessible::queryAccessibleInterface(&view)->tableInterface();
+    if (!current.isValid() || !view.hasFocus() || !table)
+        return false;
+    QAccessibleEvent event(table->cellAt(current.row(), current.column()), QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+    return true;
+}
+
 }  // namespace
 
 void setScreenReaderRole(QWidget &widget, QAccessible::Role role)
@@ -80,16 +93,27 @@ void tellCurrentItem(QAbstractItemView &view)
 {
     if (!QAccessible::isActive())
         return;
-    const auto tell = [&view] {
-        const QModelIndex current = view.currentIndex();
-        QAccessibleTableInterface *table = QAccessible::queryAccessibleInterface(&view)->tableInterface();
-        if (!current.isValid() || !view.hasFocus() || !table)
-            return;
-        QAccessibleEvent event(table->cellAt(current.row(), current.column()), QAccessible::Focus);
-        QAccessible::updateAccessibility(&event);
-    };
     // The view itself is told once it has taken the focus.
-    QMetaObject::invokeMethod(&view, tell, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &view, [&view] { tellItemWithFocus(view); }, Qt::QueuedConnection);
+}
+
+void tellFocusSoon(QWidget &window)
+{
+    constexpr auto kOthersTime = std::chrono::milliseconds(300);
+    if (!QAccessible::isActive())
+        return;
+    QTimer::singleShot(kOthersTime, &window, [&window] {
+        QWidget *field = window.focusWidget();
+        if (!field || !window.isActiveWindow() || QApplication::activePopupWidget() ||
+            QApplication::activeModalWidget())
+            return;
+        auto *view = qobject_cast<QAbstractItemView *>(field);
+        if (view && tellItemWithFocus(*view))
+            return;
+        QAccessibleEvent event(field, QAccessible::Focus);
+        QAccessible::updateAccessibility(&event);
+    });
 }
 
 }  // namespace penwright

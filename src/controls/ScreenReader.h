@@ -21,4 +21,9 @@ void describe(QWidget &widget, const QString &description);
 /// Tells the current item of a view that has just got the focus, of which the toolkit tells the view alone.
 void tellCurrentItem(QAbstractItemView &view);
 
+/// Tells what has the focus in a window that has become active, once more and a little later: where a dialog closes
+/// over a window in another program's, that program's own window is told as active on the way, and would have the last
+/// word.
+void tellFocusSoon(QWidget &window);
+
 }  // namespace penwright

@@ -11,6 +11,19 @@
 #include "controls/ScreenReader.h"
 
 namespace penwright {
+namespace {
+
+/// The palette's colour for links, or one that is read where that is as dark as the ground.
+QColor linkColour(const QPalette &palette)
+{
+    constexpr int kDark = 100;
+    constexpr float kShareOfText = 0.6F;
+    const QColor link = palette.color(QPalette::Link);
+    const bool isLost = qGray(palette.color(QPalette::Base).rgb()) < kDark && qGray(link.rgb()) < kDark;
+    return isLost ? mixedColour(palette.color(QPalette::Text), link, kShareOfText) : link;
+}
+
+}  // namespace
 
 WrappedList::WrappedList(QWidget *parent) : QListWidget(parent)
 {
@@ -88,7 +101,7 @@ ItemInk paintItemGround(QPainter &painter, const QStyleOptionViewItem &option)
     QApplication::style()->drawControl(QStyle::CE_ItemViewItem, &ground, &painter, ground.widget);
     if (const QColor selected = ground.palette.color(QPalette::HighlightedText); isCurrent)
         return {selected, selected, selected};
-    return {ground.palette.color(QPalette::Text), quietText(ground.palette), ground.palette.color(QPalette::Link)};
+    return {ground.palette.color(QPalette::Text), quietText(ground.palette), linkColour(ground.palette)};
 }
 
 }  // namespace penwright

@@ -10,7 +10,7 @@ int GridLinesStyle::styleHint(StyleHint hint, const QStyleOption *option, const 
                               QStyleHintReturn *returned) const
 {
     if (hint != SH_Table_GridLineColor || !widget)
-        return QProxyStyle::styleHint(hint, option, widget, returned);
+        return OutlinedStyle::styleHint(hint, option, widget, returned);
     return static_cast<int>(lineColour(widget->palette()).rgba());
 }
 

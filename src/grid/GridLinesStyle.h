@@ -1,11 +1,11 @@
 #pragma once
 
-#include <QProxyStyle>
+#include "controls/OutlinedStyle.h"
 
 namespace penwright {
 
 /// Draws the lines between cells as visibly on dark as on light; the desktop's own colour may be that of the cells.
-class GridLinesStyle : public QProxyStyle {
+class GridLinesStyle : public OutlinedStyle {
     Q_OBJECT
 
 public:

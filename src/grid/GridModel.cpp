@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/Blanks.h"
 #include "grid/SourceEdits.h"
 
 namespace penwright {
@@ -133,9 +134,20 @@ QVariant GridModel::data(const QModelIndex &index, int role) const
 {
     if (index.isValid() && role == Qt::AccessibleDescriptionRole && isReadOnly(index.column()))
         return QStringLiteral("Read-only");
+    if (index.isValid() && role == Qt::AccessibleDescriptionRole && m_source->tellsPlaces())
+        return QString(cellName(index) + ": " + spokenText(index));
+    if (index.isValid() && role == Qt::AccessibleTextRole)
+        return spokenText(index);
     if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole))
         return {};
     return QString::fromStdString(read(index.row() + 1, index.column()));
+}
+
+/// What a screen reader says of a cell, which would be silent about blanks.
+QString GridModel::spokenText(const QModelIndex &cell) const
+{
+    const std::string text = read(cell.row() + 1, cell.column());
+    return withoutOuterBlanks(text).empty() ? QStringLiteral("blank") : QString::fromStdString(text);
 }
 
 bool GridModel::setData(const QModelIndex &index, const QVariant &value, int)

@@ -66,6 +66,7 @@ signals:
 private:
     int shownRows() const { return m_source->rowCount() + (m_source->canAppend() ? 1 : 0); }
     std::string read(int row, int column) const;
+    QString spokenText(const QModelIndex &cell) const;
     void write(const GridEdit &edit);
     void writeTable(GridContent &content);
     void tellCells(const std::vector<GridText> &cells);

@@ -46,12 +46,19 @@ public:
     virtual std::string rowName(int row) const { return row > rowCount() ? "New row" : "Row " + std::to_string(row); }
     virtual std::string columnName(int column) const { return columnCaption(column); }
 
+    /// Whether each cell tells a screen reader its row and column too: readers go through a whole row when they come to
+    /// it, and do not say which of its values one is at.
+    virtual bool tellsPlaces() const { return false; }
+
     /// The text that a cell shows.
     virtual std::string read(int row, int column) const = 0;
 
     /// Why a text cannot go into the cell of a row and a column, nothing when it can. The row may lie behind the
     /// last one where rows can be appended.
     virtual std::optional<MessageBox> check(int, int, std::string_view) const { return std::nullopt; }
+
+    /// What is said under the grid of a text that `check` refuses with a message that cannot say it; "" for nothing.
+    virtual std::string hintOfRefused(std::string_view) const { return {}; }
 
     /// What of a text would be kept, for a source that keeps less than all; nothing of it appends no row.
     virtual std::string_view kept(std::string_view text) const { return text; }

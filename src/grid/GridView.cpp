@@ -192,7 +192,12 @@ QItemSelectionModel::SelectionFlags GridView::selectionCommand(const QModelIndex
 
 void GridView::currentChanged(const QModelIndex &current, const QModelIndex &previous)
 {
-    QTableView::currentChanged(current, previous);
+    // The table's own routine tells screen readers of the cell too. One that is come to with the grid is told behind
+    // it.
+    if (previous.isValid())
+        QTableView::currentChanged(current, previous);
+    else
+        QAbstractItemView::currentChanged(current, previous);
     viewport()->update();  // the arrow of a cell with choices shows in the current cell alone
     announceCurrent();
 }

@@ -38,8 +38,10 @@ std::optional<RefusedEdit> prepareEdit(GridEdit &edit, GridSource &source)
         if (refused && edit.isWhole)
             return true;
         auto box = source.check(cell.row, cell.column, cell.text);
-        if (box && !refused)
+        if (box && !refused) {
             refused = {cell.row, cell.column, *std::move(box)};
+            edit.hint = source.hintOfRefused(cell.text);
+        }
         return box.has_value();
     };
     std::erase_if(edit.texts, isRefused);

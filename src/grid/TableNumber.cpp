@@ -146,4 +146,15 @@ bool isLikeNumber(std::string_view cell)
                        [cell](const TableReading &signs) { return tableNumber(cell, signs).has_value(); });
 }
 
+std::string_view signAdvice(std::string_view text)
+{
+    return isLikeNumber(text) && !isNumeric(text) ? "The decimal sign is a point, as in 2481.37." : "";
+}
+
+std::string whyNoNumber(std::string_view text)
+{
+    const std::string_view advice = signAdvice(text);
+    return " is not a number." + (advice.empty() ? "" : ' ' + std::string(advice));
+}
+
 }  // namespace penwright

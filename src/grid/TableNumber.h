@@ -2,6 +2,7 @@
 
 #include <array>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "grid/TableReading.h"
@@ -17,5 +18,12 @@ std::optional<double> tableNumber(std::string_view cell, const TableReading &rea
 
 /// Whether a cell is a number with whatever signs.
 bool isLikeNumber(std::string_view cell);
+
+/// What to do with a text that is no number and would be one by other signs, as "2481,37" and "2,481"; "" for any
+/// other.
+std::string_view signAdvice(std::string_view text);
+
+/// What a message says behind a text that is refused because it is no number, with the advice.
+std::string whyNoNumber(std::string_view text);
 
 }  // namespace penwright

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "controls/MixedColour.h"
+#include "controls/OutlinedStyle.h"
 
 namespace penwright {
 
@@ -53,11 +54,12 @@ QString hostStyleSheet(const QPalette &palette)
     const QColor base = palette.color(QPalette::Base);
     const QColor text = palette.color(QPalette::WindowText);
     const bool isDark = base.lightness() < text.lightness();
+    const bool isPlain = addedOutline(palette).has_value();  // fields have hardly a mark but their outline
     const std::pair<const char *, QString> colours[] = {
         {"@window", mix(window, base, 0.6F)},
         {"@base", base.name()},
-        {"@line", mix(text, base, 0.16F)},
-        {"@border", mix(text, base, 0.28F)},
+        {"@line", mix(text, base, isPlain ? 0.45F : 0.16F)},
+        {"@border", mix(text, base, isPlain ? 0.60F : 0.28F)},
         {"@hover", mix(text, base, 0.07F)},
         {"@stripe", mix(text, base, 0.03F)},
         {"@text", text.name()},

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QCursor>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QSplitter>
@@ -38,9 +39,13 @@ constexpr QSize kComfortableSize{1240, 860};
 /// A window less wide has no room for the files beside a tool; one less high, none for the log below it.
 constexpr QSize kRoomy{1000, 800};
 
+/// For the screen that the pointer is on, where window managers open windows.
 QSize startSize()
 {
-    return kComfortableSize.boundedTo(QGuiApplication::primaryScreen()->availableSize() - kFrame);
+    const QScreen *screen = QGuiApplication::screenAt(QCursor::pos());
+    if (!screen)
+        screen = QGuiApplication::primaryScreen();
+    return kComfortableSize.boundedTo(screen->availableSize() - kFrame);
 }
 
 }  // namespace

@@ -6,9 +6,12 @@
 #include <memory>
 #include <QApplication>
 #include <QDir>
+#include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <string_view>
 
+#include "controls/OutlinedStyle.h"
 #include "hostbench/HostWindow.h"
 #include "hostbench/Walk.h"
 
@@ -77,15 +80,28 @@ void choosePlatform()
         qputenv("QT_QPA_PLATFORM", "xcb");
 }
 
-// The toolkit aborts where a platform cannot be loaded.
-void failInsteadOfAborting(QtMsgType type, const QMessageLogContext &, const QString &text)
+// The toolkit aborts where a platform cannot be loaded, and remarks on it first.
+void failInsteadOfAborting(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
+    const bool isPlatformRemark = context.category && std::string_view(context.category) == "qt.qpa.plugin";
     if (type != QtFatalMsg) {
-        std::fprintf(stderr, "%s\n", qPrintable(text));
+        if (!isPlatformRemark)
+            std::fprintf(stderr, "%s\n", qPrintable(text));
         return;
     }
-    fail(text.section('\n', 0, 0));
+    fail(QStringLiteral("%1 (QT_QPA_PLATFORM is \"%2\"%3)")
+             .arg(text.section('\n', 0, 0), qEnvironmentVariable("QT_QPA_PLATFORM"),
+                  qEnvironmentVariableIsEmpty("DISPLAY") ? "; DISPLAY is not set" : ""));
     std::_Exit(1);
+}
+
+/// What a walk that failed may have failed by; "" on a display of X11 alone.
+QString reasonOfTheSession()
+{
+    if (!QGuiApplication::primaryScreen()->name().startsWith("XWAYLAND"))
+        return {};
+    return " (a Wayland session: its compositor may keep the keyboard from a window in another one; "
+           "./run.sh --walk FOLDER walks on a display of its own)";
 }
 
 int walk(penwright::HostWindow &window, const QString &folder)
@@ -95,7 +111,7 @@ int walk(penwright::HostWindow &window, const QString &folder)
     penwright::Walk path(window, folder);
     const QString failure = path.run();
     if (!failure.isEmpty())
-        return fail(failure);
+        return fail(failure + reasonOfTheSession());
     std::printf("The walk made one file and a picture of each page:\n");
     for (const QString &left : path.left())
         std::printf("  %s\n", qPrintable(left));
@@ -142,6 +158,7 @@ int main(int argc, char **argv)
 
     QApplication application(argc, argv);
     QApplication::setStyle("Fusion");
+    penwright::OutlinedStyle::install();
     try {
         return runHost(application, options);
     } catch (const std::exception &error) {

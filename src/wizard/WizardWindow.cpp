@@ -286,6 +286,8 @@ void WizardWindow::changeEvent(QEvent *event)
     QWidget::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
         makePlaceholdersLegible(*this);
+    else if (event->type() == QEvent::ActivationChange && isActiveWindow())
+        tellFocusSoon(*this);
 }
 
 void WizardWindow::closeEvent(QCloseEvent *event)

@@ -62,6 +62,17 @@ AccessibleObject AccessibilityBus::desktop() const
 std::string AccessibilityBus::focus()
 {
     QCoreApplication::processEvents();
+    return focusText();
+}
+
+std::string AccessibilityBus::told()
+{
+    QCoreApplication::processEvents();
+    return m_told;
+}
+
+std::string AccessibilityBus::focusText() const
+{
     if (m_focusPath.isEmpty())
         return {};
     const AccessibleObject object(m_bus, m_focusService, m_focusPath);
@@ -77,8 +88,11 @@ void AccessibilityBus::stateChanged(const QDBusMessage &event)
 {
     if (event.arguments().size() < 2 || event.arguments()[0] != "focused" || event.arguments()[1].toInt() != 1)
         return;
+    const bool isNew = m_focusService != event.service() || m_focusPath != event.path();
     m_focusService = event.service();
     m_focusPath = event.path();
+    if (isNew)
+        m_told += focusText() + "\n";
 }
 
 int AccessibilityBus::changedDescriptions()
@@ -89,8 +103,11 @@ int AccessibilityBus::changedDescriptions()
 
 void AccessibilityBus::propertyChanged(const QDBusMessage &event)
 {
-    if (!event.arguments().isEmpty() && event.arguments()[0] == "accessible-description")
-        ++m_changedDescriptions;
+    if (event.arguments().isEmpty() || event.arguments()[0] != "accessible-description")
+        return;
+    ++m_changedDescriptions;
+    if (event.service() == m_focusService && event.path() == m_focusPath)
+        m_told += "now (" + AccessibleObject(m_bus, m_focusService, m_focusPath).description().toStdString() + ")\n";
 }
 
 }  // namespace penwright::test

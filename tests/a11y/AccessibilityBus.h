@@ -27,16 +27,24 @@ public:
     /// How many descriptions have changed, each of which may be spoken.
     int changedDescriptions();
 
+    /// What a reader would say from now on, a line for each: what gets the focus, once, as `focus` tells it, and what
+    /// is new in the description of what has it, as `now (description)`.
+    void beginToTell() { m_told.clear(); }
+    std::string told();
+
 private slots:
     void stateChanged(const QDBusMessage &event);
     void propertyChanged(const QDBusMessage &event);
 
 private:
+    std::string focusText() const;
+
     Process m_session;
     QDBusConnection m_bus;
     QString m_focusService;
     QString m_focusPath;
     int m_changedDescriptions = 0;
+    std::string m_told;
 };
 
 }  // namespace penwright::test

@@ -113,6 +113,46 @@ TEST_F(ReadRun, everyPageReadsAsItLooks)
     expectUnloaded();
 }
 
+/// A step of a walk: the keys pressed and what is told of it.
+struct Step {
+    std::vector<std::string> keys;
+    std::string told;
+};
+
+/// The steps kept in a file: a line "> " with keys, and below it what is told.
+std::vector<Step> stepsOf(const std::string &file)
+{
+    std::vector<Step> steps;
+    std::istringstream lines(expected(file));
+    for (std::string line; std::getline(lines, line);) {
+        if (!line.starts_with("> ")) {
+            if (!steps.empty())
+                steps.back().told += line + "\n";
+            continue;
+        }
+        std::istringstream words(line.substr(2));
+        steps.emplace_back();
+        for (std::string key; words >> key;)
+            steps.back().keys.push_back(key);
+    }
+    return steps;
+}
+
+TEST_F(ReadRun, aWalkOverAllPagesIsToldAsItIsKept)
+{
+    ASSERT_TRUE(tells("text \"Number Of Lamps\" = \"\""));
+    const std::vector<Step> steps = stepsOf("walk");
+    ASSERT_GT(steps.size(), 50U);
+    for (const Step &step : steps) {
+        bus.beginToTell();
+        typeKeys(step.keys);
+        waitUntil([&] { return bus.told() == step.told; }, 20s);
+        ASSERT_EQ(bus.told(), step.told) << "at " << testing::PrintToString(step.keys);
+    }
+    send("CLOSE");
+    expectUnloaded();
+}
+
 TEST_F(ReadRun, focusIsToldWhereverItGoes)
 {
     EXPECT_TRUE(tells("text \"Number Of Lamps\" = \"\""));
@@ -124,7 +164,7 @@ TEST_F(ReadRun, focusIsToldWhereverItGoes)
     EXPECT_TRUE(tells("list item \"Rectangle w/ Luminous Sides\""));
     EXPECT_TRUE(reads(kCaptions[0], "page-1-shapes"));
     typeKeys({"Return"});
-    EXPECT_TRUE(tells("combo box \"Rectangle w/ Luminous Sides\""));
+    EXPECT_TRUE(tells("combo box \"Rectangle w/ Luminous Sides\" (Rectangle w/ Luminous Sides)"));
     type("\t1\t1\t1");
     typeKeys({"alt+n"});
     EXPECT_TRUE(tells("cell \"IESNA:LM-63-2002\""));
@@ -137,13 +177,13 @@ TEST_F(ReadRun, focusIsToldWhereverItGoes)
     typeKeys({"Escape"});
     EXPECT_TRUE(tells("cell \"[TEST]\""));
     typeKeys({"Right"});
-    EXPECT_TRUE(tells("cell \"\""));
+    EXPECT_TRUE(tells("cell \"blank\""));
     const int before = bus.changedDescriptions();
     type("Report 7");
     EXPECT_TRUE(tells("text \"Row 2, Description\" = \"Report 7\""));
     EXPECT_EQ(bus.changedDescriptions(), before);
     typeKeys({"Return"});
-    EXPECT_TRUE(tells("cell \"\""));
+    EXPECT_TRUE(tells("cell \"blank\""));
     EXPECT_EQ(bus.changedDescriptions(), before + 1);
     typeKeys({"Up"});
     EXPECT_TRUE(tells("cell \"Report 7\""));

@@ -139,18 +139,47 @@ TEST_F(Browser, aPageThatCannotBeShownSaysSo)
               "A page of the help file cannot be read: huge.html in /help/x.chm: it is too large.");
 }
 
-TEST_F(Browser, staysLightInADarkDesktop)
+TEST_F(Browser, followsADarkDesktopAndItsPicturesStay)
 {
     const QPalette before = QApplication::palette();
+    const std::string head = "<html><head><link rel=stylesheet href=\"own.css\"></head><body bgcolor=\"white\">";
+    show({{"/page.html", head + "<p>text</p><h1>head</h1>" + imageTag("red.png") + "</body></html>"},
+          {"/own.css", "h1 { background-color: #e4eaf2; } p { color: black; }"},
+          {"/red.png", pictureOf(Qt::red)}},
+         "page.html");
+    EXPECT_TRUE(shows(Qt::white));
+    EXPECT_TRUE(shows(QColor(0xe4, 0xea, 0xf2)));
     QPalette dark(QColor(0x20, 0x20, 0x20));
     dark.setColor(QPalette::Text, Qt::white);
     dark.setColor(QPalette::Base, Qt::black);
     QApplication::setPalette(dark);
-    show({{"/page.html", "<p>text</p>"}}, "page.html");
-    EXPECT_TRUE(shows(Qt::white));
-    EXPECT_FALSE(shows(Qt::black));
-    EXPECT_EQ(browser.palette().color(QPalette::Text), QColor(0x1F, 0x23, 0x28));
+    browser.followPalette();
+    EXPECT_TRUE(shows(Qt::black));
+    EXPECT_FALSE(shows(QColor(0xe4, 0xea, 0xf2)));
+    EXPECT_TRUE(shows(Qt::red));
+    const QColor ink = browser.document()->firstBlock().begin().fragment().charFormat().foreground().color();
+    EXPECT_EQ(ink, QColor(Qt::white));
     QApplication::setPalette(before);
+    browser.followPalette();
+    EXPECT_TRUE(shows(Qt::white));
+}
+
+TEST_F(Browser, isReadByTheArrows)
+{
+    show({{"/page.html",
+           "<p>First line.</p><p>Second line.</p><h2><a name=\"low\">Low</a></h2>" + std::string(9000, 'x')}},
+         "page.html");
+    browser.setFocus();
+    const auto line = [this] { return browser.textCursor().block().text().toStdString(); };
+    EXPECT_EQ(line(), "First line.");
+    QTest::keyClick(&browser, Qt::Key_Down);
+    EXPECT_EQ(line(), "Second line.");
+    QTest::keyClick(&browser, Qt::Key_Right);
+    EXPECT_EQ(browser.textCursor().positionInBlock(), 1);
+    QTest::keyClick(&browser, Qt::Key_Home, Qt::ControlModifier);
+    EXPECT_EQ(line(), "First line.");
+    browser.showPlace({"page.html", "low"});
+    EXPECT_EQ(line(), "Low");
 }
 
 TEST_F(Browser, followsLinksWithinTheFileAlone)

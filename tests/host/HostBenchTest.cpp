@@ -188,13 +188,23 @@ TEST(HostBench, runsOnX11WhereWaylandIsExported)
     EXPECT_EQ(host.waitForEnd(), 1);
 }
 
-TEST(HostBench, aPlatformThatCannotBeLoadedIsSaidWithoutAnAbort)
+TEST(HostBench, aPlatformThatCannotBeLoadedIsSaidInOneLineWithoutAnAbort)
 {
     const test::TempFolder home;
-    Process host({HOSTBENCH}, onPlatform("nonesuch", environment(":no-display", home.path())), Process::Errors::Joined);
-    const std::string said = host.readAll();
-    EXPECT_NE(said.find("hostbench: This application failed to start"), std::string::npos) << said;
-    EXPECT_EQ(host.waitForEnd(), 1);
+    struct {
+        const char *platform;
+        const char *display;
+        const char *said;
+    } const kCases[]{{"nonesuch", ":no-display", " (QT_QPA_PLATFORM is \"nonesuch\")\n"},
+                     {"wayland-nonesuch", "", " (QT_QPA_PLATFORM is \"wayland-nonesuch\"; DISPLAY is not set)\n"}};
+    for (const auto &[platform, display, end] : kCases) {
+        Process host({HOSTBENCH}, onPlatform(platform, environment(display, home.path())), Process::Errors::Joined);
+        const std::string said = host.readAll();
+        EXPECT_TRUE(said.starts_with("hostbench: This application failed to start")) << said;
+        EXPECT_TRUE(said.ends_with(end)) << said;
+        EXPECT_EQ(std::count(said.begin(), said.end(), '\n'), 1) << said;
+        EXPECT_EQ(host.waitForEnd(), 1);
+    }
 }
 
 TEST(HostBench, unknownOptionsGetTheUsage)

@@ -41,7 +41,7 @@ TEST_F(ReadGrid, cellsOfTiltAreToldByRowAndColumn)
 TEST_F(ReadGrid, cellsOfKeywordsAreToldByRowAndColumn)
 {
     window->ShowPage(kKeywordPage);
-    EXPECT_EQ(cellsOf(find("keyGrid"), 1, 2), "Row 1 | Keyword | IESNA:LM-63-2002\nRow 1 | Description | \n");
+    EXPECT_EQ(cellsOf(find("keyGrid"), 1, 2), "Row 1 | Keyword | IESNA:LM-63-2002\nRow 1 | Description | blank\n");
     QAccessibleTableInterface *table = QAccessible::queryAccessibleInterface(find("keyGrid"))->tableInterface();
     EXPECT_EQ(takeName(table->cellAt(9, 0)->tableCellInterface()->rowHeaderCells()), "New row");
 }
@@ -57,8 +57,8 @@ TEST_F(ReadGrid, cellsOfCandelasAreToldByTheirAngles)
     find<QAbstractButton>("cmdNext30")->click();
     fillPageFive();
     EXPECT_EQ(cellsOf(find("cdaGridCd"), 2, 2),
-              "V 0 | Vertical angle | 0 (Read-only)\nV 0 | H 0 | 9\n"
-              "V 10 | Vertical angle | 10 (Read-only)\nV 10 | H 0 | 8\n");
+              "V 0 | Vertical angle | 0 (Read-only)\nV 0 | H 0 | 9 (V 0, H 0: 9)\n"
+              "V 10 | Vertical angle | 10 (Read-only)\nV 10 | H 0 | 8 (V 10, H 0: 8)\n");
     find<GridView>("cdaGridCd")->goTo(2, 1);
     typeText("5");
     EXPECT_EQ(QApplication::focusWidget()->accessibleName(), "V 10, H 0");

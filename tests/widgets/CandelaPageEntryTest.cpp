@@ -41,6 +41,19 @@ INSTANTIATE_TEST_SUITE_P(Texts, CandelaPageRefusal,
                              {"9999999", "[PenwrightPE|0] candel values must be less than 10 million."},
                          }));
 
+TEST_F(CandelaPageEntry, decimalCommaIsExplainedUnderTheGrid)
+{
+    showTable({0, 90}, {0, 90});
+    enterValue(1, 1, "2481,37");
+    EXPECT_EQ(dialogs.transcript, "[Invalid entry|0] Not a number I know.\n");
+    EXPECT_TRUE(find("cdaHint")->isVisible());
+    EXPECT_EQ(find<QLabel>("cdaHint")->text(), "The decimal sign is a point, as in 2481.37.");
+    enterValue(1, 1, "abc");
+    EXPECT_FALSE(find("cdaHint")->isVisible());
+    enterValue(1, 1, "2481.37");
+    EXPECT_EQ(cell(1, 1), "2481.37");
+}
+
 TEST_F(CandelaPageEntry, valueThatReadsAsTheCellDoesIsTakenAllTheSame)
 {
     ASSERT_NE(12.34568F, 12.34567891F);

@@ -88,9 +88,9 @@ INSTANTIATE_TEST_SUITE_P(
         Environment{"NotThere", {{"DISPLAY", ":98765"}}, "PenwrightPE: cannot open the X display \":98765\".\n"},
         Environment{"UnknownPlatform",
                     {{"QT_QPA_PLATFORM", "nonesuch"}},
-                    "qt.qpa.plugin: Could not find the Qt platform plugin \"nonesuch\" in \"\"\n"
                     "PenwrightPE: This application failed to start because no Qt platform plugin could be "
-                    "initialized. Reinstalling the application may fix this problem.\n"}),
+                    "initialized. Reinstalling the application may fix this problem. (QT_QPA_PLATFORM is "
+                    "\"nonesuch\")\n"}),
     [](const auto &row) { return row.param.name; });
 
 TEST(ChosenPlatform, isKept)

@@ -1,5 +1,6 @@
 #include "help/window/HelpBrowser.h"
 
+#include <QApplication>
 #include <QBuffer>
 #include <QImageReader>
 #include <QRegularExpression>
@@ -7,6 +8,7 @@
 #include <QWheelEvent>
 #include <utility>
 
+#include "help/window/HelpColours.h"
 #include "help/window/HelpPageLimits.h"
 #include "platform/RunTimeError.h"
 
@@ -21,21 +23,6 @@ constexpr int kLargestZoom = 20;
 constexpr double kTextSize = 12;  ///< points, of what a page gives no size
 
 constexpr const char *kScheme = "help";
-
-QPalette lightPalette()
-{
-    QPalette palette;
-    palette.setColor(QPalette::Base, Qt::white);
-    palette.setColor(QPalette::Window, Qt::white);
-    palette.setColor(QPalette::AlternateBase, QColor(0xF3, 0xF5, 0xF8));
-    palette.setColor(QPalette::Text, QColor(0x1F, 0x23, 0x28));
-    palette.setColor(QPalette::WindowText, QColor(0x1F, 0x23, 0x28));
-    palette.setColor(QPalette::Link, QColor(0x0B, 0x57, 0xA4));
-    palette.setColor(QPalette::LinkVisited, QColor(0x0B, 0x57, 0xA4));
-    palette.setColor(QPalette::Highlight, QColor(0x0B, 0x57, 0xA4));
-    palette.setColor(QPalette::HighlightedText, Qt::white);
-    return palette;
-}
 
 /// The toolkit takes a style sheet only where its type is told, which pages need not do.
 QString withStyleTypes(QString html)
@@ -86,7 +73,8 @@ HelpBrowser::HelpBrowser(QWidget *parent) : QTextBrowser(parent)
 {
     setOpenLinks(false);
     setUndoRedoEnabled(false);
-    setPalette(lightPalette());
+    setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);  // a caret reads by the arrows
+    setPalette(helpPalette(QApplication::palette()));
     QFont larger = font();
     larger.setPointSizeF(std::max(kTextSize, larger.pointSizeF() * 1.15));
     setFont(larger);
@@ -115,6 +103,8 @@ void HelpBrowser::showPlace(const HelpPlace &place)
 void HelpBrowser::onSource(const QUrl &url)
 {
     m_place = placeOf(url).value_or(HelpPlace());
+    if (!m_place.anchor.empty())
+        setTextCursor(cursorForPosition({}));  // who reads by the caret begins where the page is shown
     emit placeChanged();
 }
 
@@ -182,6 +172,16 @@ void HelpBrowser::wheelEvent(QWheelEvent *event)
     event->accept();
 }
 
+void HelpBrowser::followPalette()
+{
+    setPalette(helpPalette(QApplication::palette()));
+    if (m_place.topic.empty())
+        return;
+    const int top = verticalScrollBar()->value();
+    reload();
+    verticalScrollBar()->setValue(top);
+}
+
 void HelpBrowser::follow(const QUrl &url)
 {
     if (isWebLink(url))
@@ -205,7 +205,9 @@ QVariant HelpBrowser::loadResource(int type, const QUrl &name)
     const std::string link = linkOf(url);
     const auto bytes = m_file && !link.empty() ? m_file->object(link) : std::nullopt;
     // An empty variant would send the toolkit to the disk.
-    return bytes ? QVariant(QString::fromStdString(m_file->decoded(*bytes))) : QVariant(QByteArray());
+    if (!bytes)
+        return QByteArray();
+    return withColoursOf(QApplication::palette(), QString::fromStdString(m_file->decoded(*bytes)));
 }
 
 QString HelpBrowser::pageText(const QUrl &url)
@@ -215,8 +217,9 @@ QString HelpBrowser::pageText(const QUrl &url)
     const auto place = placeOf(url);
     try {
         const std::string text = place ? m_file->page(place->topic) : std::string();
-        return isShowable(text) ? withStyleTypes(QString::fromStdString(text))
-                                : "<p>This page is too large to be shown.</p>";
+        if (!isShowable(text))
+            return "<p>This page is too large to be shown.</p>";
+        return withColoursOf(QApplication::palette(), withStyleTypes(QString::fromStdString(text)));
     } catch (const RunTimeError &error) {
         return "<p>" + QString::fromStdString(error.description()).toHtmlEscaped() + "</p>";
     }

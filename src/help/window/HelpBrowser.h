@@ -6,8 +6,8 @@
 
 namespace penwright {
 
-/// One page of a help file on white, whatever the palette of the desktop. Pages, pictures and style sheets come from
-/// the help file alone: nothing is read from disk or net.
+/// One page of a help file, on white or in the colours of a dark desktop, with a caret to read it by. Pages, pictures
+/// and style sheets come from the help file alone: nothing is read from disk or net.
 class HelpBrowser : public QTextBrowser {
     Q_OBJECT
 
@@ -29,6 +29,9 @@ public:
 
     /// Scrolls to the mark behind the one reached last, from the last one on to the first. False without marks.
     bool showNextMark();
+
+    /// Takes over the colours of the palette.
+    void followPalette();
 
     /// Makes letters larger or smaller by so many steps, within bounds.
     void zoomBy(int steps);

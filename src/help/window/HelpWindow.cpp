@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -14,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include "help/window/HelpBrowser.h"
+#include "help/window/HelpColours.h"
 #include "help/window/HelpContents.h"
 #include "help/window/WebQuestion.h"
 
@@ -27,7 +29,7 @@ constexpr int kMostFound = 200;
 
 /// Shows which pane has the focus; the toolkit's frames look the same with it and without.
 constexpr const char *kFrames =
-    "QTreeWidget, QListWidget, QTextBrowser { border: 1px solid palette(mid); }"
+    "QTreeWidget, QListWidget, QTextBrowser { border: 1px solid %1; }"
     "QTreeWidget:focus, QListWidget:focus, QTextBrowser:focus"
     "{ border: 1px solid palette(highlight); }";
 
@@ -88,8 +90,8 @@ HelpWindow::HelpWindow()
 {
     setObjectName("frmHelp");
     setAttribute(Qt::WA_QuitOnClose, false);
-    setStyleSheet(kFrames);
     makeLayout();
+    followPalette();
     connectAll();
     resize(kPreferredSize.boundedTo(screen()->availableSize() * 9 / 10));
 }
@@ -248,6 +250,22 @@ void HelpWindow::showPlace(const HelpPlace &place)
     activateWindow();
     if (wasHidden)
         m_wbrTopic->setFocus();
+}
+
+bool HelpWindow::event(QEvent *event)
+{
+    const bool isDone = QWidget::event(event);
+    if (event->type() == QEvent::ApplicationPaletteChange)
+        followPalette();
+    return isDone;
+}
+
+void HelpWindow::followPalette()
+{
+    const QString frames = QString(kFrames).arg(paneLine(QApplication::palette()).name());
+    if (frames != styleSheet())
+        setStyleSheet(frames);
+    m_wbrTopic->followPalette();
 }
 
 void HelpWindow::onPageChanged()

@@ -41,6 +41,7 @@ public:
     void showPlace(const HelpPlace &place);
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -52,6 +53,7 @@ private:
     void connectAll();
     void addKey(const QKeySequence &key, const std::function<void()> &action);
 
+    void followPalette();
     void onPageChanged();
     void goHome();
     void focusNextPane();

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "core/NumberText.h"
+#include "grid/TableNumber.h"
 #include "pages/candela/HeldCandela.h"
 #include "pages/candela/PastedValues.h"
 #include "pages/candela/PasteHints.h"
@@ -72,34 +73,47 @@ GridEdit CandelaTable::PasteCandelaTable(std::string_view text)
     const int needed = CandelaCells().rows() * CandelaCells().columns() - 1;
     if (highest != needed) {
         edit.refused = {.box = {.text = generalText(highest) + " values read; need " + generalText(needed)}};
+        edit.hint = wholeTableHint(values, CandelaCells().columns(), CandelaCells().rows());
         return edit;
     }
     OneBasedTable<CandelaCell> pasted = CandelaCells();
-    if (const int count = fill(pasted, values, edit.refused); count > 0) {
-        edit.hint = arrangementHint(values, CandelaCells().rows());
-        if (edit.refused)
-            edit.hint = joinedHints(edit.hint, boundaryHint(cellName(edit.refused->column, edit.refused->row)));
+    if (const int count = fill(pasted, values, edit); count > 0)
         edit.content = m_numbers.withFirst(std::move(pasted), count);
-    }
     return edit;
 }
 
-/// Puts the values into the cells, up to one that is no number; how many that were.
-int CandelaTable::fill(OneBasedTable<CandelaCell> &cells, PastedValues &values,
-                       std::optional<RefusedEdit> &refused) const
+/// Puts the values into the cells, up to one that is no number, and says what is to be said of them; how many that
+/// were.
+int CandelaTable::fill(OneBasedTable<CandelaCell> &cells, PastedValues &values, GridEdit &edit) const
 {
+    LostThousands lost(cells.rows(), cells.rows() * cells.columns());
     for (int v = 1; v <= cells.columns(); ++v)
         for (int h = 1; h <= cells.rows(); ++h) {
             const std::string_view value = values.next();
             try {
                 cells(h, v) = toSingle(value);
             } catch (const RunTimeError &) {
-                const std::string why = pasteRefusal(cellName(h, v), value, h == 1 && v == 1);
-                refused = {v, h, {.text = why, .title = m_title}};
-                return (v - 1) * cells.rows() + h - 1;
+                const int count = (v - 1) * cells.rows() + h - 1;
+                const std::string cell = cellName(h, v);
+                edit.refused = {v, h, {.text = pasteRefusal(cell, value, count == 0), .title = m_title}};
+                if (count > 0)
+                    edit.hint = joinedHints(arrangementHint(values, cells.rows()), boundaryHint(cell));
+                edit.hint = joinedHints(edit.hint, otherSignsHint(value));
+                return count;
             }
+            lost.look(value);
         }
+    edit.hint = joinedHints(arrangementHint(values, cells.rows()), lostThousandsHint(cells, lost.jump(cells)));
     return cells.rows() * cells.columns();
+}
+
+std::string CandelaTable::lostThousandsHint(const OneBasedTable<CandelaCell> &cells,
+                                            const std::optional<LostThousands::Jump> &jump) const
+{
+    if (!jump)
+        return {};
+    const auto [low, beside] = *jump;
+    return thousandsHint(textOf(cells(low.h, low.v)), cellName(low.h, low.v), textOf(cells(beside.h, beside.v)));
 }
 
 GridEdit CandelaTable::paste(const GridBlock &, std::string_view text, const std::string &)
@@ -191,6 +205,11 @@ std::optional<MessageBox> CandelaTable::check(int, int, std::string_view text) c
     if (!(value < kRefusedFrom))
         return MessageBox{.text = "candel values must be less than 10 million."};
     return std::nullopt;
+}
+
+std::string CandelaTable::hintOfRefused(std::string_view text) const
+{
+    return std::string(signAdvice(text));
 }
 
 std::unique_ptr<GridContent> CandelaTable::contentAfter(const GridEdit &edit)

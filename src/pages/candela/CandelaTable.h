@@ -10,6 +10,7 @@
 #include "grid/GridSource.h"
 #include "pages/candela/CandelaNumbers.h"
 #include "pages/candela/CandelaState.h"
+#include "pages/candela/LostThousands.h"
 
 namespace penwright {
 
@@ -49,7 +50,8 @@ public:
     /// values than the table has changes nothing; both numbers in that message are one less than the counts, on
     /// purpose. A text that is no number, or is beyond a single, ends the paste: what stands before it is pasted.
     /// The limits of typed values do not hold here; negative ones are told when the page is left. Values in lines of
-    /// another length than the table's, and the cell that the new ones end before, are hinted at.
+    /// another length than the table's, thousands that were lost, the cell that the new ones end before, and what a
+    /// whole table needs, are hinted at.
     GridEdit PasteCandelaTable(std::string_view text);
 
     /// The angles of a data cell, in degrees, and where the table has them.
@@ -70,9 +72,11 @@ public:
     /// The angles, in degrees: "V 30" and "H 90".
     std::string rowName(int row) const override;
     std::string columnName(int column) const override;
+    bool tellsPlaces() const override { return true; }
 
     std::string read(int row, int column) const override;
     std::optional<MessageBox> check(int row, int column, std::string_view text) const override;
+    std::string hintOfRefused(std::string_view text) const override;
     std::unique_ptr<GridContent> contentAfter(const GridEdit &edit) override;
 
     /// The rows as lines: blanks are empty, singles and doubles told apart. Nothing before there is a table.
@@ -94,7 +98,9 @@ public:
 private:
     const PhotometricRecord *record() const;
     bool isCell(int row, int column) const;
-    int fill(OneBasedTable<CandelaCell> &cells, PastedValues &values, std::optional<RefusedEdit> &refused) const;
+    int fill(OneBasedTable<CandelaCell> &cells, PastedValues &values, GridEdit &edit) const;
+    std::string lostThousandsHint(const OneBasedTable<CandelaCell> &cells,
+                                  const std::optional<LostThousands::Jump> &jump) const;
     std::string cellName(int h, int v) const;
 
     ToolState &m_state;

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <QPainter>
 
+#include "controls/MixedColour.h"
 #include "controls/ScreenReader.h"
 #include "platform/qt/QtText.h"
 
@@ -70,7 +71,7 @@ void ShapeSketchView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(palette().color(QPalette::Mid));
+    painter.setPen(frameColour(palette()));
     painter.setBrush(palette().base());
     painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 

@@ -2,6 +2,7 @@
 
 #include "core/NumberText.h"
 #include "grid/HeldCells.h"
+#include "grid/TableNumber.h"
 
 namespace penwright {
 
@@ -67,7 +68,7 @@ std::optional<MessageBox> TiltTable::check(int row, int column, std::string_view
     const std::string cell = "Row " + std::to_string(row) + ", " + columnCaption(column) + ": ";
     const auto refuse = [&](const std::string &why) { return MessageBox{.text = cell + why, .title = m_title}; };
     if (!isNumeric(text))
-        return refuse('"' + std::string(text) + "\" is not a number.");
+        return refuse("\"" + std::string(text) + "\"" + whyNoNumber(text));
     try {
         static_cast<void>(toSingle(text));
         return std::nullopt;

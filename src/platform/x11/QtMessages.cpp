@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <QString>
 #include <QtGlobal>
+#include <string_view>
 
 namespace penwright {
 namespace {
@@ -17,12 +18,20 @@ bool isTransientParentRemark(const QString &text)
     return text.startsWith("QWidgetWindow(") && text.endsWith(" must be a top level window.");
 }
 
+// What is said of each platform that cannot be loaded, before the one line that ends the program.
+bool isPlatformRemark(const QMessageLogContext &context)
+{
+    return context.category && std::string_view(context.category) == "qt.qpa.plugin";
+}
+
 void filterMessage(QtMsgType type, const QMessageLogContext &context, const QString &text)
 {
-    if (type == QtWarningMsg && isTransientParentRemark(text))
+    if (type == QtWarningMsg && (isTransientParentRemark(text) || isPlatformRemark(context)))
         return;
     if (type == QtFatalMsg) {
-        std::fprintf(stderr, "PenwrightPE: %s\n", qPrintable(text.section('\n', 0, 0)));
+        std::fprintf(stderr, "PenwrightPE: %s (QT_QPA_PLATFORM is \"%s\"%s)\n", qPrintable(text.section('\n', 0, 0)),
+                     qgetenv("QT_QPA_PLATFORM").constData(),
+                     qEnvironmentVariableIsEmpty("DISPLAY") ? "; DISPLAY is not set" : "");
         _exit(1);
     }
     previousHandler(type, context, text);

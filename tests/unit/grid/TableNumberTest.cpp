@@ -128,5 +128,33 @@ TEST(TableLines, quotesHoldSeparatorsAndLineEnds)
     EXPECT_EQ(linesText("\"a,b\nc", TableSeparator::Comma), "1|\"a|b\n2|c\n");
 }
 
+struct AdviceCase {
+    std::string text;
+    bool isAdvised;
+};
+
+class SignAdvice : public testing::TestWithParam<AdviceCase> {};
+
+TEST_P(SignAdvice, isGivenForNumbersByOtherSignsAlone)
+{
+    EXPECT_EQ(whyNoNumber(GetParam().text), GetParam().isAdvised
+                                                ? " is not a number. The decimal sign is a point, as in 2481.37."
+                                                : " is not a number.");
+}
+
+INSTANTIATE_TEST_SUITE_P(Texts, SignAdvice,
+                         testing::ValuesIn(std::vector<AdviceCase>{{"2481,37", true},
+                                                                   {"-,5", true},
+                                                                   {"2.481,37", true},
+                                                                   {"2,481", true},
+                                                                   {"2'481", true},
+                                                                   {"2 481", true},
+                                                                   {"1.234.567", true},
+                                                                   {"2481.37", false},
+                                                                   {"abc", false},
+                                                                   {"", false},
+                                                                   {"1,2,3", false},
+                                                                   {"0x10", false}}));
+
 }  // namespace
 }  // namespace penwright

@@ -143,7 +143,9 @@ TEST_F(CandelaPaste, hintsAtLinesOfAnotherLength)
         {"1\n2\n3\n4\n5\n6", "Lines of 1 value were pasted into 2 columns"},
         {"1\t2\t3\t4\t5\t6", "One line of 6 values was pasted into 2 columns"},
         {"1\t2\t3\r\n4\r\n5\t6\r\n", "Lines of 1 to 3 values were pasted into 2 columns"},
-        {"1\t2\t3\n4\t5\n", ""},
+        {"1\t2\t3\n4\t5\n",
+         "Ctrl+V pastes the whole table, here 3 rows of 2 values, without angles. "
+         "Paste Table... (Ctrl+Shift+V) takes a table with its angles"},
     };
     for (const auto &[text, hint] : kHints)
         EXPECT_EQ(table.PasteCandelaTable(text).hint, hint) << testing::PrintToString(text);
@@ -161,6 +163,62 @@ TEST_F(CandelaPaste, hintsAtTheCellThatTheNewValuesEndBefore)
               "Row 2, column 2 (V:30 H:45) and all behind it are as before the paste");
     EXPECT_EQ(table.PasteCandelaTable("x\t2\t3\n4\t5\t6").hint, "");
 }
+
+TEST_F(CandelaPaste, saysWhatAWholeTableNeedsWhereTheNumberOfValuesIsAnother)
+{
+    build({0, 45, 90}, {0, 30, 60, 90});
+    const std::string table3x4 = "Ctrl+V pastes the whole table, here 4 rows of 3 values";
+    EXPECT_EQ(table.PasteCandelaTable("5").hint, table3x4 + ". Into this cell alone: F2, Ctrl+A, Ctrl+V");
+    EXPECT_EQ(table.PasteCandelaTable("1\t2").hint,
+              table3x4 + ", without angles. Paste Table... (Ctrl+Shift+V) takes a table with its angles");
+}
+
+TEST_F(CandelaPaste, pointsToPasteTableWhereAValueIsANumberByOtherSigns)
+{
+    const std::string other = "Paste Table... (Ctrl+Shift+V) takes decimal commas and signs between thousands";
+    build({0}, {0, 30});
+    EXPECT_EQ(table.PasteCandelaTable("2481,37\n1").hint, other);
+    EXPECT_EQ(table.PasteCandelaTable("1\n2481,37").hint,
+              "Row 2, column 1 (V:30 H:0) and all behind it are as before the paste. " + other);
+    EXPECT_EQ(table.PasteCandelaTable("abc\n1").hint, "");
+}
+
+struct ThousandsCase {
+    std::string text;  ///< three columns, three rows
+    std::string said;  ///< the cell, the value and its neighbour; "" where nothing is lost
+};
+
+class CandelaThousands : public CandelaPaste, public testing::WithParamInterface<ThousandsCase> {};
+
+TEST_P(CandelaThousands, thatWereLostAreSaidWhereNeighboursJump)
+{
+    build({0, 45, 90}, {0, 30, 60});
+    const std::string said = GetParam().said;
+    const std::string why =
+        ": was a sign between thousands read as a decimal point? Paste Table... (Ctrl+Shift+V) reads such signs";
+    EXPECT_EQ(table.PasteCandelaTable(GetParam().text).hint, said.empty() ? "" : said + why);
+    EXPECT_EQ(paste(GetParam().text), "");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Texts, CandelaThousands,
+    testing::ValuesIn(std::vector<ThousandsCase>{
+        {"2.481\t2.480\t2.100\n998\t990\t950\n10\t10\t10", "Row 1, column 1 (V:0 H:0): 2.481 stands beside 998"},
+        {"900\t1.002\t1.100\n900\t1.002\t1.100\n900\t1.002\t1.100",
+         "Row 1, column 2 (V:0 H:45): 1.002 stands beside 900"},
+        {"1.002\t1.002\t950\n10\t10\t10\n1\t1\t1", "Row 1, column 2 (V:0 H:45): 1.002 stands beside 950"},
+        {"10\t10\t10\n10\t10\t300\n10\t10\t1.150", "Row 3, column 3 (V:60 H:90): 1.15 stands beside 300"},
+        // Lines are no neighbours where one ends and the next begins.
+        {"10\t10\t900\n1.002\t10\t10\n10\t10\t10", ""},
+        // All below a thousand, all above, and a table of three decimals throughout.
+        {"998\t990\t950\n500\t500\t500\n10\t10\t10", ""},
+        {"2.481\t2.480\t2.100\n2.481\t2.480\t2.100\n2.481\t2.480\t2.100", ""},
+        {"998.125\t1.002\t1.100\n900.500\t1.002\t1.100\n1.001\t1.002\t1.100", ""},
+        // A cut-off, thousands without a sign, and texts that are no groups.
+        {"300\t12.345\t12\n300\t12.345\t12\n300\t12.345\t12", ""},
+        {"5000\t1.234\t12\n5000\t1.234\t12\n5000\t1.234\t12", ""},
+        {"900\t0.900\t0\n900\t1.02\t1.2345\n900\t1.02\t+1.002", ""},
+    }));
 
 struct BadValueCase {
     std::string value;
@@ -180,7 +238,9 @@ INSTANTIATE_TEST_SUITE_P(Texts, CandelaBadValue,
                          testing::ValuesIn(std::vector<BadValueCase>{
                              {"", "\"\" is not a number."},
                              {" ", "\" \" is not a number."},
-                             {"1,5", "\"1,5\" is not a number."},
+                             {"1,5", "\"1,5\" is not a number. The decimal sign is a point, as in 2481.37."},
+                             {"2.481,37", "\"2.481,37\" is not a number. The decimal sign is a point, as in 2481.37."},
+                             {"2,481", "\"2,481\" is not a number. The decimal sign is a point, as in 2481.37."},
                              {"0x10", "\"0x10\" is not a number."},
                              {"inf", "\"inf\" is not a number."},
                              {"1E39", "\"1E39\" is too large a number."},

@@ -136,13 +136,15 @@ struct RefusedCell {
 
 class TiltRefusal : public testing::TestWithParam<RefusedCell> {};
 
-INSTANTIATE_TEST_SUITE_P(Cells, TiltRefusal,
-                         testing::Values(RefusedCell{3, 0, "abc", "Row 3, Angle: \"abc\" is not a number."},
-                                         RefusedCell{1, 1, "1,5", "Row 1, Factor: \"1,5\" is not a number."},
-                                         RefusedCell{2, 0, "", "Row 2, Angle: \"\" is not a number."},
-                                         RefusedCell{3, 0, "1E39", "Row 3, Angle: Overflow"},
-                                         RefusedCell{3, 1, "-4E38", "Row 3, Factor: Overflow"},
-                                         RefusedCell{32767, 0, "x", "Row 32767, Angle: \"x\" is not a number."}));
+INSTANTIATE_TEST_SUITE_P(
+    Cells, TiltRefusal,
+    testing::Values(RefusedCell{3, 0, "abc", "Row 3, Angle: \"abc\" is not a number."},
+                    RefusedCell{1, 1, "1,5",
+                                "Row 1, Factor: \"1,5\" is not a number. The decimal sign is a point, as in 2481.37."},
+                    RefusedCell{2, 0, "", "Row 2, Angle: \"\" is not a number."},
+                    RefusedCell{3, 0, "1E39", "Row 3, Angle: Overflow"},
+                    RefusedCell{3, 1, "-4E38", "Row 3, Factor: Overflow"},
+                    RefusedCell{32767, 0, "x", "Row 32767, Angle: \"x\" is not a number."}));
 
 TEST_P(TiltRefusal, namesRowColumnAndTextAndLeavesTheCell)
 {
