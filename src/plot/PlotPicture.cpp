@@ -11,9 +11,9 @@ PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<Can
     picture.curves = plotCurves(record, cells, horizontal, vertical, shape);
     picture.rings = plotRings(picture.curves.largest());
     picture.words = plotDescription(picture.curves);
-    picture.planeName = "Vertical Plane Through Horizontal Angle " + generalText(horizontalAngle);
+    picture.planeName = "Vertical Plane Through Horizontal Angle " + generalText(horizontal.degrees);
     if (picture.curves.typeC)
-        picture.coneName = "Horizontal Cone Through Vertical Angle " + generalText(verticalAngle);
+        picture.coneName = "Horizontal Cone Through Vertical Angle " + generalText(vertical.degrees);
     return picture;
 }
 
