@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/AngleTexts.h"
+#include "core/NumberText.h"
 #include "grid/PasteTableDialog.h"
 #include "pages/candela/CandelaPage.h"
 #include "pages/distribution/DistributionPage.h"
@@ -16,6 +16,14 @@ namespace penwright {
 namespace {
 
 constexpr const char *kStep = "Paste Table";
+
+AngleCells cellsOf(const OneBased<float> &angles, int count)
+{
+    AngleCells cells;
+    for (int i = 1; i <= count && i <= angles.size(); ++i)
+        cells.append(angles(i));
+    return cells;
+}
 
 std::string whyNoLumens(const PhotometricRecord &record)
 {
@@ -63,7 +71,9 @@ TableGround TablePaste::groundOf(const PageFrame &page) const
         const DistributionFields fields = m_angles.readFields();
         return {fields.photometricType, fields.vertical, fields.horizontal};
     }
-    return groundOfRecord(m_window.pageContext().state.PhotFiles(1));
+    const PhotometricRecord &record = m_window.pageContext().state.PhotFiles(1);
+    return {record.PhotometricType, cellsOf(record.VertAngles, record.NumVertAngles),
+            cellsOf(record.HorAngles, record.NumHorzAngles)};
 }
 
 TablePurpose TablePaste::purposeOf(const PageFrame &page, const TableGround &ground) const
@@ -86,8 +96,7 @@ TablePurpose TablePaste::purposeOf(const PageFrame &page, const TableGround &gro
 
 void TablePaste::put(PageFrame &page, const FittedTable &table)
 {
-    const TableGround ground{table.angles.PhotometricType, table.vertical, table.horizontal};
-    const PageText angles = angleTexts(m_angles, ground, &page == &m_angles);
+    const PageText angles = anglesText(table, &page == &m_angles);
     if (!angles.empty() && !m_angles.showValue(angles, kStep))
         throw invalidCall();
     const bool hadTable = m_values.pasteTable(table.angles, table.cells);
@@ -95,6 +104,27 @@ void TablePaste::put(PageFrame &page, const FittedTable &table)
         m_angles.steps().pairLatest(m_values.steps(), hadTable);
     else if (!angles.empty())
         m_values.steps().pairLatest(m_angles.steps(), true);
+}
+
+PageText TablePaste::anglesText(const FittedTable &table, bool isStepThere) const
+{
+    const DistributionFields shown = m_angles.readFields();
+    PageText text;
+    const auto putList = [&](const char *box, const char *grid, const AngleCells &cells, const AngleCells &before) {
+        const bool isSame = areSameAngles(cells, before);
+        if (!isSame)
+            text[box] = std::to_string(cells.size());
+        if (!isSame || isStepThere)
+            text[grid] = HeldAngles::textOf(isSame ? before : cells);
+    };
+    putList("phoCmbVert", "phoGridVert", table.vertical, shown.vertical);
+    putList("phoCmbHorz", "phoGridHorz", table.horizontal, shown.horizontal);
+    const bool isTypeB = table.angles.PhotometricType == kTypeB;
+    if (!m_angles.hasType() || shown.photometricType != table.angles.PhotometricType) {
+        text["rdoC"] = isTypeB ? "0" : "1";
+        text["rdoB"] = isTypeB ? "1" : "0";
+    }
+    return text;
 }
 
 }  // namespace penwright

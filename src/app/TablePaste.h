@@ -3,6 +3,7 @@
 #include <QObject>
 
 #include "app/TableFit.h"
+#include "draft/PageValue.h"
 
 namespace penwright {
 
@@ -29,6 +30,10 @@ private:
     TableGround groundOf(const PageFrame &page) const;
     TablePurpose purposeOf(const PageFrame &page, const TableGround &ground) const;
     void put(PageFrame &page, const FittedTable &table);
+
+    /// The texts that page 4 is to hold, none where it shows the table's type and angles already; some in any case
+    /// where it is to have a step of it.
+    PageText anglesText(const FittedTable &table, bool isStepThere) const;
 
     WizardWindow &m_window;
     DistributionPage &m_angles;

@@ -5,7 +5,6 @@
 #include <string>
 #include <utility>
 
-#include "app/AngleTexts.h"
 #include "app/TablePaste.h"
 #include "pages/candela/CandelaPage.h"
 #include "pages/distribution/DistributionPage.h"
@@ -35,10 +34,6 @@ void addPages(WizardWindow &window, const Services &services, const Closing &clo
     auto *distributionPage = new DistributionPage(context, [candelaPage] { candelaPage->lsbStart(); });
     window.addPage(distributionPage);
     window.addPage(candelaPage);
-    QObject::connect(candelaPage, &CandelaPage::followed, distributionPage, [context, candelaPage, distributionPage] {
-        if (candelaPage->flags().GridReady)
-            followTable(*distributionPage, context.state.PhotFiles(1));
-    });
     new TablePaste(window, *distributionPage, *candelaPage, services.files, closing);
     window.addPage(
         new FinishPage(context, services.store, services.files, services.wait, [&window] { emit window.fileTaken(); }));

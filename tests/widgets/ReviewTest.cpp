@@ -90,14 +90,14 @@ TEST_F(Review, thePictureLeavesWithTheNamesOfItsPlanes)
 TEST_F(Review, thePictureCanBeSaved)
 {
     showRecord(goodRecord());
-    const TempFolder folder;
-    dialogs.names = {folder.file("planes.svg")};
+    const TempFolder pictures;
+    dialogs.names = {pictures.file("planes.svg")};
     auto *menu = find<QWidget>("reviewPicture")->findChild<QMenu *>("mnuPlot");
     auto *save = menu->findChild<QAction *>("saveSvg");
     ASSERT_TRUE(save->isVisible());
     save->trigger();
     EXPECT_EQ(dialogs.proposedName, "candela-plot.svg");
-    EXPECT_NE(contentOf(folder.file("planes.svg")).find(">Plane 0-180<"), std::string::npos);
+    EXPECT_NE(contentOf(pictures.file("planes.svg")).find(">Plane 0-180<"), std::string::npos);
 }
 
 TEST_F(Review, saysThatThereAreNoRemarks)

@@ -247,39 +247,6 @@ TEST_F(StepsTest, goOverATableThatWasBuiltAnewOnTheWay)
     EXPECT_EQ(shown("cdaGridCd", 2, 1), "5") << "the pages were only turned";
 }
 
-TEST_F(StepsTest, takeTheListsOfPageFourAlongWithTheTable)
-{
-    openTable();
-    fillPageFive();
-    const std::string filled = texts().at("cdaGridCd");
-    click("cmdBack50");
-    const std::string lists = listOfPageFour();
-    find("phoCmbVert")->setFocus();
-    press(Qt::Key_A, Qt::ControlModifier);
-    typeText("2");
-    typeCell("phoGridVert", 1, 0, "0");
-    typeCell("phoGridVert", 1, 1, "90");
-    const PageText typed = texts();
-    const std::string others = listOfPageFour();
-    EXPECT_EQ(others, "0 90 ");
-    click("cmdNext30");
-    ASSERT_EQ(shownPage(), kCandelaPage);
-    undo();
-    EXPECT_EQ(texts().at("cdaGridCd"), filled);
-    click("cmdBack50");
-    EXPECT_EQ(listOfPageFour(), lists);
-    EXPECT_EQ(undoName(), "Undo Angles of the Table");
-    click("cmdNext30");
-    ASSERT_EQ(shownPage(), kCandelaPage);
-    EXPECT_EQ(shown("cdaGridCd", 10, 1), "0") << "the table stays";
-    redo();
-    click("cmdBack50");
-    EXPECT_EQ(listOfPageFour(), others);
-    undo();
-    undo();
-    EXPECT_EQ(texts(), typed);
-}
-
 TEST_F(StepsTest, takeAWordForACountAsOneGoOfTyping)
 {
     window->ShowPage(kDistributionPage);

@@ -59,15 +59,6 @@ protected:
         ASSERT_EQ(shownPage(), kCandelaPage);
     }
 
-    /// The vertical angles that page 4 shows, a blank behind each.
-    std::string listOfPageFour()
-    {
-        std::string list;
-        for (int column = 0; column < grid("phoGridVert").model()->columnCount(); ++column)
-            list += shown("phoGridVert", 1, column) + " ";
-        return list;
-    }
-
 private:
     std::string nameOf(const QAction *action)
     {

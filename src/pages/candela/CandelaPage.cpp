@@ -144,7 +144,6 @@ void CandelaPage::showTable()
 void CandelaPage::followValue()
 {
     showCurrentCell();
-    emit followed();
 }
 
 void CandelaPage::tmrFlip_Timer()

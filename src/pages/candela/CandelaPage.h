@@ -46,9 +46,6 @@ signals:
     /// A table is to be pasted that is yet to be understood.
     void tablePasteAsked();
 
-    /// A table has been put into the page that it held before, or another run.
-    void followed();
-
 protected:
     void followValue() override;
     void focusFault(const FaultPlace &place) override;
