@@ -90,6 +90,7 @@ SqliteDraftStore::Sight SqliteDraftStore::sightOf(const std::string &name) const
 std::vector<SqliteDraftStore::Sight> SqliteDraftStore::sightsOf(const std::vector<std::string> &names) const
 {
     std::vector<Sight> sights;
+    sights.reserve(names.size());
     for (const std::string &name : names)
         sights.push_back(sightOf(name));
     std::sort(sights.begin(), sights.end(), [](const Sight &a, const Sight &b) {
