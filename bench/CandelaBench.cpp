@@ -227,12 +227,3 @@ void checkedBlank(benchmark::State &state)
 BENCHMARK(checkedBlank)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int count, char **arguments)
-{
-    setenv("QT_QPA_PLATFORM", "offscreen", 1);
-    QApplication application(count, arguments);
-    benchmark::Initialize(&count, arguments);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
-}

@@ -110,11 +110,3 @@ void typedMeanwhile(benchmark::State &state)
 BENCHMARK(typedMeanwhile)->Unit(benchmark::kMillisecond);
 
 }  // namespace
-
-int main(int count, char **arguments)
-{
-    setenv("QT_QPA_PLATFORM", "offscreen", 0);
-    QApplication application(count, arguments);
-    benchmark::Initialize(&count, arguments);
-    benchmark::RunSpecifiedBenchmarks();
-}

@@ -80,9 +80,10 @@ TablePurpose TablePaste::purposeOf(const PageFrame &page, const TableGround &gro
 {
     const PhotometricRecord &record = m_window.pageContext().state.PhotFiles(1);
     TablePurpose purpose;
-    purpose.lumens = record.LumensPerLamp > 0 ? double{record.LumensPerLamp} * record.NumLamps : 0;
-    if (!(purpose.lumens > 0))
-        purpose.whyNoLumens = whyNoLumens(record);
+    purpose.unit.lumens = record.LumensPerLamp > 0 ? double{record.LumensPerLamp} * record.NumLamps : 0;
+    purpose.unit.multiplier = record.CandelaMultiplier;
+    if (!purpose.unit.isKnown())
+        purpose.unit.whyNone = whyNoLumens(record);
     purpose.need = neededSize(ground);
     purpose.judge = [ground](const TableContent &table, double factor) -> TableVerdict {
         const auto fitted = fitTable(table, factor, ground);

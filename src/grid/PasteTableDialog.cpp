@@ -31,7 +31,6 @@ namespace {
 
 constexpr int kProgressSteps = 1000;
 constexpr double kMostOfScreen = 0.95;
-constexpr double kLumensInKilolumen = 1000;
 
 QLabel *makeWords(const char *name)
 {
@@ -196,7 +195,7 @@ bool PasteTableDialog::ask()
 
 double PasteTableDialog::factor() const
 {
-    return m_choices->reading().isPerKilolumen ? m_purpose.lumens / kLumensInKilolumen : 1;
+    return m_choices->reading().isPerKilolumen ? m_purpose.unit.factor() : 1;
 }
 
 void PasteTableDialog::takeClipboard()
@@ -243,7 +242,9 @@ void PasteTableDialog::takeText(const SharedText &text, const QString &source)
     m_text = text;
     m_source->setText(source);
     m_choices->setEnabled(true);
-    m_choices->setReading(guessTable(*text));
+    TableReading reading = guessTable(*text);
+    reading.isPerKilolumen = reading.isPerKilolumen && !m_purpose.unit.isInMultiplier();
+    m_choices->setReading(reading);
     m_preview->setFocus();
     readAgain();
 }
@@ -301,8 +302,8 @@ void PasteTableDialog::showTable(const TableContent &table)
     const TableReading reading = m_choices->reading();
     const std::string words = readingWords(reading) + " " + contentWords(table, reading);
     m_preview->showTable(table, factor());
-    if (reading.isPerKilolumen && !(m_purpose.lumens > 0))
-        return say(words, m_purpose.whyNoLumens, false);
+    if (reading.isPerKilolumen && !m_purpose.unit.isKnown())
+        return say(words, m_purpose.unit.whyNone, false);
     const TableVerdict verdict = m_purpose.judge(table, factor());
     say(words, verdict.text, verdict.isTaken);
 }
@@ -331,14 +332,7 @@ void PasteTableDialog::say(const std::string &words, const std::string &problem,
 
 void PasteTableDialog::sayOfUnit()
 {
-    const std::string lumens = generalText(m_purpose.lumens);
-    std::string sentence = m_purpose.whyNoLumens;
-    if (m_purpose.lumens > 0)
-        sentence =
-            "The lamps give " + lumens + " lm" +
-            (m_choices->reading().isPerKilolumen ? ": the values are multiplied by " + generalText(factor()) + "."
-                                                 : ".");
-    m_choices->sayOfUnit(toQString(sentence));
+    m_choices->sayOfUnit(toQString(m_purpose.unit.words(m_choices->reading().isPerKilolumen)));
 }
 
 }  // namespace penwright

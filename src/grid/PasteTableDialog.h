@@ -8,6 +8,7 @@
 
 #include "grid/TableRun.h"
 #include "grid/TableText.h"
+#include "grid/TableUnit.h"
 
 class QLabel;
 class QLayout;
@@ -30,9 +31,8 @@ struct TableVerdict {
 
 /// What the dialog is told by whoever opens it.
 struct TablePurpose {
-    double lumens = 0;          ///< of the lamps, for tables per kilolumen; not above 0 when there are none
-    std::string whyNoLumens{};  ///< a sentence where there are none
-    std::string need{};         ///< a sentence on the size that a table without angles is to have, "" for any
+    TableUnit unit{};    ///< for tables per kilolumen
+    std::string need{};  ///< a sentence on the size that a table without angles is to have, "" for any
 
     /// Whether a table is taken whose values are to be multiplied by a factor.
     std::function<TableVerdict(const TableContent &table, double factor)> judge{};

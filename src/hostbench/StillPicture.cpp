@@ -1,5 +1,7 @@
 #include "hostbench/StillPicture.h"
 
+#include <utility>
+
 namespace penwright {
 
 namespace {
@@ -11,13 +13,19 @@ constexpr int kStillLooks = 8;
 
 bool StillPicture::look(const QImage &image)
 {
-    if (image == m_image) {
+    if (image == m_now.image) {
         ++m_looks;
     } else {
-        m_looks = image == m_other ? m_looks + 1 : 0;
-        m_other = std::exchange(m_image, image);
+        m_looks = image == m_now.other ? m_looks + 1 : 0;
+        m_now.other = std::exchange(m_now.image, image);
     }
-    return !m_image.isNull() && m_image != m_past && m_looks >= kStillLooks;
+    return !image.isNull() && image != m_past.image && image != m_past.other && m_looks >= kStillLooks;
+}
+
+void StillPicture::turn()
+{
+    m_past = std::exchange(m_now, {});
+    m_looks = 0;
 }
 
 }  // namespace penwright

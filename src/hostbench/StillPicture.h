@@ -8,19 +8,21 @@ namespace penwright {
 /// that blinks is at rest: two pictures that take turns count as one, however slowly the looks follow each other.
 class StillPicture {
 public:
-    /// `past` is a picture that is no longer meant, such as that of the page before; a null image when there is none.
-    explicit StillPicture(QImage past) : m_past(std::move(past)) {}
-
-    /// One more look. True when the latest looks showed nothing new, nor `past`.
+    /// One more look. True when the latest looks showed nothing new, nor what is past.
     bool look(const QImage &image);
 
-    /// What the latest look saw.
-    const QImage &image() const { return m_image; }
+    /// What the latest looks saw is past, with its caret and without: another picture is meant from now on.
+    void turn();
 
 private:
-    QImage m_past;
-    QImage m_image;
-    QImage m_other;
+    /// A picture, and the one that takes turns with it.
+    struct Pair {
+        QImage image;
+        QImage other;
+    };
+
+    Pair m_past;
+    Pair m_now;
     int m_looks = 0;
 };
 

@@ -14,7 +14,6 @@
 #include "core/IesText.h"
 #include "hostbench/HostWindow.h"
 #include "hostbench/SampleLuminaire.h"
-#include "hostbench/StillPicture.h"
 #include "hostlink/RecordText.h"
 
 namespace penwright {
@@ -125,10 +124,9 @@ QImage Walk::areaImage() const
 bool Walk::takePicture(int page)
 {
     // A page is on screen with all that was typed when its picture is another than that of the page before and at rest.
-    StillPicture picture(m_lastImage);
-    if (!waitFor([&] { return picture.look(areaImage()); }, QStringLiteral("a still picture of page %1").arg(page)))
+    m_picture.turn();
+    if (!waitFor([&] { return m_picture.look(areaImage()); }, QStringLiteral("a still picture of page %1").arg(page)))
         return false;
-    m_lastImage = picture.image();
     const QString path = QStringLiteral("%1/page-%2.png").arg(m_folder).arg(page);
     if (!m_window.screen()->grabWindow(m_window.winId()).save(path))
         return fail(QStringLiteral("cannot write ") + path);

@@ -9,6 +9,7 @@
 
 #include "core/PhotometricRecord.h"
 #include "hostbench/LuminaireTyper.h"
+#include "hostbench/StillPicture.h"
 #include "hostbench/ToolTab.h"
 #include "hostbench/XDisplay.h"
 
@@ -71,7 +72,7 @@ private:
     std::vector<ToolCommand> m_taken;
     bool m_hasEnded = false;
     int m_exitStatus = -1;
-    QImage m_lastImage;
+    StillPicture m_picture;  ///< of the tool's place in the window
     QString m_reason;
     QStringList m_left;
 };

@@ -1,19 +1,15 @@
-#include <xcb/xcb.h>
-
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
-#include <memory>
 #include <QApplication>
 #include <QDir>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTimer>
-#include <string_view>
 
 #include "controls/OutlinedStyle.h"
 #include "hostbench/HostWindow.h"
 #include "hostbench/Walk.h"
+#include "platform/x11/Display.h"
 
 namespace {
 
@@ -60,39 +56,6 @@ int fail(const QString &reason)
 {
     std::fprintf(stderr, "hostbench: %s\n", qPrintable(reason));
     return 1;
-}
-
-/// The toolkit aborts without a display; this is asked before it starts.
-/// Kept open until the program ends: a display whose only client goes may start anew and refuse the next one for a
-/// moment. Nothing when another platform was asked for.
-std::shared_ptr<xcb_connection_t> openDisplay()
-{
-    if (!qgetenv("QT_QPA_PLATFORM").startsWith("xcb"))
-        return nullptr;
-    return {xcb_connect(nullptr, nullptr), xcb_disconnect};
-}
-
-// Windows of other programs can be taken in on X11 alone, whatever is exported for all programs of a desktop.
-void choosePlatform()
-{
-    const QByteArray asked = qgetenv("QT_QPA_PLATFORM");
-    if (asked.isEmpty() || (asked.startsWith("wayland") && !qEnvironmentVariableIsEmpty("DISPLAY")))
-        qputenv("QT_QPA_PLATFORM", "xcb");
-}
-
-// The toolkit aborts where a platform cannot be loaded, and remarks on it first.
-void failInsteadOfAborting(QtMsgType type, const QMessageLogContext &context, const QString &text)
-{
-    const bool isPlatformRemark = context.category && std::string_view(context.category) == "qt.qpa.plugin";
-    if (type != QtFatalMsg) {
-        if (!isPlatformRemark)
-            std::fprintf(stderr, "%s\n", qPrintable(text));
-        return;
-    }
-    fail(QStringLiteral("%1 (QT_QPA_PLATFORM is \"%2\"%3)")
-             .arg(text.section('\n', 0, 0), qEnvironmentVariable("QT_QPA_PLATFORM"),
-                  qEnvironmentVariableIsEmpty("DISPLAY") ? "; DISPLAY is not set" : ""));
-    std::_Exit(1);
 }
 
 /// What a walk that failed may have failed by; "" on a display of X11 alone.
@@ -144,11 +107,9 @@ int main(int argc, char **argv)
         std::fputs(kUsage, stderr);
         return 1;
     }
-    choosePlatform();
-    qInstallMessageHandler(failInsteadOfAborting);
-    const auto display = openDisplay();
-    if (display && xcb_connection_has_error(display.get()))
-        return fail(QStringLiteral("cannot open the X display \"%1\"").arg(qEnvironmentVariable("DISPLAY")));
+    const penwright::Display display("hostbench");
+    if (!display.isUsable())
+        return 1;
 
     // The walk has a settings store and drafts of its own, tool included: the user's are not touched.
     const QTemporaryDir walkSettings;

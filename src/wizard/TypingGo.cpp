@@ -20,9 +20,9 @@ void TypingGo::add(Key key, bool hasSelection)
 {
     const bool isDeletion = key == Key::Deletion;
     const bool isTypedOn = m_isTyping && key == Key::Character;  // nothing between has selected anything
-    if (key != Key::Other && hasSelection && !isTypedOn)
-        end();
-    else if (isDeletion && m_deletions == 1 && m_characters > 1)  // the first one mends a slip
+    const bool replaces = key != Key::Other && hasSelection && !isTypedOn;
+    const bool goesOnDeleting = isDeletion && m_deletions == 1 && m_characters > 1;  // the first one mends a slip
+    if (replaces || goesOnDeleting)
         end();
     m_isTyping = key == Key::Character;
     if (isDeletion) {

@@ -165,7 +165,7 @@ TEST(HostBench, withoutADisplayItSaysSo)
     for (const auto &arguments :
          {std::vector<std::string>{HOSTBENCH}, {HOSTBENCH, "--new"}, {HOSTBENCH, "--walk", home.file("left")}}) {
         Process host(arguments, environment(":no-display", home.path()), Process::Errors::Joined);
-        EXPECT_EQ(host.readAll(), "hostbench: cannot open the X display \":no-display\"\n");
+        EXPECT_EQ(host.readAll(), "hostbench: cannot open the X display \":no-display\".\n");
         EXPECT_EQ(host.waitForEnd(), 1);
     }
     EXPECT_FALSE(fs::exists(home.path() / "left"));
@@ -184,7 +184,7 @@ TEST(HostBench, runsOnX11WhereWaylandIsExported)
 {
     const test::TempFolder home;
     Process host({HOSTBENCH}, onPlatform("wayland", environment(":no-display", home.path())), Process::Errors::Joined);
-    EXPECT_EQ(host.readAll(), "hostbench: cannot open the X display \":no-display\"\n");
+    EXPECT_EQ(host.readAll(), "hostbench: cannot open the X display \":no-display\".\n");
     EXPECT_EQ(host.waitForEnd(), 1);
 }
 

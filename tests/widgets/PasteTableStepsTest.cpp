@@ -213,6 +213,23 @@ TEST_F(PasteTableSteps, candelaPerKilolumenAreMultiplied)
     EXPECT_EQ(state.PhotFiles(1).Candela(1, 2), double{6234.45F});
 }
 
+TEST_F(PasteTableSteps, kilolumensThatAreInTheMultiplierAreNotMultipliedAgain)
+{
+    setText("txtNumLamps", "2");
+    setText("txtLumPerLamp", "4450");
+    setText("txtMultiplier", "8.9");
+    openPageFive();
+    open("cd/klm\n" + kTable, [&](PasteTableDialog &dialog) {
+        EXPECT_EQ(in<QComboBox>("tableUnit").currentText(), "Candela");
+        EXPECT_EQ(preview(), "|H 0|H 90\nV 0|1000|1000\nV 45|700.5|650.25\nV 90|12.3|0");
+        in<QComboBox>("tableUnit").setFocus();
+        press(Qt::Key_Down);
+        EXPECT_EQ(in<QLabel>("tableUnitNote").text(),
+                  "The lamps give 8900 lm: the values are multiplied by 8.9. Page 1 multiplies by 8.9 as well.");
+        QTest::keyClick(&dialog, Qt::Key_Escape);
+    });
+}
+
 TEST_F(PasteTableSteps, aTurnedTableIsTurnedBack)
 {
     openPageFive();

@@ -247,6 +247,29 @@ TEST_F(StepsTest, goOverATableThatWasBuiltAnewOnTheWay)
     EXPECT_EQ(shown("cdaGridCd", 2, 1), "5") << "the pages were only turned";
 }
 
+TEST_F(StepsTest, bringBackTheBlanksThatATurnOfThePageHasFilled)
+{
+    openTable();
+    typeCell("cdaGridCd", 1, 1, "9");
+    const PageText typed = texts();
+    click("cmdBack50");
+    click("cmdNext30");
+    EXPECT_EQ(shown("cdaGridCd", 2, 1), "0");
+    undo();
+    EXPECT_EQ(texts(), typed);
+    click("cmdBack50");
+    click("cmdNext30");
+    EXPECT_EQ(shown("cdaGridCd", 2, 1), "0");
+    redo();
+    EXPECT_EQ(redoName(), "Redo") << "the redone table is the latest";
+    undo();
+    undo();
+    click("cmdBack50");
+    click("cmdNext30");
+    redo();
+    EXPECT_EQ(shown("cdaGridCd", 1, 1), "9") << "what was undone can be redone";
+}
+
 TEST_F(StepsTest, takeAWordForACountAsOneGoOfTyping)
 {
     window->ShowPage(kDistributionPage);

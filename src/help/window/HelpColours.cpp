@@ -38,15 +38,24 @@ QColor turned(const QColor &colour, const QPalette &desktop)
     return QColor::fromHslF(std::max(0.0F, colour.hslHueF()), colour.hslSaturationF(), lightness);
 }
 
+/// The colour that a word of a style names: red, #FFF, rgb(255, 255, 255); none for any other word.
+QColor colourOf(const QRegularExpressionMatch &word)
+{
+    if (!word.hasCaptured(1))
+        return QColor(word.captured());
+    return {word.captured(1).toInt(), word.captured(2).toInt(), word.captured(3).toInt()};
+}
+
 /// What a property or an attribute says, with each colour in it turned.
 QString turnedValue(const QString &value, const QPalette &desktop)
 {
-    static const QRegularExpression word("#?\\w+");
+    static const QRegularExpression word(R"(\brgb\(\s*(\d{1,3})\s*,\s*(\d{1,3})\s*,\s*(\d{1,3})\s*\)|#?\w+)",
+                                         QRegularExpression::CaseInsensitiveOption);
     QString result;
     qsizetype behind = 0;
     for (auto words = word.globalMatch(value); words.hasNext();) {
         const QRegularExpressionMatch match = words.next();
-        const QColor colour(match.captured());
+        const QColor colour = colourOf(match);
         if (colour.alpha() == 0 || !colour.isValid())
             continue;
         result += value.mid(behind, match.capturedStart() - behind);

@@ -79,8 +79,11 @@ void CandelaPage::connectGrid()
 void CandelaPage::lsbStart()
 {
     const bool isFirst = m_form->cdaGridCd->model()->columnCount() == 0;
-    if (flags().GridReady && !m_table->isOutdated())
-        m_form->cdaGridCd->changes().exchange(m_table->newTable());  // no step: what has been undone can be redone
+    // What only turns singles into doubles is no step; nor are zeros for blanks where a step would cost what can be
+    // redone.
+    const bool isSame = flags().GridReady && !m_table->isOutdated();
+    if (isSame && (steps().canRedo() || !m_table->hasBlanks()))
+        m_form->cdaGridCd->changes().exchange(m_table->newTable());
     else
         buildTable();
     m_form->cdaGridCd->goTo(1, 1);

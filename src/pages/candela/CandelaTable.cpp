@@ -50,6 +50,15 @@ bool CandelaTable::isOutdated() const
     return m_numbers.flags().GridReady && now && !m_numbers.isFor(*now);
 }
 
+bool CandelaTable::hasBlanks() const
+{
+    for (int h = 1; h <= CandelaCells().rows(); ++h)
+        for (int v = 1; v <= CandelaCells().columns(); ++v)
+            if (!numberOf(CandelaCells()(h, v)))
+                return true;
+    return false;
+}
+
 std::string CandelaTable::CopyCandelaTable() const
 {
     const int horizontal = CandelaCells().rows();

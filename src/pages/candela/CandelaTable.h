@@ -62,6 +62,9 @@ public:
         int row = 0;
     };
 
+    /// Whether there is a cell without a value.
+    bool hasBlanks() const;
+
     /// Nothing for the label column and outside the table.
     std::optional<CellAngles> anglesOf(int row, int column) const;
 

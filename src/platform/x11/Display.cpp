@@ -10,13 +10,13 @@
 
 namespace penwright {
 
-Display::Display()
+Display::Display(const char *program)
 {
     const QByteArray asked = qgetenv("QT_QPA_PLATFORM");
     const bool isWayland = asked.startsWith("wayland") && !qEnvironmentVariableIsEmpty("DISPLAY");
     if (asked.isEmpty() || isWayland)
         qputenv("QT_QPA_PLATFORM", "xcb");
-    installMessageFilter();
+    installMessageFilter(program);
     if (!qgetenv("QT_QPA_PLATFORM").startsWith("xcb"))
         return;
     m_connection = xcb_connect(nullptr, nullptr);
@@ -24,9 +24,9 @@ Display::Display()
     if (m_isUsable)
         return;
     if (qEnvironmentVariableIsEmpty("DISPLAY"))
-        std::fprintf(stderr, "PenwrightPE: there is no X display: DISPLAY is not set.\n");
+        std::fprintf(stderr, "%s: there is no X display: DISPLAY is not set.\n", program);
     else
-        std::fprintf(stderr, "PenwrightPE: cannot open the X display \"%s\".\n", qgetenv("DISPLAY").constData());
+        std::fprintf(stderr, "%s: cannot open the X display \"%s\".\n", program, qgetenv("DISPLAY").constData());
 }
 
 Display::~Display()

@@ -11,7 +11,8 @@ namespace penwright {
 /// whose only client goes may start anew and refuse the next one for a moment.
 class Display {
 public:
-    Display();
+    /// `program` is the name that lines on stderr begin with.
+    explicit Display(const char *program = "PenwrightPE");
     ~Display();
     Display(const Display &) = delete;
     Display &operator=(const Display &) = delete;

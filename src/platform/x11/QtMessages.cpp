@@ -10,6 +10,7 @@ namespace penwright {
 namespace {
 
 QtMessageHandler previousHandler = nullptr;
+const char *programName = nullptr;
 
 // A dialog over a window that is another process's child has that window as its transient parent for a moment; the
 // toolkit remarks on it each time, before X11Focus puts the host's top-level window in its place.
@@ -29,8 +30,8 @@ void filterMessage(QtMsgType type, const QMessageLogContext &context, const QStr
     if (type == QtWarningMsg && (isTransientParentRemark(text) || isPlatformRemark(context)))
         return;
     if (type == QtFatalMsg) {
-        std::fprintf(stderr, "PenwrightPE: %s (QT_QPA_PLATFORM is \"%s\"%s)\n", qPrintable(text.section('\n', 0, 0)),
-                     qgetenv("QT_QPA_PLATFORM").constData(),
+        std::fprintf(stderr, "%s: %s (QT_QPA_PLATFORM is \"%s\"%s)\n", programName,
+                     qPrintable(text.section('\n', 0, 0)), qgetenv("QT_QPA_PLATFORM").constData(),
                      qEnvironmentVariableIsEmpty("DISPLAY") ? "; DISPLAY is not set" : "");
         _exit(1);
     }
@@ -39,10 +40,12 @@ void filterMessage(QtMsgType type, const QMessageLogContext &context, const QStr
 
 }  // namespace
 
-void installMessageFilter()
+void installMessageFilter(const char *program)
 {
-    if (!previousHandler)
-        previousHandler = qInstallMessageHandler(filterMessage);
+    if (previousHandler)
+        return;
+    programName = program;
+    previousHandler = qInstallMessageHandler(filterMessage);
 }
 
 }  // namespace penwright
