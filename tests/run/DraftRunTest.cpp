@@ -1,6 +1,5 @@
 #include <array>
 #include <chrono>
-#include <cstdlib>
 #include <random>
 
 #include "platform/sqlite/SqliteDraftStore.h"
@@ -94,16 +93,10 @@ std::vector<Key> walk(std::mt19937 &chance)
     return keys;
 }
 
-int rounds()
-{
-    const char *wanted = std::getenv("PENWRIGHT_KILLS");
-    return wanted ? std::atoi(wanted) : 8;
-}
-
 TEST_F(DraftRun, killAtAnyMomentCostsTwoSecondsOfTypingAtMost)
 {
     constexpr unsigned kSeed = 20260514;
-    for (int round = 0; round < rounds(); ++round) {
+    for (int round = 0; round < killRounds(8); ++round) {
         std::mt19937 chance(kSeed + static_cast<unsigned>(round));
         startAndShow();
         std::vector<Key> keys = walk(chance);

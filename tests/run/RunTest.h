@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <cstdlib>
 #include <memory>
 #include <string>
 #include <vector>
@@ -12,6 +13,13 @@
 #include "support/TempFolder.h"
 
 namespace penwright::test {
+
+/// How often a test kills what it has started: PENWRIGHT_KILLS, or `unasked`.
+inline int killRounds(int unasked)
+{
+    const char *wanted = std::getenv("PENWRIGHT_KILLS");
+    return wanted ? std::atoi(wanted) : unasked;
+}
 
 /// The executable as a process, with this test as its host over a settings store of their own.
 class RunTest : public testing::Test {

@@ -1,7 +1,6 @@
 #include <csignal>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -195,18 +194,12 @@ private:
     FileClock::time_point m_killed;
 };
 
-int rounds()
-{
-    const char *wanted = std::getenv("PENWRIGHT_KILLS");
-    return wanted ? std::atoi(wanted) : 2;
-}
-
 TEST_F(WalkKill, ofToolOrHostAtAnyMomentCostsTwoSecondsOfTypingAtMostAndNeverMakesAWrongValue)
 {
     const Milliseconds whole = walkToTheLastPage();
     ASSERT_FALSE(m_whole.empty());
     std::mt19937 chance(20260514);
-    for (int round = 0; round < rounds(); ++round) {
+    for (int round = 0; round < killRounds(2); ++round) {
         startWalk();
         ASSERT_TRUE(waitUntil([this] { return hasDraft(); }, 60s)) << "nothing was typed";
         for (auto pauses = chance() % 4; pauses > 0; --pauses)

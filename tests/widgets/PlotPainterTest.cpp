@@ -19,7 +19,7 @@
 namespace penwright::test {
 namespace {
 
-PlotPicture lobe()
+PlotPicture lobePicture()
 {
     const PlotTableCase table = plotTable(
         "", kTypeC, {0}, anglesTo(90, 5), [](double, double v) { return 500 * cosine(v); }, 0, 45);
@@ -29,7 +29,7 @@ PlotPicture lobe()
 TEST(PlotPainter, paintsEachTextWhereItsRuleHasIt)
 {
     for (const double side : {300.0, 40.0}) {
-        const PlotPicture picture = lobe();
+        const PlotPicture picture = lobePicture();
         PaintNotes notes;
         NotedPaper paper(notes);
         QPainter painter(&paper);
@@ -62,7 +62,7 @@ TEST(PlotPainter, drawsTheGridWithAThinPenOfItsColour)
     PaintNotes notes;
     NotedPaper paper(notes);
     QPainter painter(&paper);
-    paintPlot(painter, QRectF(0, 0, 300, 300), QFont(), lobe(), look);
+    paintPlot(painter, QRectF(0, 0, 300, 300), QFont(), lobePicture(), look);
     painter.end();
     constexpr std::size_t kSpokes = 12;
     constexpr std::size_t kTicks = 36;
@@ -85,7 +85,7 @@ TEST(PlotPainter, paintsInTheColoursGivenAndNoOther)
     QImage image(300, 300, QImage::Format_RGB32);
     image.fill(Qt::magenta);
     QPainter painter(&image);
-    paintPlot(painter, QRectF(0, 0, 300, 300), QFont(), lobe(), look);
+    paintPlot(painter, QRectF(0, 0, 300, 300), QFont(), lobePicture(), look);
     painter.end();
     std::set<int> greens;
     for (int y = 0; y < image.height(); ++y)

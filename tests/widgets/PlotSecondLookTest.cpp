@@ -30,7 +30,7 @@ const QString kLobeWords =
     "Vertical plane through horizontal angle 0: largest 1000 candela at 0 degrees; "
     "horizontal cone through vertical angle 60: largest 500 candela at 0 degrees.";
 
-PlotTableCase lobe()
+PlotTableCase lobeTable()
 {
     return plotTable(
         "", kTypeC, {0}, {0, 30, 60, 90}, [](double, double v) { return std::round(1000 * cosine(v)); }, 0, 60);
@@ -48,7 +48,7 @@ protected:
         view->setDialogs(dialogs);
         window.resize(400, 440);
         window.show();
-        const PlotTableCase table = lobe();
+        const PlotTableCase table = lobeTable();
         view->draw(table.record, table.cells, table.horizontal, table.vertical);
     }
 
@@ -160,7 +160,7 @@ TEST_F(PlotSecondLook, anotherPictureIsReadAtTheSamePlace)
     view->setFocus();
     QTest::keyClick(view, Qt::Key_Home);
     QTest::keyClick(view, Qt::Key_End);
-    PlotTableCase table = lobe();
+    PlotTableCase table = lobeTable();
     table.cells(1, 4) = 77.0F;
     view->draw(table.record, table.cells, 0, 60);
     EXPECT_EQ(reading(), "H 0, V 90: 77 cd");
@@ -186,7 +186,7 @@ TEST_F(PlotSecondLook, theSwitchShowsTheLinearView)
     EXPECT_NE(view->grab().toImage(), polar);
     pointAt(placeOf({30, 866}));
     EXPECT_EQ(reading(), "H 0, V 30: 866 cd");
-    const PlotTableCase table = lobe();
+    const PlotTableCase table = lobeTable();
     view->draw(table.record, table.cells, table.horizontal, table.vertical);
     EXPECT_EQ(view->picture().curves.shape, PlotShape::Linear);
     QTest::keyClick(linear(), Qt::Key_Space);

@@ -1,19 +1,9 @@
 #include "core/OneBased.h"
 #include "core/PhotometricRecord.h"
+#include "support/ErrorOf.h"
 
 namespace penwright {
 namespace {
-
-template <typename Body>
-int errorOf(const Body &body)
-{
-    try {
-        body();
-    } catch (const RunTimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 TEST(OneBasedArray, countsFromOneAndRaisesNineOutside)
 {
@@ -21,7 +11,7 @@ TEST(OneBasedArray, countsFromOneAndRaisesNineOutside)
     EXPECT_EQ(list(1), 7);
     EXPECT_EQ(list(3), 9);
     for (const int index : {-1, 0, 4})
-        EXPECT_EQ(errorOf([&] { list(index); }), 9) << index;
+        EXPECT_EQ(test::errorOf([&] { list(index); }), 9) << index;
 }
 
 TEST(OneBasedArray, resizeKeepsAndResetClears)
@@ -31,7 +21,7 @@ TEST(OneBasedArray, resizeKeepsAndResetClears)
     EXPECT_EQ(list, (OneBased<int>{7, 8, 0}));
     list.reset(2);
     EXPECT_EQ(list, (OneBased<int>{0, 0}));
-    EXPECT_EQ(errorOf([&] { list.resize(-1); }), 9);
+    EXPECT_EQ(test::errorOf([&] { list.resize(-1); }), 9);
 }
 
 TEST(OneBasedTable, countsBothSubscriptsFromOne)
@@ -43,8 +33,8 @@ TEST(OneBasedTable, countsBothSubscriptsFromOne)
     EXPECT_EQ(table(1, 3), 3);
     EXPECT_EQ(table(2, 1), 0);
     for (const auto &[row, column] : {std::pair{0, 1}, {1, 0}, {3, 1}, {1, 4}})
-        EXPECT_EQ(errorOf([&, r = row, c = column] { table(r, c); }), 9) << row << "," << column;
-    EXPECT_EQ(errorOf([&] { table.reset(-1, 2); }), 9);
+        EXPECT_EQ(test::errorOf([&, r = row, c = column] { table(r, c); }), 9) << row << "," << column;
+    EXPECT_EQ(test::errorOf([&] { table.reset(-1, 2); }), 9);
 }
 
 TEST(OneBasedTable, handsOutARow)
@@ -56,7 +46,7 @@ TEST(OneBasedTable, handsOutARow)
     EXPECT_EQ(std::vector<int>(row.begin(), row.end()), (std::vector<int>{4, 0, 6}));
     EXPECT_TRUE(OneBasedTable<int>(2, 0).row(2).empty());
     for (const int missing : {0, 3})
-        EXPECT_EQ(errorOf([&] { table.row(missing); }), 9) << missing;
+        EXPECT_EQ(test::errorOf([&] { table.row(missing); }), 9) << missing;
 }
 
 TEST(Record, copiesAreByValue)

@@ -9,7 +9,7 @@
 namespace penwright {
 namespace {
 
-using test::contentOf;
+using test::iesContentOf;
 
 void roundAll(OneBased<float> &numbers)
 {
@@ -52,7 +52,7 @@ PhotometricRecord madeReadable(PhotometricRecord record)
 void expectTheSameBack(const PhotometricRecord &record)
 {
     const std::string text = iesFileText(record);
-    const PhotometricRecord read = contentOf(text).record;
+    const PhotometricRecord read = iesContentOf(text).record;
     EXPECT_EQ(read, asInTheFile(record));
     EXPECT_EQ(iesFileText(read), text);
 }

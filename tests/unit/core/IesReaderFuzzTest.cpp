@@ -91,7 +91,7 @@ void expectSense(const std::string &file, int &refused)
     if (record.Keywords.empty())
         record.Keywords.append("IESNA91");
     const std::string text = iesFileText(record);
-    ASSERT_EQ(iesFileText(test::contentOf(text).record), text);
+    ASSERT_EQ(iesFileText(test::iesContentOf(text).record), text);
 }
 
 TEST(IesReaderFuzz, damagedFilesAreReadOrRefused)

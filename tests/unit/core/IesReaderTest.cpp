@@ -9,15 +9,15 @@ namespace penwright {
 namespace {
 
 using namespace std::string_literals;
-using test::contentOf;
+using test::iesContentOf;
 using test::kFileWithoutTilt;
 using test::kWholeFile;
 using test::with;
 
 TEST(IesReader, readsEveryNumberToItsPlace)
 {
-    EXPECT_EQ(contentOf(kWholeFile).record, test::wholeRecord());
-    EXPECT_EQ(contentOf(kFileWithoutTilt).record, test::recordWithoutTilt());
+    EXPECT_EQ(iesContentOf(kWholeFile).record, test::wholeRecord());
+    EXPECT_EQ(iesContentOf(kFileWithoutTilt).record, test::recordWithoutTilt());
 }
 
 struct VersionCase {
@@ -48,7 +48,7 @@ INSTANTIATE_TEST_SUITE_P(FirstLines, IesVersion,
 
 TEST_P(IesVersion, isKnownByTheFirstWord)
 {
-    const IesContent content = contentOf(with(kFileWithoutTilt, "IESNA:LM-63-1995", GetParam().firstLine));
+    const IesContent content = iesContentOf(with(kFileWithoutTilt, "IESNA:LM-63-1995", GetParam().firstLine));
     EXPECT_EQ(content.year, GetParam().year);
     PhotometricRecord expected = test::recordWithoutTilt();
     expected.Keywords = content.record.Keywords;
@@ -58,38 +58,38 @@ TEST_P(IesVersion, isKnownByTheFirstWord)
 TEST(IesReader, a1986FileHasAnyLinesOrNone)
 {
     const std::string numbers = kFileWithoutTilt.substr(kFileWithoutTilt.find("TILT="));
-    EXPECT_EQ(contentOf(numbers).record.Keywords, OneBased<std::string>());
-    EXPECT_EQ(contentOf(numbers).year, 1986);
-    EXPECT_EQ(contentOf("Downlight, \r\n\r\n  4 lamps TILT=NONE\r\n" + numbers).record.Keywords,
+    EXPECT_EQ(iesContentOf(numbers).record.Keywords, OneBased<std::string>());
+    EXPECT_EQ(iesContentOf(numbers).year, 1986);
+    EXPECT_EQ(iesContentOf("Downlight, \r\n\r\n  4 lamps TILT=NONE\r\n" + numbers).record.Keywords,
               (OneBased<std::string>{"Downlight, ", "", "  4 lamps TILT=NONE"}));
 }
 
 TEST(IesReader, keywordLinesBecomeUtf8)
 {
     const std::string german = with(kWholeFile, "Example Lighting", "Gl\xFChlicht");
-    EXPECT_EQ(contentOf(german).record.Keywords(3), "[MANUFAC] Gl\xC3\xBChlicht");
+    EXPECT_EQ(iesContentOf(german).record.Keywords(3), "[MANUFAC] Gl\xC3\xBChlicht");
     const std::string twice = with(kWholeFile, "Example Lighting", "Gl\xC3\xBChlicht");
-    EXPECT_EQ(contentOf(twice).record.Keywords(3), "[MANUFAC] Gl\xC3\xBChlicht");
+    EXPECT_EQ(iesContentOf(twice).record.Keywords(3), "[MANUFAC] Gl\xC3\xBChlicht");
 }
 
 TEST(IesReader, saysWhichTiltFileItDoesNotRead)
 {
-    const IesContent content = contentOf(with(kFileWithoutTilt, "TILT=NONE", "TILT= my lamp.tlt "));
+    const IesContent content = iesContentOf(with(kFileWithoutTilt, "TILT=NONE", "TILT= my lamp.tlt "));
     EXPECT_EQ(content.tiltFile, "my lamp.tlt");
     EXPECT_FALSE(content.record.TiltIncl);
-    EXPECT_EQ(contentOf(kWholeFile).tiltFile, "");
+    EXPECT_EQ(iesContentOf(kWholeFile).tiltFile, "");
 }
 
 TEST(IesReader, keepsTheSecondNumberOfTheBallastLine)
 {
-    EXPECT_EQ(contentOf(kWholeFile).ballastLampFactor, 1);
+    EXPECT_EQ(iesContentOf(kWholeFile).ballastLampFactor, 1);
     const std::string newest = with(kWholeFile, "IESNA:LM-63-1995", "IES:LM-63-2019");
-    EXPECT_EQ(contentOf(with(newest, "0.97 1 117.4", "0.97 1.00010 117.4")).ballastLampFactor, 1.0001);
+    EXPECT_EQ(iesContentOf(with(newest, "0.97 1 117.4", "0.97 1.00010 117.4")).ballastLampFactor, 1.0001);
 }
 
 TEST(IesReader, readsTypeBAndFeet)
 {
-    const PhotometricRecord record = contentOf(with(kWholeFile, " 5 2 1 2 ", " 5 2 2 1 ")).record;
+    const PhotometricRecord record = iesContentOf(with(kWholeFile, " 5 2 1 2 ", " 5 2 2 1 ")).record;
     EXPECT_EQ(record.PhotometricType, kTypeB);
     EXPECT_EQ(record.UnitsType, kFeet);
 }
@@ -97,13 +97,13 @@ TEST(IesReader, readsTypeBAndFeet)
 TEST(IesReader, readsTiltWithoutAngles)
 {
     const std::string none = with(kWholeFile, "3\r\n0 45 90\r\n1 0.95 0.9\r\n", "0\r\n");
-    EXPECT_TRUE(contentOf(none).record.TiltIncl);
-    EXPECT_EQ(contentOf(none).record.NumTiltAngles, 0);
+    EXPECT_TRUE(iesContentOf(none).record.TiltIncl);
+    EXPECT_EQ(iesContentOf(none).record.NumTiltAngles, 0);
 }
 
 TEST(IesReader, readsEqualAngles)
 {
-    EXPECT_EQ(contentOf(with(kWholeFile, "0 180\r\n", "90 90\r\n")).record.HorAngles, (OneBased<float>{90, 90}));
+    EXPECT_EQ(iesContentOf(with(kWholeFile, "0 180\r\n", "90 90\r\n")).record.HorAngles, (OneBased<float>{90, 90}));
 }
 
 std::string replaced(const std::string &text, const char *form, const char *other)
@@ -165,13 +165,14 @@ INSTANTIATE_TEST_SUITE_P(Forms, IesForm,
 
 TEST_P(IesForm, readsTheSame)
 {
-    EXPECT_EQ(contentOf(GetParam().bytes).record, test::wholeRecord());
+    EXPECT_EQ(iesContentOf(GetParam().bytes).record, test::wholeRecord());
 }
 
 TEST(IesReader, takesACommaWithABlankInAnyVersion)
 {
     const std::string newer = with(kWholeFile, "1995", "2002");
-    EXPECT_EQ(contentOf(with(newer, "101 102 103", "101, 102 ,\r\n103")).record.Candela, test::wholeRecord().Candela);
+    EXPECT_EQ(iesContentOf(with(newer, "101 102 103", "101, 102 ,\r\n103")).record.Candela,
+              test::wholeRecord().Candela);
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 namespace penwright::test {
 
 /// What was read; a file that is refused fails the test and gives an empty record.
-inline IesContent contentOf(std::string_view bytes)
+inline IesContent iesContentOf(std::string_view bytes)
 {
     const auto reading = readIesFile(bytes);
     if (const IesFault *fault = std::get_if<IesFault>(&reading)) {

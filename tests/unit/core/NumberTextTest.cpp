@@ -2,21 +2,10 @@
 
 #include <limits>
 
-#include "platform/RunTimeError.h"
+#include "support/ErrorOf.h"
 
 namespace penwright {
 namespace {
-
-template <typename Body>
-int errorOf(const Body &body)
-{
-    try {
-        body();
-    } catch (const RunTimeError &error) {
-        return error.number();
-    }
-    return 0;
-}
 
 struct NumericCase {
     std::string text;
@@ -74,7 +63,7 @@ TEST(NumberText, whatNoDoubleHoldsIsNoNumberAndOverflows)
 {
     for (const std::string &text : {std::string("1e999"), std::string("-1e999"), std::string(400, '9')}) {
         EXPECT_FALSE(isNumeric(text)) << text;
-        EXPECT_EQ(errorOf([&] { leadingNumber(text); }), 6) << text;
+        EXPECT_EQ(test::errorOf([&] { leadingNumber(text); }), 6) << text;
     }
 }
 
@@ -104,8 +93,8 @@ TEST(NumberText, singlesAreNarrowedToNearest)
     EXPECT_EQ(toSingle("0.1"), 0.1F);
     EXPECT_EQ(toSingle("16777217"), 16777216.0F);
     EXPECT_EQ(toSingle("1e-60"), 0.0F);
-    EXPECT_EQ(errorOf([] { toSingle("3.5e38"); }), 6);
-    EXPECT_EQ(errorOf([] { toSingle("x"); }), 13);
+    EXPECT_EQ(test::errorOf([] { toSingle("3.5e38"); }), 6);
+    EXPECT_EQ(test::errorOf([] { toSingle("x"); }), 13);
 }
 
 TEST(NumberText, integersRoundHalvesToEven)
@@ -121,10 +110,10 @@ TEST(NumberText, integersBeyondTheirTypeOverflow)
     EXPECT_EQ(toInt16("-32768"), -32768);
     EXPECT_EQ(toInt16("32767.4"), 32767);
     for (const char *text : {"32768", "-32769", "32767.5", "1e9"})
-        EXPECT_EQ(errorOf([&] { toInt16(text); }), 6) << text;
+        EXPECT_EQ(test::errorOf([&] { toInt16(text); }), 6) << text;
     EXPECT_EQ(toInt32("2147483647"), 2147483647);
-    EXPECT_EQ(errorOf([] { toInt32("2147483648"); }), 6);
-    EXPECT_EQ(errorOf([] { toInt32(""); }), 13);
+    EXPECT_EQ(test::errorOf([] { toInt32("2147483648"); }), 6);
+    EXPECT_EQ(test::errorOf([] { toInt32(""); }), 13);
 }
 
 TEST(NumberText, storeFormHasNoZeroBeforeThePoint)

@@ -8,7 +8,7 @@
 namespace penwright::test {
 namespace {
 
-PhotometricRecord named(const std::string &name)
+PhotometricRecord withFourLamps(const std::string &name)
 {
     PhotometricRecord record;
     record.Filename = name;
@@ -53,13 +53,13 @@ class Send : public HostOperationsTest, public testing::WithParamInterface<SendC
 
 TEST_P(Send, storesTheWorkingRecordAndPosts)
 {
-    bench.state.CandelaWorkRecord = {named("work.ies"), named("second")};
+    bench.state.CandelaWorkRecord = {withFourLamps("work.ies"), withFourLamps("second")};
     (operations.*GetParam().send)();
     EXPECT_EQ(posted, GetParam().posted);
     EXPECT_EQ(bench.value("Filename1"), "work.ies");
     EXPECT_EQ(bench.value("Filename2"), "");
     EXPECT_EQ(bench.value("OtherData1"), "4,0,0,0,0,0,0,0,0,0");
-    EXPECT_EQ(bench.state.PhotFiles(1), named("work.ies"));
+    EXPECT_EQ(bench.state.PhotFiles(1), withFourLamps("work.ies"));
     EXPECT_EQ(bench.dialogs.transcript, "");
 }
 
@@ -69,7 +69,7 @@ TEST_P(Send, noRecordToStoreIsOneMessageAndNoPost)
     EXPECT_EQ(posted, "");
     EXPECT_EQ(bench.dialogs.transcript, "[Send Data|4144] No photometric data loaded.\n");
     bench.dialogs.transcript.clear();
-    bench.state.CandelaWorkRecord = {named("work.ies")};
+    bench.state.CandelaWorkRecord = {withFourLamps("work.ies")};
     bench.state.PhotFiles.clear();
     (operations.*GetParam().send)();
     EXPECT_EQ(posted, "");
@@ -78,7 +78,7 @@ TEST_P(Send, noRecordToStoreIsOneMessageAndNoPost)
 
 TEST_P(Send, storeThatCannotBeWrittenIsAnErrorAndNoPost)
 {
-    bench.state.CandelaWorkRecord = {named("work.ies")};
+    bench.state.CandelaWorkRecord = {withFourLamps("work.ies")};
     HostOperations broken(bench.state, bench.fullStore, bench.dialogs, bench.wait, log, noteLog);
     EXPECT_THROW((broken.*GetParam().send)(), RunTimeError);
     EXPECT_EQ(posted, "");
@@ -90,28 +90,28 @@ INSTANTIATE_TEST_SUITE_P(Words, Send,
 
 TEST_F(HostOperationsTest, refreshAsksTheHostAndLoadsIntoTheWorkingRecords)
 {
-    onTaken = [this] { hostStores(named("fresh.ies")); };
+    onTaken = [this] { hostStores(withFourLamps("fresh.ies")); };
     operations.refresh();
     EXPECT_EQ(posted, "RefreshData;");
-    EXPECT_EQ(bench.state.CandelaWorkRecord, OneBased<PhotometricRecord>{named("fresh.ies")});
+    EXPECT_EQ(bench.state.CandelaWorkRecord, OneBased<PhotometricRecord>{withFourLamps("fresh.ies")});
     EXPECT_EQ(log.txtCmds(), "");
     EXPECT_EQ(toldLogs, 0);
 }
 
 TEST_F(HostOperationsTest, refreshWithoutARecordLogsItAndChangesNothing)
 {
-    bench.state.PhotFiles(1) = named("mine");
-    bench.state.CandelaWorkRecord = {named("work")};
+    bench.state.PhotFiles(1) = withFourLamps("mine");
+    bench.state.CandelaWorkRecord = {withFourLamps("work")};
     operations.refresh();
     EXPECT_EQ(log.txtCmds(), "No data error: no file\r\n");
     EXPECT_EQ(toldLogs, 1);
-    EXPECT_EQ(bench.state.PhotFiles(1), named("mine"));
-    EXPECT_EQ(bench.state.CandelaWorkRecord(1), named("work"));
+    EXPECT_EQ(bench.state.PhotFiles(1), withFourLamps("mine"));
+    EXPECT_EQ(bench.state.CandelaWorkRecord(1), withFourLamps("work"));
 }
 
 TEST_F(HostOperationsTest, refreshNamesTheProblemOfARecordThatDoesNotParse)
 {
-    hostStores(named("fresh.ies"));
+    hostStores(withFourLamps("fresh.ies"));
     bench.setValue("OtherData1", "1");
     operations.refresh();
     EXPECT_EQ(log.txtCmds(), "No data error: Problem parsing other data\r\n");
@@ -128,7 +128,7 @@ TEST_F(HostOperationsTest, refreshOverAStoreThatFailsLogsTheReason)
 TEST_F(HostOperationsTest, refreshGoesNoFurtherOnceUnloadingBegins)
 {
     onTaken = [this] {
-        hostStores(named("fresh.ies"));
+        hostStores(withFourLamps("fresh.ies"));
         bench.wait.cancelled = true;
     };
     bench.wait.onTurn = [this] { onTaken(); };

@@ -8,7 +8,7 @@ namespace {
 /// A picture of one pixel for each candela around (0, 0), y down.
 constexpr PlotScales kScales{{{0, 0}, 1, 1}, {{0, 0}, 1, 1}};
 
-PlotCurves lobe(float vertical = 45, PlotShape shape = PlotShape::Polar)
+PlotCurves lobeCurves(float vertical = 45, PlotShape shape = PlotShape::Polar)
 {
     const PlotTableCase table = plotTable(
         "", kTypeC, {0, 90, 180}, {0, 30, 60, 90},
@@ -24,7 +24,7 @@ std::string at(const PlotCurves &curves, double x, double y, const PlotScales &s
 
 TEST(PlotReading, isTheValueNearestToThePointer)
 {
-    const PlotCurves curves = lobe(60);
+    const PlotCurves curves = lobeCurves(60);
     EXPECT_EQ(at(curves, 0, 1100), "H 0, V 0: 1000 cd");
     EXPECT_EQ(at(curves, 460, 760), "H 0, V 30: 866 cd");
     EXPECT_EQ(at(curves, 0.1, 0), "H 0, V 90: 0 cd");
@@ -32,7 +32,7 @@ TEST(PlotReading, isTheValueNearestToThePointer)
 
 TEST(PlotReading, onTheLeftHalfIsOneOfTheOppositePlane)
 {
-    EXPECT_EQ(at(lobe(), -350, 600), "H 180, V 30: 693 cd");
+    EXPECT_EQ(at(lobeCurves(), -350, 600), "H 180, V 30: 693 cd");
 }
 
 TEST(PlotReading, isOfTheCurveWhoseLineIsNearestHoweverFarItsValuesAre)
@@ -73,9 +73,9 @@ TEST(PlotReading, withoutAValueThereIsNone)
 TEST(PlotReading, inTheLinearShapeIsTheNearestToo)
 {
     const PlotScales scales{{{0, 0}, 10, 1}, {{0, 0}, 5, 1}};
-    EXPECT_EQ(at(lobe(60, PlotShape::Linear), 10 * 30, -870, scales), "H 0, V 30: 866 cd");
-    EXPECT_EQ(at(lobe(60, PlotShape::Linear), 10 * -30, -690, scales), "H 180, V 30: 693 cd");
-    EXPECT_EQ(at(lobe(60, PlotShape::Linear), 5 * 270, -495, scales), "H 270, V 60: 500 cd");
+    EXPECT_EQ(at(lobeCurves(60, PlotShape::Linear), 10 * 30, -870, scales), "H 0, V 30: 866 cd");
+    EXPECT_EQ(at(lobeCurves(60, PlotShape::Linear), 10 * -30, -690, scales), "H 180, V 30: 693 cd");
+    EXPECT_EQ(at(lobeCurves(60, PlotShape::Linear), 5 * 270, -495, scales), "H 270, V 60: 500 cd");
 }
 
 class PlotSteps : public testing::Test {
@@ -86,7 +86,7 @@ protected:
         return reading ? readingText(*reading) : "none";
     }
 
-    PlotCurves curves = lobe(60);
+    PlotCurves curves = lobeCurves(60);
     std::optional<PlotReading> reading;
 };
 
@@ -123,7 +123,7 @@ TEST_F(PlotSteps, aPlaceStaysInAnotherPictureThatHasIt)
 {
     step(PlotStep::Next);
     step(PlotStep::Last);
-    EXPECT_EQ(readingText(*readingAgain(lobe(30), *reading)), "H 0, V 90: 0 cd");
+    EXPECT_EQ(readingText(*readingAgain(lobeCurves(30), *reading)), "H 0, V 90: 0 cd");
     const PlotCurves shorter = curvesOf(plotTable(
         "", kTypeB, {0}, {0, 90}, [](double, double) { return 5; }, 0, 0));
     EXPECT_FALSE(readingAgain(shorter, *reading));

@@ -86,7 +86,7 @@ TEST(Remarks, ofARuleLeadToItsHeading)
         EXPECT_EQ(anchorOf(rule), anchor);
 }
 
-double disc(double, double v)
+double lambertian(double, double v)
 {
     return 1000 * cosine(v);
 }
@@ -133,11 +133,11 @@ INSTANTIATE_TEST_SUITE_P(
         {"negative counts", [](PhotometricRecord &r) { r.NumHorzAngles = r.NumVertAngles = -5; }},
         {"more than counted", [](PhotometricRecord &r) { r.NumHorzAngles = r.NumVertAngles = 1; }},
         {"zeros", [](PhotometricRecord &r) { r.Candela.reset(5, 19); }},
-        {"one angle of each", [](PhotometricRecord &r) { r = withTable(r, kTypeC, {0}, {0}, disc); }},
-        {"one angle of each in type B", [](PhotometricRecord &r) { r = withTable(r, kTypeB, {0}, {0}, disc); }},
+        {"one angle of each", [](PhotometricRecord &r) { r = withTable(r, kTypeC, {0}, {0}, lambertian); }},
+        {"one angle of each in type B", [](PhotometricRecord &r) { r = withTable(r, kTypeB, {0}, {0}, lambertian); }},
         {"equal angles",
          [](PhotometricRecord &r) {
-             r = withTable(r, kTypeC, {0, 0, 0}, {90, 90, 90}, disc);
+             r = withTable(r, kTypeC, {0, 0, 0}, {90, 90, 90}, lambertian);
          }},
         {"no numbers",
          [](PhotometricRecord &r) {

@@ -64,7 +64,7 @@ TEST_F(HeldCandela, takesNoMemoryForCellsThatItDoesNotHave)
 {
     build({0, 90}, {0, 90});
     apply(table, table.PasteCandelaTable("1\t2\n3\t4\n"));
-    const AllocationLimit limit(10'000'000);
+    const AllocationLimit tenMegabytes(10'000'000);
     EXPECT_FALSE(bringBack(table, std::string(30'000, '\t') + std::string(30'000, '\n')));
     EXPECT_EQ(table.CopyCandelaTable(), "1\t2\r\n3\t4\r\n");
 }

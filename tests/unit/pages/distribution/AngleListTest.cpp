@@ -5,6 +5,7 @@
 #include "core/PhotometricRecord.h"
 #include "support/GridEdits.h"
 #include "support/HeldGrid.h"
+#include "unit/pages/distribution/AxisLetters.h"
 
 namespace penwright::test {
 namespace {
@@ -20,9 +21,6 @@ Resizing resize(AngleList &list, std::string_view text, std::int16_t type)
     apply(list, std::move(resizing->edit));
     return resizing->becomesOne ? Resizing::BecameOne : Resizing::Sized;
 }
-
-constexpr AngleAxis V = AngleAxis::Vertical;
-constexpr AngleAxis H = AngleAxis::Horizontal;
 
 /// What the cells hold: a text in quotes, a single as it stands.
 std::string shown(const AngleCells &cells)

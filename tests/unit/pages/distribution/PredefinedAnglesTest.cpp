@@ -8,6 +8,7 @@
 #include "core/PhotometricRecord.h"
 #include "pages/distribution/AngleList.h"
 #include "support/GridEdits.h"
+#include "unit/pages/distribution/AxisLetters.h"
 
 namespace penwright::test {
 namespace {
@@ -26,9 +27,6 @@ void PrintTo(const EntryCase &entry, std::ostream *out)
 {
     *out << entry.text << (entry.axis == AngleAxis::Vertical ? ", vertical" : ", horizontal");
 }
-
-constexpr AngleAxis V = AngleAxis::Vertical;
-constexpr AngleAxis H = AngleAxis::Horizontal;
 
 const std::vector<EntryCase> kEntries{
     {kTypeB, V, "10, 0 to 90, 10 degree increments", 10, 0, 90, 10},

@@ -64,16 +64,16 @@ TEST_P(ShapeLook, isTheRowOfTheTable)
 
 TEST(LuminousShapes, areThereFromZeroOnAndEachHasItsName)
 {
-    constexpr int kShapes = kShapeCount;
+    constexpr int kAll = kShapeCount;
     EXPECT_FALSE(luminousShapeAt(-1));
     std::set<std::string_view> names;
-    for (int position = 0; position < kShapes; ++position) {
+    for (int position = 0; position < kAll; ++position) {
         ASSERT_TRUE(luminousShapeAt(position)) << position;
         names.insert(luminousShapeAt(position)->name);
     }
     EXPECT_EQ(names.size(), kShapeCount);
     EXPECT_EQ(names.count(""), 0U);
-    EXPECT_FALSE(luminousShapeAt(kShapes));
+    EXPECT_FALSE(luminousShapeAt(kAll));
 }
 
 /// A dimension with its sign, which "==" does not tell of zeros.
