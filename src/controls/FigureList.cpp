@@ -11,7 +11,7 @@ namespace penwright {
 namespace {
 
 constexpr int kValueRole = Qt::UserRole;
-constexpr int kGap = 14;  // pixels between name and value
+constexpr int kNameGap = 14;  // pixels between name and value
 
 /// Two columns: the names, then the values, which begin at one place.
 class FigureDelegate : public QStyledItemDelegate {
@@ -53,7 +53,7 @@ private:
                                           -kItemMargin.height() / 2);
         const int width = std::min(m_nameWidth, inner.width() * 3 / 5);
         QRect value = inner;
-        value.setLeft(inner.left() + width + kGap);
+        value.setLeft(inner.left() + width + kNameGap);
         return {QRect(inner.topLeft(), QSize(width, inner.height())), value};
     }
 

@@ -12,7 +12,7 @@ namespace penwright {
 namespace {
 
 constexpr const char *kWhy = "why";
-constexpr int kGap = 12;  // pixels between sentence and "why"
+constexpr int kWhyGap = 12;  // pixels between sentence and "why"
 
 QFont linkFont(const QFont &font)
 {
@@ -62,7 +62,7 @@ private:
     {
         QRect sentence = item.adjusted(kItemMargin.width(), kItemMargin.height(), -kItemMargin.width(), 0);
         if (hasWhy)
-            sentence.setRight(whyIn(item, metrics).left() - kGap);
+            sentence.setRight(whyIn(item, metrics).left() - kWhyGap);
         return sentence;
     }
 };

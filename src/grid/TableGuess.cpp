@@ -23,7 +23,7 @@ std::string squeezed(std::string_view text)
 /// Whether a unit per kilolumen stands there. "10 W / 1000 lm" is no such unit, but says what the lamps give.
 bool namesKilolumen(std::string_view text)
 {
-    static constexpr std::string_view kWords[]{"/klm",
+    static constexpr std::string_view kUnits[]{"/klm",
                                                "cdklm",
                                                "perklm",
                                                "proklm",
@@ -39,7 +39,7 @@ bool namesKilolumen(std::string_view text)
                                                "per1000lamplumen",
                                                "pro1000lm"};
     const std::string letters = squeezed(text);
-    for (const std::string_view word : kWords)
+    for (const std::string_view word : kUnits)
         if (letters.find(word) != std::string::npos)
             return true;
     return false;

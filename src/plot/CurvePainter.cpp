@@ -15,16 +15,12 @@ constexpr double kLongestShape = 10'000;  // some ten times around a large pictu
 constexpr double kLonePoint = 1.5;        // radius of a value between two gaps
 constexpr double kClosest = 0.25;         // between two points of a line that can be told apart
 
-QPointF pointOf(const PlotPixel &place)
-{
-    return {place.x, place.y};
-}
-
 QPolygonF lineOf(const PlotRun &run, const PlotScale &scale)
 {
     QPolygonF line;
     for (const PlotPoint &point : run) {
-        const QPointF next = pointOf(scale.placeOf(point));
+        const PlotPixel place = scale.placeOf(point);
+        const QPointF next(place.x, place.y);
         const bool last = &point == &run.back();
         if (line.isEmpty() || last || (next - line.last()).manhattanLength() >= kClosest)
             line.append(next);

@@ -9,7 +9,7 @@ namespace penwright {
 
 namespace {
 
-constexpr double kGap = 3;  // pixels, as all lengths here
+constexpr double kFieldGap = 3;  // pixels, as all lengths here
 constexpr double kMargin = 6;
 constexpr double kAside = 7;  // of figures and letters beside the grid, where a mark may stand in its corner
 constexpr double kLeastLetteredWidth = 90;
@@ -48,7 +48,7 @@ void appendAngles(std::vector<PlotFigure> &figures, const PlotField &field, cons
         if (left < free)
             continue;
         figures.push_back({text, {left, top, width, room.figureHeight}});
-        free = left + width + 2 * kGap;
+        free = left + width + 2 * kFieldGap;
     }
 }
 
@@ -66,7 +66,7 @@ std::vector<PlotFigure> candelasBeside(const PlotField &field, const PlotTextRoo
             return;
         const double width = room.figureWidth(text);
         figures.push_back({text, {field.box.left - kAside - width, top, width, room.figureHeight}});
-        free = top + room.figureHeight + kGap;
+        free = top + room.figureHeight + kFieldGap;
     };
     for (auto ring = rings.rbegin(); ring != rings.rend(); ++ring)
         append(ring->text, ring->candela);
@@ -126,13 +126,13 @@ PlotField plotField(const PlotBox &area, const PlotTextRoom &room, const PlotPic
     const double bottom = area.top + area.height;
     if (field.lettered) {
         const double letters = std::max(room.letterSize("H").width, room.letterSize("V").width);
-        const double beside = std::max(room.figureWidth(kWidestAngle) / 2, letters + kAside) + kGap;
-        const double line = room.figureHeight + kAside + kGap;
+        const double beside = std::max(room.figureWidth(kWidestAngle) / 2, letters + kAside) + kFieldGap;
+        const double line = room.figureHeight + kAside + kFieldGap;
         const double before = std::max(widestCandela(picture.rings, room) + kAside, room.figureWidth(kWidestAngle) / 2);
         const double above = hasCone(picture.curves) ? line : room.figureHeight / 2 + kMargin;
         field.box = sharp(area.left + before + kMargin, area.top + above, right - beside, bottom - line);
     } else {
-        field.box = sharp(area.left + kGap, area.top + kGap, right - kGap, bottom - kGap);
+        field.box = sharp(area.left + kFieldGap, area.top + kFieldGap, right - kFieldGap, bottom - kFieldGap);
     }
     if (picture.curves.largest() > 0)
         field.perCandela = field.box.height / picture.curves.largest();

@@ -8,7 +8,7 @@ namespace penwright {
 
 namespace {
 
-constexpr double kMargin = 3;
+constexpr double kFrameMargin = 3;
 constexpr double kLeastLettered = 45;  // radius
 
 }  // namespace
@@ -21,14 +21,14 @@ PlotPixel PlotFrame::polar(double length, double degrees) const
 
 PlotFrame plotFrame(const PlotBox &area, const PlotTextRoom &room, double largest)
 {
-    const double aside = room.figureWidth("-90\u00B0") + 2 * kMargin;
-    const double above = room.plainHeight + 3 * kMargin;
+    const double aside = room.figureWidth("-90\u00B0") + 2 * kFrameMargin;
+    const double above = room.plainHeight + 3 * kFrameMargin;
     PlotFrame frame;
     frame.centre = {std::floor(area.left + area.width / 2) + 0.5, std::floor(area.top + area.height / 2) + 0.5};
     frame.radius = std::floor(std::min(area.width / 2 - aside, area.height / 2 - above));
     frame.lettered = frame.radius >= kLeastLettered;
     if (!frame.lettered)
-        frame.radius = std::max(0.0, std::floor(std::min(area.width, area.height) / 2 - kMargin));
+        frame.radius = std::max(0.0, std::floor(std::min(area.width, area.height) / 2 - kFrameMargin));
     if (largest > 0)
         frame.perCandela = frame.radius / largest;
     return frame;

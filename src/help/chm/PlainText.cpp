@@ -11,13 +11,13 @@ namespace {
 
 std::string squeezed(std::string_view text)
 {
-    constexpr std::string_view kBlanks = " \t\r\n\f";
+    constexpr std::string_view kWhite = " \t\r\n\f";
     std::string result;
     while (true) {
-        text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+        text.remove_prefix(std::min(text.find_first_not_of(kWhite), text.size()));
         if (text.empty())
             return result;
-        const auto end = std::min(text.find_first_of(kBlanks), text.size());
+        const auto end = std::min(text.find_first_of(kWhite), text.size());
         result.append(result.empty() ? "" : " ").append(text.substr(0, end));
         text.remove_prefix(end);
     }

@@ -13,7 +13,7 @@ namespace penwright {
 namespace {
 
 constexpr long long kApplication = 1282753650;
-constexpr long long kVersion = 1;
+constexpr long long kDraftVersion = 1;
 constexpr int kPatienceInMilliseconds = 1000;
 
 constexpr const char *kTables[]{
@@ -66,7 +66,7 @@ bool isNew(sqlite3 *database)
 void expectVersion(sqlite3 *database)
 {
     if (sqliteNumber(database, "PRAGMA application_id") != kApplication ||
-        sqliteNumber(database, "PRAGMA user_version") != kVersion)
+        sqliteNumber(database, "PRAGMA user_version") != kDraftVersion)
         throw failureOf(SQLITE_MISMATCH);
 }
 

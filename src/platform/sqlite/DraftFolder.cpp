@@ -26,7 +26,6 @@ namespace {
 constexpr std::string_view kFront = "draft-";
 constexpr std::string_view kEnd = ".sqlite3";
 constexpr std::string_view kLockEnd = ".sqlite3.lock";
-constexpr mode_t kPrivate = 0600;
 
 /// A table of 10^6 values is 20 MB of text. What is larger than this is not read into memory.
 constexpr off_t kLargest = 256'000'000;

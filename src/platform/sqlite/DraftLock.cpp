@@ -14,7 +14,6 @@ namespace penwright {
 namespace {
 
 constexpr int kFlags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
-constexpr mode_t kPrivate = 0600;
 
 bool isRegular(int file)
 {

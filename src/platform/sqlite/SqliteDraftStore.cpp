@@ -21,17 +21,17 @@ constexpr int kNoPermission = 70;
 constexpr std::int64_t kMicros = 1'000'000;
 
 // Whoever only looks at a draft has it for a moment.
-constexpr auto kPatience = 200ms;
-constexpr auto kPause = 5ms;
+constexpr auto kDraftPatience = 200ms;
+constexpr auto kDraftPause = 5ms;
 
 std::optional<DraftLock> lockAlone(const std::string &path)
 {
-    const auto end = std::chrono::steady_clock::now() + kPatience;
+    const auto end = std::chrono::steady_clock::now() + kDraftPatience;
     for (;;) {
         auto lock = DraftLock::take(path, DraftLock::Kind::Alone);
         if (lock || std::chrono::steady_clock::now() > end)
             return lock;
-        std::this_thread::sleep_for(kPause);
+        std::this_thread::sleep_for(kDraftPause);
     }
 }
 

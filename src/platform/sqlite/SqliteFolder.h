@@ -8,6 +8,9 @@
 
 namespace penwright {
 
+/// The mode of a file that its owner alone reads and writes.
+inline constexpr mode_t kPrivate = 0600;
+
 /// While it lives, new files and folders are for their owner alone.
 class PrivateModes {
 public:
