@@ -4,6 +4,7 @@
 #include <map>
 #include <QBuffer>
 #include <QDir>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -180,6 +181,21 @@ TEST_F(Browser, isReadByTheArrows)
     EXPECT_EQ(line(), "First line.");
     browser.showPlace({"page.html", "low"});
     EXPECT_EQ(line(), "Low");
+}
+
+// What stands at the top when the page ends too early is no place for the caret: the view would follow it there.
+TEST_F(Browser, showsAnAnchorThatIsTooLowToReachTheTop)
+{
+    std::string lines;
+    for (int line = 0; line < 60; ++line)
+        lines += "line<br>";
+    show({{"/page.html", "<p>Before.</p><table><tr><th>One</th><th>Two</th></tr><tr><td>" + lines +
+                             "</td><td>end</td></tr></table><h2><a name=\"low\">Low</a></h2><p>End.</p>"}},
+         "page.html");
+    browser.showPlace({"page.html", "low"});
+    EXPECT_EQ(browser.textCursor().block().text().toStdString(), "Low");
+    EXPECT_TRUE(browser.viewport()->rect().contains(browser.cursorRect()));
+    EXPECT_EQ(browser.verticalScrollBar()->value(), browser.verticalScrollBar()->maximum());
 }
 
 TEST_F(Browser, followsLinksWithinTheFileAlone)

@@ -5,6 +5,7 @@
 #include <QImageReader>
 #include <QRegularExpression>
 #include <QScrollBar>
+#include <QTextBlock>
 #include <QWheelEvent>
 #include <utility>
 
@@ -51,6 +52,19 @@ std::string linkOf(const QUrl &url)
             const QString anchor = url.hasFragment() ? "#" + url.fragment(QUrl::FullyEncoded) : QString();
             return (url.path(QUrl::FullyEncoded) + anchor).toStdString();
         }
+    return {};
+}
+
+/// Where an anchor stands; null when no part of the page has the name.
+QTextCursor anchorOf(const QTextDocument &document, const QString &name)
+{
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        for (auto part = block.begin(); !part.atEnd(); ++part)
+            if (part.fragment().charFormat().anchorNames().contains(name)) {
+                QTextCursor cursor(block);
+                cursor.setPosition(part.fragment().position());
+                return cursor;
+            }
     return {};
 }
 
@@ -103,8 +117,9 @@ void HelpBrowser::showPlace(const HelpPlace &place)
 void HelpBrowser::onSource(const QUrl &url)
 {
     m_place = placeOf(url).value_or(HelpPlace());
-    if (!m_place.anchor.empty())
-        setTextCursor(cursorForPosition({}));  // who reads by the caret begins where the page is shown
+    // Who reads by the caret begins there; what is at the top may be a line above it, to which the view would go.
+    if (const QTextCursor anchor = anchorOf(*document(), QString::fromStdString(m_place.anchor)); !anchor.isNull())
+        setTextCursor(anchor);
     emit placeChanged();
 }
 
