@@ -1,13 +1,13 @@
 #include "controls/NumberedText.h"
 
 #include <algorithm>
-#include <limits>
 #include <QContextMenuEvent>
 #include <QFontDatabase>
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <QTimer>
 #include <utility>
 
 #include "controls/MixedColour.h"
@@ -16,26 +16,48 @@
 namespace penwright {
 namespace {
 
-constexpr qsizetype kLongestPiece = 4096;  // the time of a line grows faster than its length
+constexpr std::size_t kLongestPiece = 4096;  // bytes: the time of a line grows faster than its length
 constexpr int kNumberMargin = 8;
 
-int linesOf(const std::string &text)
+/// Line ends, and what stands behind the last one.
+int linesOf(std::string_view text)
 {
-    const auto ends = std::count(text.begin(), text.end(), '\n');
-    return static_cast<int>(ends) + (text.empty() || text.back() != '\n' ? 1 : 0);
+    // Without a branch, so that a text of 100 MB takes no time that is felt.
+    std::size_t ends = 0;
+    for (std::size_t at = 0; at + 1 < text.size(); ++at)
+        ends += static_cast<unsigned>(text[at] == '\n') |
+                (static_cast<unsigned>(text[at] == '\r') & static_cast<unsigned>(text[at + 1] != '\n'));
+    return static_cast<int>(ends) + 1;
 }
 
-/// How much of the text makes a piece: not between the two halves of a character.
-qsizetype pieceLength(const QString &line, qsizetype from)
+/// As much of a line as makes a piece: not between the bytes of a character.
+std::string_view pieceOf(std::string_view line)
 {
-    const qsizetype length = std::min(kLongestPiece, line.size() - from);
-    const bool isSplit = from + length < line.size() && line[from + length].isLowSurrogate();
-    return isSplit ? length - 1 : length;
+    if (line.size() <= kLongestPiece)
+        return line;
+    const auto goesOn = [line](std::size_t at) { return (static_cast<unsigned char>(line[at]) & 0xC0U) == 0x80U; };
+    std::size_t length = kLongestPiece;
+    while (length > kLongestPiece - 3 && goesOn(length))
+        --length;
+    return line.substr(0, length);
+}
+
+/// What the box would take for the end of a line, or of more, though it ends none.
+void hideOtherEnds(QString &text)
+{
+    for (const char16_t end : {u'\u2029', u'\uFDD0', u'\uFDD1'})
+        text.replace(QChar(end), QChar::ReplacementCharacter);
+}
+
+bool isModifier(int key)
+{
+    return key >= Qt::Key_Shift && key <= Qt::Key_ScrollLock;
 }
 
 }  // namespace
 
-NumberedText::NumberedText(QWidget *parent) : QPlainTextEdit(parent)
+NumberedText::NumberedText(QWidget *parent)
+    : QPlainTextEdit(parent), m_more(new QTimer(this)), m_text(std::make_shared<const std::string>())
 {
     setReadOnly(true);
     setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -45,77 +67,122 @@ NumberedText::NumberedText(QWidget *parent) : QPlainTextEdit(parent)
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, &NumberedText::followScrolling);
     connect(this, &QPlainTextEdit::updateRequest, this, [this] { update(); });
+    connect(m_more, &QTimer::timeout, this, &NumberedText::showMore);
 }
 
 void NumberedText::showText(std::string text)
 {
-    const int lines = linesOf(text);
+    showText(std::make_shared<const std::string>(std::move(text)));
+}
+
+void NumberedText::showText(Text text)
+{
+    const int lines = linesOf(*text);
     begin(std::move(text), lines);
 }
 
 void NumberedText::showSentence(const std::string &sentence)
 {
-    begin(sentence, 0);
+    begin(std::make_shared<const std::string>(sentence), 0);
 }
 
-void NumberedText::begin(std::string text, int lines)
+void NumberedText::begin(Text text, int lines)
 {
-    m_text.clear();
+    m_more->stop();
+    m_text = std::make_shared<const std::string>();
     m_shown = 0;
+    m_isInLine = false;
     clear();  // scrolls, which asks for more
     m_text = std::move(text);
     m_lines = lines;
     m_continued.clear();
     layOutNumbers();
-    appendLines(kFirstLines);
+    appendPieces(kFirstLines);
     moveCursor(QTextCursor::Start);
 }
 
-void NumberedText::appendLines(int count)
+/// Goes behind the next line or piece of one, and its line end.
+std::string_view NumberedText::nextPiece()
+{
+    const std::string_view rest = std::string_view(*m_text).substr(m_shown);
+    const std::size_t end = rest.substr(0, kLongestPiece + 1).find_first_of("\r\n");
+    const std::string_view piece = pieceOf(rest.substr(0, end));
+    const bool isAtEnd = piece.size() == end;
+    const bool isTwo = isAtEnd && rest.substr(end, 2) == "\r\n";
+    m_shown += piece.size() + (isAtEnd ? 1 : 0) + (isTwo ? 1 : 0);
+    m_isInLine = !isAtEnd;
+    return piece;
+}
+
+void NumberedText::appendPieces(int count)
 {
     QString added;
     int block = m_shown == 0 ? 0 : blockCount();
-    for (int line = 0; line < count && m_shown < m_text.size(); ++line) {
-        const std::size_t end = std::min(m_text.find('\n', m_shown), m_text.size());
-        const bool isReturned = end > m_shown && m_text[end - 1] == '\r';
-        const QString whole = toQString(std::string_view(m_text).substr(m_shown, end - m_shown - (isReturned ? 1 : 0)));
-        qsizetype from = 0;
-        do {
-            const qsizetype length = pieceLength(whole, from);
-            if (from > 0)
-                m_continued.push_back(block);
-            if (block++ > 0)
-                added += '\n';
-            added += QStringView(whole).mid(from, length);
-            from += length;
-        } while (from < whole.size());
-        m_shown = std::min(end + 1, m_text.size());
+    for (int piece = 0; piece < count && !isWhole(); ++piece, ++block) {
+        if (m_isInLine)
+            m_continued.push_back(block);
+        if (block > 0)
+            added += '\n';
+        added += toQString(nextPiece());
     }
+    hideOtherEnds(added);
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     cursor.insertText(added);
 }
 
-void NumberedText::showRest()
+void NumberedText::showRest(const std::function<void()> &goThere)
 {
-    if (m_shown < m_text.size())
-        appendLines(std::numeric_limits<int>::max());
+    m_goThere = goThere;
+    m_more->start(0);
+    showMore();
+}
+
+/// What is copied is whole.
+void NumberedText::showAll()
+{
+    while (!isWhole())
+        appendPieces(kMostAtOnce);
+    m_goThere();
+}
+
+void NumberedText::showMore()
+{
+    if (!isWhole())
+        appendPieces(kMostAtOnce);
+    if (isWhole())
+        m_more->stop();
+    m_goThere();
 }
 
 void NumberedText::followScrolling()
 {
     const QScrollBar &bar = *verticalScrollBar();
     // As much again each time, so that the end of the longest file is a few steps away.
-    if (m_shown < m_text.size() && bar.value() > bar.maximum() - bar.pageStep())
-        appendLines(std::max(kFirstLines, blockCount()));
+    if (!isWhole() && bar.value() > bar.maximum() - bar.pageStep())
+        appendPieces(std::clamp(blockCount(), kFirstLines, kMostAtOnce));
 }
 
 void NumberedText::keyPressEvent(QKeyEvent *event)
 {
-    if (event->matches(QKeySequence::MoveToEndOfDocument) || event->matches(QKeySequence::SelectEndOfDocument) ||
-        event->matches(QKeySequence::SelectAll))
-        showRest();
-    QPlainTextEdit::keyPressEvent(event);
+    if (event->matches(QKeySequence::Copy) && m_more->isActive())
+        showAll();
+    if (!isModifier(event->key()))
+        m_more->stop();
+    if (event->matches(QKeySequence::MoveToEndOfDocument))
+        showRest([this] { moveCursor(QTextCursor::End); });
+    else if (event->matches(QKeySequence::SelectEndOfDocument))
+        showRest([this] { moveCursor(QTextCursor::End, QTextCursor::KeepAnchor); });
+    else if (event->matches(QKeySequence::SelectAll))
+        showRest([this] { selectAll(); });
+    else
+        QPlainTextEdit::keyPressEvent(event);
+}
+
+void NumberedText::mousePressEvent(QMouseEvent *event)
+{
+    m_more->stop();
+    QPlainTextEdit::mousePressEvent(event);
 }
 
 void NumberedText::contextMenuEvent(QContextMenuEvent *event)
@@ -123,10 +190,7 @@ void NumberedText::contextMenuEvent(QContextMenuEvent *event)
     QMenu *menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (const auto *all = menu->findChild<QAction *>("select-all"))
-        connect(all, &QAction::triggered, this, [this] {
-            showRest();
-            selectAll();
-        });
+        connect(all, &QAction::triggered, this, [this] { showRest([this] { selectAll(); }); });
     menu->popup(event->globalPos());
 }
 

@@ -2,14 +2,19 @@
 
 #include <QPlainTextEdit>
 
+#include <functional>
+#include <memory>
 #include <string>
 #include <vector>
+
+class QTimer;
 
 namespace penwright {
 
 /// A file's text, read-only, in a font of fixed pitch and with line numbers. It stays quick with a file of any size:
 /// the first lines are there at once, the rest comes as one scrolls to it, or all of it with the keys for the end of
-/// the text, for all of it, and with the menu. A line that is longer than any reader of lines takes is shown in pieces,
+/// the text, for all of it, and with the menu; a rest that is long comes bit by bit, while the window goes on, until
+/// another key or a click ends it. A line that is longer than any reader of lines takes is shown in pieces,
 /// which have one number.
 class NumberedText : public QPlainTextEdit {
     Q_OBJECT
@@ -17,11 +22,15 @@ class NumberedText : public QPlainTextEdit {
 public:
     static constexpr int kFirstLines = 2000;
 
+    /// As many lines, or pieces of them, as are shown in a moment.
+    static constexpr int kMostAtOnce = 40'000;
+
     explicit NumberedText(QWidget *parent = nullptr);
 
-    /// Shows a text in UTF-8 from its first line on. Lines end with "\r\n" or "\n"; one behind the last line begins no
-    /// other.
+    /// Shows a text in UTF-8 from its first line on. Lines end with "\r\n", "\n" or "\r"; one behind the last line
+    /// begins no other.
     void showText(std::string text);
+    void showText(std::shared_ptr<const std::string> text);
 
     /// Shows a sentence in place of a text; it has no numbers.
     void showSentence(const std::string &sentence);
@@ -29,20 +38,30 @@ public:
 protected:
     bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
-    void begin(std::string text, int lines);
-    void appendLines(int count);
-    void showRest();
+    using Text = std::shared_ptr<const std::string>;
+
+    void begin(Text text, int lines);
+    bool isWhole() const { return m_shown == m_text->size(); }
+    std::string_view nextPiece();
+    void appendPieces(int count);
+    void showRest(const std::function<void()> &goThere);
+    void showMore();
+    void showAll();
     void followScrolling();
     void layOutNumbers();
     void paintNumbers();
     int numberOf(int block) const;
 
-    std::string m_text;
+    QTimer *m_more;                     ///< runs while a long rest is on its way
+    std::function<void()> m_goThere{};  ///< what the rest is shown for
+    Text m_text;
     std::size_t m_shown = 0;       ///< bytes of it that are in the box
+    bool m_isInLine = false;       ///< they end within a line
     int m_lines = 0;               ///< of the whole text; 0 for a sentence
     int m_numberWidth = 0;         ///< pixels
     std::vector<int> m_continued;  ///< the blocks that go on with the line of the block before

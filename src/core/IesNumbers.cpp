@@ -12,6 +12,7 @@ namespace penwright {
 namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\r\n\v\f";
+constexpr std::size_t kNumbersBetweenQuestions = 100'000;
 
 bool isWhite(char c)
 {
@@ -41,13 +42,15 @@ IesFault iesFaultAt(std::string_view file, std::size_t place, const std::string 
     return {line, "Line " + std::to_string(line) + ": " + wrong};
 }
 
-IesNumbers::IesNumbers(std::string_view file, std::size_t place, bool commasSeparate, IesFault &fault)
+IesNumbers::IesNumbers(std::string_view file, std::size_t place, bool commasSeparate, IesFault &fault,
+                       const std::function<bool(double)> &goOn)
     : m_file(file),
       m_at(file.data() + place),
       m_end(file.data() + file.size()),
       m_last(m_at),
       m_commasSeparate(commasSeparate),
-      m_fault(fault)
+      m_fault(fault),
+      m_goOn(goOn)
 {
 }
 
@@ -125,6 +128,10 @@ void IesNumbers::readEach(std::string_view kind, std::size_t count, const Store 
 {
     double value = 0;
     for (std::size_t i = 0; i < count && isSound(); ++i) {
+        if (i % kNumbersBetweenQuestions == kNumbersBetweenQuestions - 1 && !goesOn()) {
+            m_isStopped = true;
+            return;
+        }
         const Found found = next(value);
         if (found == Found::Number) {
             store(value);
@@ -134,6 +141,11 @@ void IesNumbers::readEach(std::string_view kind, std::size_t count, const Store 
         refuse(found, std::string(kind) + " " + std::to_string(i + 1) + of,
                "the file ends behind " + std::to_string(i) + of + " " + std::string(kind) + "s.");
     }
+}
+
+bool IesNumbers::goesOn() const
+{
+    return !m_goOn || m_goOn(static_cast<double>(m_at - m_file.data()) / static_cast<double>(m_file.size()));
 }
 
 /// Whether so many numbers can stand in what is left: each takes a character and all but the last a separator.

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -12,7 +13,8 @@ namespace penwright {
 /// Why an IES file cannot be read.
 struct IesFault {
     std::size_t line = 0;  ///< of the file, counted from 1
-    std::string text;      ///< the whole sentence for the user, which begins with the line's number
+    std::string text;  ///< the whole sentence for the user, which begins with the line's number; "" when the reading
+                       ///< was stopped
 };
 
 /// The fault at a place of the file: "Line 12: " and what is wrong there.
@@ -23,8 +25,11 @@ IesFault iesFaultAt(std::string_view file, std::size_t place, const std::string 
 class IesNumbers {
 public:
     /// Reads in `file` from `place` on. With `commasSeparate` a comma separates as a blank does; else one without white
-    /// space behind it is a fault, because it may be meant as a decimal sign. Refers to `file` and `fault`.
-    IesNumbers(std::string_view file, std::size_t place, bool commasSeparate, IesFault &fault);
+    /// space behind it is a fault, because it may be meant as a decimal sign. Refers to `file`, `fault` and `goOn`,
+    /// which is asked now and then with the part of the file that is read, 0 to 1, and ends the reading as a fault
+    /// does.
+    IesNumbers(std::string_view file, std::size_t place, bool commasSeparate, IesFault &fault,
+               const std::function<bool(double)> &goOn);
 
     /// The next number, within the range of a single; `name` names it in a fault.
     double number(std::string_view name);
@@ -45,7 +50,7 @@ public:
     /// Anything left but white space is a fault.
     void expectEnd();
 
-    bool isSound() const { return m_fault.text.empty(); }
+    bool isSound() const { return !m_isStopped && m_fault.text.empty(); }
 
     /// Notes a fault at the number read last, unless there is one already.
     void refuse(const std::string &wrong);
@@ -57,6 +62,7 @@ private:
     Found slowNext(const char *end, double &value);
     bool skipSeparators();
     std::string_view wordFrom(const char *begin) const;
+    bool goesOn() const;
     bool isRoomFor(std::size_t count) const;
     void refuse(Found found, const std::string &wanted, const std::string &atEnd);
     template <typename Store>
@@ -68,6 +74,8 @@ private:
     const char *m_last;  ///< where the number read last begins
     bool m_commasSeparate;
     IesFault &m_fault;
+    const std::function<bool(double)> &m_goOn;
+    bool m_isStopped = false;
 };
 
 }  // namespace penwright

@@ -35,7 +35,7 @@ std::string_view withoutEndMark(std::string_view text)
 /// One file while it is read. The first fault stays.
 class IesFileReading {
 public:
-    explicit IesFileReading(std::string_view text) : m_text(text) {}
+    IesFileReading(std::string_view text, const std::function<bool(double)> &goOn) : m_text(text), m_goOn(goOn) {}
 
     std::variant<IesContent, IesFault> run();
 
@@ -51,8 +51,10 @@ private:
     bool isSound() const { return m_fault.text.empty(); }
 
     std::string_view m_text;
+    const std::function<bool(double)> &m_goOn;
     std::size_t m_place = 0;  ///< behind the lines that are read
     bool m_hasVersion = false;
+    bool m_isStopped = false;
     IesContent m_content;
     IesFault m_fault;
 };
@@ -65,7 +67,7 @@ std::variant<IesContent, IesFault> IesFileReading::run()
         readHeader();
     if (isSound())
         readNumbers();
-    if (!isSound())
+    if (m_isStopped || !isSound())
         return std::move(m_fault);
     return std::move(m_content);
 }
@@ -84,6 +86,8 @@ void IesFileReading::readHeader()
             return readTiltLine(trimmed(behindTilt.substr(1)), begin);
         if (!m_hasVersion && !said.empty())
             readVersion(said, begin);
+        if (m_content.record.Keywords.size() == kMost)
+            return refuse(begin, "no line before this one begins with TILT=; it is no IES file.");
         m_content.record.Keywords.append(utf8Text(line));
     }
     refuse(m_text.find_last_not_of(" \r\n") + 1,
@@ -113,14 +117,16 @@ void IesFileReading::readTiltLine(std::string_view what, std::size_t place)
 
 void IesFileReading::readNumbers()
 {
-    IesNumbers numbers(m_text, m_place, m_content.year <= kLastYearWithCommas, m_fault);
+    IesNumbers numbers(m_text, m_place, m_content.year <= kLastYearWithCommas, m_fault, m_goOn);
     readTilt(numbers);
     readPhotometricLine(numbers);
     m_content.record.BallastFactor = static_cast<float>(numbers.number("the ballast factor"));
     m_content.ballastLampFactor = numbers.number("the second number of the ballast line");
     m_content.record.InputWatts = static_cast<float>(numbers.number("the input watts"));
     readTable(numbers);
-    numbers.expectEnd();
+    m_isStopped = !numbers.isSound() && isSound();
+    if (!m_isStopped)
+        numbers.expectEnd();
 }
 
 void IesFileReading::readTilt(IesNumbers &numbers)
@@ -167,13 +173,13 @@ void IesFileReading::refuse(std::size_t place, const std::string &wrong)
 
 }  // namespace
 
-std::variant<IesContent, IesFault> readIesFile(std::string_view bytes)
+std::variant<IesContent, IesFault> readIesFile(std::string_view bytes, const std::function<bool(double)> &goOn)
 {
     if (hasUtf16Mark(bytes)) {
         const std::string text = utf8Text(bytes);
-        return IesFileReading(withoutEndMark(text)).run();
+        return IesFileReading(withoutEndMark(text), goOn).run();
     }
-    return IesFileReading(withoutEndMark(withoutUtf8Mark(bytes))).run();
+    return IesFileReading(withoutEndMark(withoutUtf8Mark(bytes)), goOn).run();
 }
 
 }  // namespace penwright

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -22,7 +23,8 @@ struct IesContent {
 /// that end with "\r\n", "\n" or "\r", numbers in whatever lines they stand, up to a Ctrl+Z with nothing behind it.
 /// A file that says something else than the format, or that a record cannot hold, is refused with the first fault.
 /// Takes time and memory in proportion to the bytes, whatever they announce. Lines before "TILT=" stay as they stand,
-/// so that the writer makes the same text of a file that it wrote; angles may be equal.
-std::variant<IesContent, IesFault> readIesFile(std::string_view bytes);
+/// so that the writer makes the same text of a file that it wrote; angles may be equal. `goOn` is asked now and then
+/// with the part that is read, 0 to 1; when it says no, the fault has no text.
+std::variant<IesContent, IesFault> readIesFile(std::string_view bytes, const std::function<bool(double)> &goOn = {});
 
 }  // namespace penwright

@@ -133,14 +133,17 @@ void TableAxes::find()
     m_reading.verticalDown = isVerticalDown();
 }
 
-/// The angles of the first column from a line on.
+/// The angles of the first column from a line on, up to where they begin again.
 Axis TableAxes::columnFrom(std::size_t line) const
 {
     Axis column;
     for (; line < m_sample.lines.size(); ++line)
         if (cellsAt(line).size() == m_sample.width)
-            if (const std::optional<TableAngle> angle = tableAngle(cellsAt(line).front(), m_reading))
+            if (const std::optional<TableAngle> angle = tableAngle(cellsAt(line).front(), m_reading)) {
+                if (column.degrees.size() >= 3 && angle->degrees == column.degrees.front())
+                    break;
                 add(column, *angle);
+            }
     return column;
 }
 

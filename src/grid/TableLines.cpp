@@ -15,7 +15,9 @@ constexpr std::size_t kSampleLines = 300;
 /// No cell in quotes is longer: a lone quote then costs no look at the rest of the text.
 constexpr std::size_t kLongestQuoted = 2000;
 
-constexpr std::array<std::string_view, 5> kBlanks{" ", "\t", "\xC2\xA0", "\xE2\x80\xAF", "\xE2\x80\x89"};
+/// What stands around a cell without being seen, the end of a printed page among it.
+constexpr std::array<std::string_view, 7> kBlanks{" ",           "\t", "\f", "\xC2\xA0", "\xE2\x80\xAF", "\xE2\x80\x89",
+                                                  "\xE2\x80\x8B"};
 
 bool isBlank(char c)
 {
@@ -57,6 +59,54 @@ void joinWords(std::vector<std::string_view> &cells)
     cells = std::move(joined);
 }
 
+bool isLetter(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+bool isNumberBefore(std::string_view text)
+{
+    return !text.empty() && isDigit(text.back()) && std::none_of(text.begin(), text.end(), isLetter);
+}
+
+/// The cell without the unit of intensities behind its number.
+std::string_view withoutUnit(std::string_view cell)
+{
+    static constexpr std::string_view kUnits[]{"cd", "candela", "candelas", "cd/klm", "cd/1000lm", "cd/1000 lm"};
+    if (cell.empty() || !isLetter(cell.back()) || !(isDigit(cell.front()) || cell.front() == '-'))
+        return cell;
+    const std::string letters = lowerCase(cell);
+    for (const std::string_view unit : kUnits)
+        if (letters.ends_with(unit))
+            if (const auto number = withoutCellBlanks(cell.substr(0, cell.size() - unit.size()));
+                isNumberBefore(number))
+                return number;
+    return cell;
+}
+
+/// Leaves units behind numbers out, in their cells and, between blanks, in cells of their own.
+void dropUnits(std::vector<std::string_view> &cells)
+{
+    const auto isUnit = [](std::string_view cell) {
+        return !cell.empty() && (cell.front() == 'c' || cell.front() == 'C') &&
+               withoutUnit("0" + std::string(cell)) == "0";
+    };
+    for (std::size_t at = 0; at < cells.size(); ++at) {
+        cells[at] = withoutUnit(cells[at]);
+        if (at > 0 && isNumberBefore(cells[at - 1]) && isUnit(cells[at]))
+            cells.erase(cells.begin() + static_cast<std::ptrdiff_t>(at--));
+    }
+}
+
+/// Whether a cell is a line's number, or a word over those.
+bool isCount(std::string_view cell)
+{
+    static constexpr std::string_view kWords[]{"#",   "no",   "no.",   "nr",  "nr.",  "n",    "i",
+                                               "pos", "pos.", "index", "row", "line", "zeile"};
+    return std::all_of(cell.begin(), cell.end(), isDigit) ||
+           std::find(std::begin(kWords), std::end(kWords), lowerCase(cell)) != std::end(kWords);
+}
+
 }  // namespace
 
 std::string_view sampleText(std::string_view text)
@@ -85,8 +135,8 @@ std::string_view withoutCellBlanks(std::string_view cell)
     return cell;
 }
 
-TableLines::TableLines(std::string_view text, TableSeparator separator)
-    : m_text(text), m_separator(separator), m_blankColumns(blankColumns())
+TableLines::TableLines(std::string_view text, TableSeparator separator, const TableFrame &frame)
+    : m_text(text), m_separator(separator), m_blankColumns(blankColumns()), m_frame(frame)
 {
 }
 
@@ -105,13 +155,30 @@ bool TableLines::next(TableLine &line)
         if (isDrawn(line.cells))
             line.cells.clear();
     }
+    dropUnits(line.cells);
     if (m_separator == TableSeparator::Blanks)
         joinWords(line.cells);
     line.before = 0;
     while (line.before < std::min(m_blankColumns, line.cells.size()) && line.cells[line.before].empty())
         ++line.before;
     line.cells.erase(line.cells.begin(), line.cells.begin() + static_cast<std::ptrdiff_t>(line.before));
+    leaveOutFrame(line);
     return !line.cells.empty();
+}
+
+void TableLines::leaveOutFrame(TableLine &line) const
+{
+    if (line.cells.size() < 2)
+        return;
+    // Between blanks nothing need stand over the lines' numbers.
+    const bool isOverCounts =
+        m_separator != TableSeparator::Blanks || (line.cells.size() == m_frame.width && isCount(line.cells.front()));
+    if (m_frame.hasCounts && isOverCounts) {
+        line.cells.erase(line.cells.begin());
+        ++line.before;
+    }
+    if (m_frame.repeatsAngles && line.cells.size() > 2 && line.cells.back() == line.cells.front())
+        line.cells.pop_back();
 }
 
 std::string_view TableLines::nextCell()

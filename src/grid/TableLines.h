@@ -11,18 +11,25 @@ namespace penwright {
 /// A line of a table, cut into cells without blanks around them. Refers to the text.
 struct TableLine {
     std::size_t number = 0;  ///< of the text's lines, counted from 1
-    std::size_t before = 0;  ///< blank cells that all lines begin with, which are left out
+    std::size_t before = 0;  ///< cells that lines begin with and that are left out
     std::vector<std::string_view> cells;
+};
+
+/// What stands beside a table's lines and is no part of it.
+struct TableFrame {
+    bool hasCounts = false;      ///< the lines' numbers, before all else
+    bool repeatsAngles = false;  ///< the angle that a line begins with, at its end again
+    std::size_t width = 0;       ///< cells of a line with all of that
 };
 
 /// The lines of a text with cells in them, one by one. Cells in quotes come without the outer quotes and may hold
 /// separators and line ends. Empty cells at a line's end are left out, and so are blank lines, those drawn of strokes,
-/// and the blank columns that the first lines begin with. Between blanks an upright stroke is one. Takes time in
-/// proportion to the text.
+/// the blank columns that the first lines begin with, the unit of intensities behind a number, and the table's frame.
+/// Between blanks an upright stroke is one. Takes time in proportion to the text.
 class TableLines {
 public:
     /// Refers to `text`.
-    TableLines(std::string_view text, TableSeparator separator);
+    TableLines(std::string_view text, TableSeparator separator, const TableFrame &frame = {});
 
     /// Puts the next line into `line`; false behind the last one.
     bool next(TableLine &line);
@@ -34,6 +41,7 @@ private:
     std::string_view nextCell();
     std::size_t quotedLength() const;
     std::size_t blankColumns() const;
+    void leaveOutFrame(TableLine &line) const;
     bool isSeparator(char c) const;
     void skipBlanks();
     bool isAtLineEnd() const;
@@ -44,6 +52,7 @@ private:
     std::size_t m_at = 0;
     std::size_t m_number = 1;
     std::size_t m_blankColumns;
+    TableFrame m_frame;
 };
 
 /// The part of a text that a guess looks at: its first lines, 300 at most, of 40,000 bytes at most together.

@@ -2,24 +2,22 @@
 
 #include <QObject>
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <variant>
 
 #include "grid/TableText.h"
 
-class QTimer;
-
 namespace penwright {
 
+class SideRun;
 class TextFiles;
 
 /// A text that is shared with the thread that reads it.
 using SharedText = std::shared_ptr<const std::string>;
 
 /// Reads texts and tables without holding up the window: what takes longer than a blink runs on a thread of its own,
-/// and what was asked for last is all that is told. A thread that a disk holds up is left behind, not waited for.
+/// and what was asked for last is all that is told.
 class TableRun : public QObject {
     Q_OBJECT
 
@@ -28,7 +26,6 @@ public:
     static constexpr std::size_t kMostBytes = 100'000'000;
 
     explicit TableRun(QObject *parent);
-    ~TableRun() override;
 
     /// Reads a file and makes UTF-8 of it; `files` outlives the thread.
     void readFile(TextFiles &files, const std::string &path);
@@ -49,14 +46,7 @@ signals:
     void tableRead(const std::variant<penwright::TableContent, penwright::TableFault> &table);
 
 private:
-    struct Run;
-    using GoOn = std::function<bool(double)>;
-
-    /// Has `work` done, on a thread unless it is short, and then what it answers, on this one.
-    void start(bool isShort, std::function<std::function<void()>(const GoOn &)> work);
-
-    std::shared_ptr<Run> m_run;
-    QTimer *m_look;
+    SideRun *m_run;
 };
 
 }  // namespace penwright

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "grid/TableAngle.h"
+#include "grid/TableFrame.h"
 #include "grid/TableLines.h"
 #include "grid/TableNumber.h"
 
@@ -63,16 +64,56 @@ void findFirst(TableSample &sample)
     }
 }
 
+/// Whether two lines begin with the same angle.
+bool haveSameAngle(const TableSample &sample, std::size_t one, std::size_t other)
+{
+    const SampleLine &line = sample.lines[one];
+    return line.isFull && line.cells.size() > 1 && isLikeAngle(line.cells.front()) &&
+           line.cells.front() == sample.lines[other].cells.front();
+}
+
+/// Whether further planes of one table begin at the sample's first line, which may be more than those of its beginning:
+/// the lines from `at` on have the same angles in their first columns.
+bool goesOnWithPlanes(const TableSample &sample, std::size_t at)
+{
+    constexpr std::size_t kFewest = 3;
+    std::size_t length = 0;
+    while (at + length < sample.first && sample.first + length < sample.lines.size() &&
+           haveSameAngle(sample, at + length, sample.first + length))
+        ++length;
+    return length >= kFewest;
+}
+
+/// Whether a table goes on there as on a new page: under the line of angles that stands over the lines from `at` on.
+bool goesOnAsOnANewPage(const TableSample &sample, std::size_t at)
+{
+    return at > 0 && sample.lines[at].isFull && !sample.lines[at - 1].isFull &&
+           sample.lines[at].cells.size() == sample.width && sample.lines[at - 1].cells.size() + 1 >= sample.width &&
+           sample.lines[at - 1].cells == sample.lines[sample.first - 1].cells;
+}
+
+/// Goes to the beginning of a table that is broken into several.
+void findFirstOfSeveral(TableSample &sample)
+{
+    for (std::size_t at = 0; at < sample.first; ++at)
+        if (goesOnWithPlanes(sample, at) || goesOnAsOnANewPage(sample, at)) {
+            sample.first = at;
+            sample.width = sample.lines[at].cells.size();
+            return;
+        }
+}
+
 TableSample cutAt(std::string_view text, TableSeparator separator)
 {
     TableSample sample;
     sample.separator = separator;
-    TableLines lines(text, separator);
+    TableLines lines(text, separator, tableFrame(text, separator));
     for (TableLine line; lines.next(line);)
         sample.lines.push_back({line.number, line.cells, isFull(line.cells)});
     findWidth(sample);
     if (sample.width > 0)
         findFirst(sample);
+    findFirstOfSeveral(sample);
     return sample;
 }
 

@@ -9,6 +9,7 @@
 #include "core/NumberText.h"
 #include "core/TextBytes.h"
 #include "grid/TableAngle.h"
+#include "grid/TableFrame.h"
 #include "grid/TableHeading.h"
 #include "grid/TableLines.h"
 #include "grid/TableNumber.h"
@@ -19,11 +20,26 @@ namespace {
 constexpr std::size_t kMostAngles = std::numeric_limits<std::int16_t>::max();
 constexpr std::size_t kBytesBetweenQuestions = 1'000'000;
 
+/// Planes that stand beside each other in the text, below others of the same table.
+struct TablePart {
+    std::vector<double> values{};  ///< line by line
+    std::size_t columns = 0;
+    std::size_t rows = 0;
+};
+
+/// Whether a number is there, and letters behind a blank.
+bool isNumberWithUnit(std::string_view cell)
+{
+    const std::size_t blank = cell.rfind(' ');
+    return blank != std::string_view::npos && isLikeNumber(cell.substr(0, blank)) &&
+           !isLikeNumber(cell.substr(blank + 1));
+}
+
 /// A text while it is read. The first fault stays and ends the reading.
 class TableTextReading {
 public:
     TableTextReading(std::string_view text, const TableReading &reading)
-        : m_text(text), m_reading(reading), m_lines(text, reading.separator)
+        : m_text(text), m_reading(reading), m_lines(text, reading.separator, tableFrame(text, reading.separator))
     {
     }
 
@@ -32,6 +48,9 @@ public:
 private:
     void readLine(const TableLine &line);
     void begin(const TableLine &line);
+    bool goesOn(const TableLine &line);
+    void beginPart(const TableLine &line, const TableHeading &heading);
+    void endPart(std::size_t line);
     void readRow(const TableLine &line);
     void readAngle(const TableLine &line);
     bool isRemark(const TableLine &line) const;
@@ -40,20 +59,23 @@ private:
     void refuseCell(const TableLine &line, std::size_t place);
     void refuseWidth(const TableLine &line, std::size_t above);
     void refuseFall(std::size_t line, std::size_t cell, double angle, double before);
+    void refuseOther(const TableLine &line);
+    bool beginsAgain(const TableLine &line) const;
     TableFault nothingRead() const;
     TableContent content() const;
 
     std::string_view m_text;
     TableReading m_reading;
     TableLines m_lines;
-    std::optional<TableLine> m_heading;  ///< the line of angles until the first line of values
+    std::optional<TableLine> m_heading;  ///< the line of angles over the values
     std::size_t m_width = 0;             ///< cells of a whole line, 0 before the first line of values
     std::size_t m_least = 0;             ///< cells of a line that lacks averages and sums
     std::vector<std::size_t> m_columns;  ///< cells with values
     std::vector<double> m_across;
     std::vector<double> m_down;
-    std::vector<double> m_values;  ///< line by line
-    std::size_t m_rows = 0;
+    std::vector<TablePart> m_parts{TablePart()};  ///< the last one is read
+    std::size_t m_rows = 0;                       ///< of the first part
+    std::size_t m_lastLine = 0;
     std::optional<TableFault> m_remarkAbove;  ///< the first line without numbers above the values
     std::optional<TableFault> m_remark;       ///< a remark behind the values, which is a fault when more values follow
     std::optional<TableFault> m_fault;
@@ -64,7 +86,7 @@ std::variant<TableContent, TableFault> TableTextReading::run(const std::function
     if (m_text.find('\0') != std::string_view::npos)
         return TableFault{"The text has characters with the code 0: it is no table.", 0, 0};
     std::size_t asked = 0;
-    for (TableLine line; !m_fault && m_lines.next(line);) {
+    for (TableLine line; !m_fault && m_lines.next(line); m_lastLine = line.number) {
         if (goOn && m_lines.bytesRead() > asked + kBytesBetweenQuestions) {
             asked = m_lines.bytesRead();
             if (!goOn(static_cast<double>(asked) / static_cast<double>(m_text.size())))
@@ -75,6 +97,8 @@ std::variant<TableContent, TableFault> TableTextReading::run(const std::function
     }
     if (!m_fault && m_rows == 0)
         m_fault = nothingRead();
+    if (!m_fault)
+        endPart(m_lastLine);
     if (m_fault)
         return *m_fault;
     return content();
@@ -87,7 +111,7 @@ void TableTextReading::readLine(const TableLine &line)
         return;
     }
     const bool isNamedSummary = m_reading.hasAngleColumn && isSummary(line.cells.front());
-    if (isNamedSummary || (m_remark && isRemark(line)))
+    if (isNamedSummary || (m_rows > 0 && goesOn(line)) || (m_remark && isRemark(line)))
         return;
     if (isRemark(line)) {
         std::optional<TableFault> &remark = m_rows > 0 ? m_remark : m_remarkAbove;
@@ -97,10 +121,70 @@ void TableTextReading::readLine(const TableLine &line)
         }
         return;
     }
-    if (m_remark)
+    if (beginsAgain(line))
+        refuseOther(line);
+    else if (m_remark)
         m_fault = m_remark;
     else
         readRow(line);
+}
+
+/// Whether a line of values begins with the table's first angle once more.
+bool TableTextReading::beginsAgain(const TableLine &line) const
+{
+    if (!m_reading.hasAngleColumn || m_parts.back().rows < 2)
+        return false;
+    const std::optional<TableAngle> angle = tableAngle(line.cells.front(), m_reading);
+    return angle && angle->degrees == m_down.front() && m_down.back() > m_down.front();
+}
+
+/// Whether a line below values is one of angles again: the same, as on a new page, or those of further planes.
+bool TableTextReading::goesOn(const TableLine &line)
+{
+    if (!m_heading || !m_reading.hasAngleColumn)
+        return false;
+    if (line.cells == m_heading->cells) {
+        m_remark.reset();
+        return true;
+    }
+    const std::optional<TableAngle> first = tableAngle(line.cells.front(), m_reading);
+    const std::string_view corner = line.cells.front();
+    const bool isCorner = corner.empty() || corner == m_heading->cells.front() || angleWord(corner) != AngleWord::None;
+    if (m_across.empty() || (first ? first->word == AngleWord::None : !isCorner))
+        return false;
+    const TableHeading heading = tableHeading(line.cells, line.cells.size() + (first ? 1 : 0), m_reading);
+    double last = m_across.back();
+    for (const TableAngle &angle : heading.angles) {
+        if (angle.degrees <= last || angle.degrees > 360)
+            return false;
+        last = angle.degrees;
+    }
+    if (heading.wrong || heading.angles.empty())
+        return false;
+    beginPart(line, heading);
+    return true;
+}
+
+void TableTextReading::beginPart(const TableLine &line, const TableHeading &heading)
+{
+    endPart(line.number);
+    m_remark.reset();
+    m_heading = line;
+    m_columns = heading.columns;
+    m_least = heading.columns.back() + 1;
+    m_width = std::max(m_least, line.cells.size());
+    for (const TableAngle &angle : heading.angles)
+        m_across.push_back(angle.degrees);
+    m_parts.emplace_back();
+}
+
+/// Each part has all the lines of the first.
+void TableTextReading::endPart(std::size_t line)
+{
+    if (m_parts.back().rows != m_rows)
+        refuse(line, 0,
+               "the planes above have " + counted(m_parts.back().rows, "line") + ", those before them " +
+                   std::to_string(m_rows) + ".");
 }
 
 /// Whether a line says something instead of holding values: it begins with a word, and has hardly a number.
@@ -174,11 +258,13 @@ void TableTextReading::readRow(const TableLine &line)
         const std::optional<double> value = tableNumber(line.cells[column], m_reading);
         if (!value)
             return refuseCell(line, column);
-        m_values.push_back(*value);
+        m_parts.back().values.push_back(*value);
     }
-    if (m_columns.empty() || m_rows == kMostAngles || m_columns.size() > kMostAngles)
+    if (m_columns.empty() || m_rows == kMostAngles || std::max(m_columns.size(), m_across.size()) > kMostAngles)
         return refuse(line.number, 0, "a table has 1 to 32767 lines and columns of values.");
-    ++m_rows;
+    m_parts.back().columns = m_columns.size();
+    ++m_parts.back().rows;
+    m_rows += m_parts.size() == 1 ? 1 : 0;
 }
 
 void TableTextReading::readAngle(const TableLine &line)
@@ -186,6 +272,13 @@ void TableTextReading::readAngle(const TableLine &line)
     const std::optional<TableAngle> angle = tableAngle(line.cells.front(), m_reading);
     if (!angle)
         return refuse(line.number, line.before + 1, shownWord(line.cells.front()) + " is no angle.");
+    if (m_parts.size() > 1) {
+        const std::size_t row = m_parts.back().rows;
+        if (row >= m_rows || angle->degrees != m_down[row])
+            refuse(line.number, line.before + 1,
+                   "angle " + generalText(angle->degrees) + " does not stand in that place of the planes above.");
+        return;
+    }
     if (!m_down.empty() && angle->degrees < m_down.back())
         refuseFall(line.number, line.before + 1, angle->degrees, m_down.back());
     m_down.push_back(angle->degrees);
@@ -206,7 +299,9 @@ void TableTextReading::refuseCell(const TableLine &line, std::size_t place)
 {
     const std::string_view cell = line.cells[std::min(place, line.cells.size() - 1)];
     refuse(line.number, line.before + place + 1,
-           cell.empty() ? "the cell is empty; a number belongs there." : shownWord(cell) + " is no number.");
+           cell.empty()             ? "the cell is empty; a number belongs there."
+           : isNumberWithUnit(cell) ? shownWord(cell) + " is no number: only cd or cd/klm may stand behind one."
+                                    : shownWord(cell) + " is no number.");
 }
 
 void TableTextReading::refuseWidth(const TableLine &line, std::size_t above)
@@ -218,6 +313,11 @@ void TableTextReading::refuseWidth(const TableLine &line, std::size_t above)
 void TableTextReading::refuseFall(std::size_t line, std::size_t cell, double angle, double before)
 {
     refuse(line, cell, "angle " + generalText(angle) + " stands behind " + generalText(before) + "; angles must rise.");
+}
+
+void TableTextReading::refuseOther(const TableLine &line)
+{
+    refuse(line.number, line.before + 1, "another table begins here; copy one table alone.");
 }
 
 TableFault TableTextReading::nothingRead() const
@@ -232,19 +332,26 @@ TableContent TableTextReading::content() const
 {
     TableContent content;
     const auto rows = static_cast<int>(m_rows);
-    const auto columns = static_cast<int>(m_columns.size());
+    std::size_t columns = 0;
+    for (const TablePart &part : m_parts)
+        columns += part.columns;
     OneBased<double> &down = m_reading.verticalDown ? content.vertical : content.horizontal;
     OneBased<double> &across = m_reading.verticalDown ? content.horizontal : content.vertical;
     for (const double angle : m_down)
         down.append(angle);
     for (const double angle : m_across)
         across.append(angle);
-    content.values =
-        m_reading.verticalDown ? OneBasedTable<double>(columns, rows) : OneBasedTable<double>(rows, columns);
-    auto value = m_values.begin();
-    for (int row = 1; row <= rows; ++row)
-        for (int column = 1; column <= columns; ++column, ++value)
-            (m_reading.verticalDown ? content.values(column, row) : content.values(row, column)) = *value;
+    const auto width = static_cast<int>(columns);
+    content.values = m_reading.verticalDown ? OneBasedTable<double>(width, rows) : OneBasedTable<double>(rows, width);
+    int before = 0;
+    for (const TablePart &part : m_parts) {
+        const auto end = before + static_cast<int>(part.columns);
+        auto value = part.values.begin();
+        for (int row = 1; row <= rows; ++row)
+            for (int column = before + 1; column <= end; ++column, ++value)
+                (m_reading.verticalDown ? content.values(column, row) : content.values(row, column)) = *value;
+        before = end;
+    }
     return content;
 }
 

@@ -29,11 +29,14 @@ struct TableFault {
 /// gives the reading of a plain one.
 TableReading guessTable(std::string_view text);
 
-/// Reads the table of a UTF-8 text. Left out are blank lines, lines without any number below the line of angles (such
-/// as units), lines and columns that a word names as averages, sums or the like, columns without an angle, and remarks
-/// behind the last line. All else that is no number is a fault, as are angles that fall and lines of unequal length,
-/// but for what is left out at their ends. Takes time and memory in proportion to the text. `goOn` is asked now and
-/// then with the part that is read, 0 to 1; when it says no, the fault has no text.
+/// Reads the table of a UTF-8 text. Further planes may stand below the first ones, under angles that go on with theirs
+/// and beside the same ones, and the line of angles may come again, as on a new page. Left out are blank lines, lines
+/// without any number below the line of angles (such as units), lines and columns that a word names as averages, sums
+/// or the like, columns without an angle, lines' numbers before their angles, angles that come again at the lines'
+/// ends, units behind values, and remarks behind the last line. All else that is no number is a fault, as are angles
+/// that fall and lines of unequal length, but for what is left out at their ends. Takes time and memory in proportion
+/// to the text. `goOn` is asked now and then with the part that is read, 0 to 1; when it says no, the fault has no
+/// text.
 std::variant<TableContent, TableFault> readTable(std::string_view text, const TableReading &reading,
                                                  const std::function<bool(double)> &goOn = {});
 

@@ -5,6 +5,7 @@
 
 #include "core/Counted.h"
 #include "core/NumberText.h"
+#include "grid/TableFrame.h"
 #include "grid/TableLines.h"
 
 namespace penwright {
@@ -75,11 +76,16 @@ struct LineSpan {
     std::size_t last;
 };
 
+struct TableCut {
+    TableSeparator separator;
+    TableFrame frame;
+};
+
 /// Appends the lines of a span, of a text that `before` lines stand before.
-void appendLines(std::vector<CutLine> &cut, std::string_view text, TableSeparator separator, std::size_t before,
+void appendLines(std::vector<CutLine> &cut, std::string_view text, const TableCut &how, std::size_t before,
                  const LineSpan &span)
 {
-    TableLines lines(text, separator);
+    TableLines lines(text, how.separator, how.frame);
     for (TableLine next; lines.next(next) && before + next.number <= span.last;) {
         if (before + next.number < span.first)
             continue;
@@ -121,12 +127,12 @@ std::vector<CutLine> cutLines(std::string_view text, const TableReading &reading
 {
     std::vector<CutLine> cut;
     const auto skipped = static_cast<std::size_t>(std::max(reading.linesToSkip, 0));
-    appendLines(cut, text, reading.separator, 0, {skipped + 1, skipped + kCutLines});
+    const TableCut how{reading.separator, tableFrame(text, reading.separator)};
+    appendLines(cut, text, how, 0, {skipped + 1, skipped + kCutLines});
     const std::size_t shown = cut.empty() ? skipped : cut.back().number;
     if (line > shown) {
         const std::size_t first = std::max(shown + 1, line > kLinesAround ? line - kLinesAround : 1);
-        appendLines(cut, text.substr(placeOfLine(text, first)), reading.separator, first - 1,
-                    {first, line + kLinesAround});
+        appendLines(cut, text.substr(placeOfLine(text, first)), how, first - 1, {first, line + kLinesAround});
     }
     return cut;
 }

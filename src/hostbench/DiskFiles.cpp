@@ -1,40 +1,33 @@
 #include "hostbench/DiskFiles.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <QObject>
 #include <QSaveFile>
+
+#include <cerrno>
 
 #include "core/IesText.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {
 
-namespace {
-
-constexpr qint64 kMostBytes = 100'000'000;
-
-}  // namespace
-
-DiskFile readDiskFile(const QString &path)
+QString readingProblem(int error)
 {
-    const QFileInfo info(path);
-    if (!info.exists())
-        return {{}, QObject::tr("There is no such file")};
-    if (!info.isFile())
-        return {{}, QObject::tr("This is no file that can be read")};
-    if (info.size() > kMostBytes)
-        return {{}, QObject::tr("The file is larger than 100 MB")};
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {{}, file.errorString()};
-    // One byte more than allowed shows that it grows meanwhile, without reading on for ever.
-    QByteArray bytes = file.read(kMostBytes + 1);
-    if (file.error() != QFileDevice::NoError)
-        return {{}, file.errorString()};
-    if (bytes.size() > kMostBytes)
-        return {{}, QObject::tr("The file is larger than 100 MB")};
-    return {bytes, {}};
+    switch (error) {
+        case ENOENT:
+        case ENOTDIR:
+            return QObject::tr("There is no such file");
+        case EISDIR:
+        case ENODEV:
+            return QObject::tr("This is no file that can be read");
+        case EFBIG:
+            return QObject::tr("The file is larger than 100 MB");
+        case ESTALE:
+            return QObject::tr("The file was changed while it was read");
+        case ENOMEM:
+            return QObject::tr("There is too little memory for it");
+        default:
+            return qt_error_string(error);
+    }
 }
 
 QString writeDiskFile(const QString &path, const PhotometricRecord &record)

@@ -1,20 +1,16 @@
 #pragma once
 
-#include <QByteArray>
 #include <QString>
 
 #include "core/PhotometricRecord.h"
 
 namespace penwright {
 
-/// What a file holds, or why it could not be read.
-struct DiskFile {
-    QByteArray bytes;
-    QString problem;  ///< "" when it was read
-};
+/// The largest file that is opened, in bytes.
+inline constexpr std::size_t kMostFileBytes = 100'000'000;
 
-/// Reads a plain file of at most 100 MB; anything else, as a folder or a pipe, is refused before it can block.
-DiskFile readDiskFile(const QString &path);
+/// Why a file of the disk could not be read, by its errno; without a full stop.
+QString readingProblem(int error);
 
 /// Writes a record's file whole or not at all; "" or why not.
 QString writeDiskFile(const QString &path, const PhotometricRecord &record);

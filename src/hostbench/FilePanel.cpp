@@ -1,5 +1,6 @@
 #include "hostbench/FilePanel.h"
 
+#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -10,11 +11,13 @@
 #include <QPushButton>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "core/StartupState.h"
 #include "hostbench/DiskFiles.h"
 #include "hostbench/FileNames.h"
-#include "hostbench/OpenedFile.h"
+#include "hostbench/FileOpening.h"
+#include "hostbench/OpeningBar.h"
 #include "hostbench/TwoLineDelegate.h"
 
 namespace penwright {
@@ -33,31 +36,31 @@ void offerName(QFileDialog &dialog, const QString &name)
     line->selectAll();
 }
 
-/// "" when the file is added, else why not.
-QString addFromDisk(HeldFiles &files, const QString &path, int &place)
-{
-    const QString whole = QFileInfo(path).absoluteFilePath();
-    const QString name = QFileInfo(whole).fileName();
-    const DiskFile read = readDiskFile(whole);
-    if (!read.problem.isEmpty())
-        return FilePanel::tr("%1 was not opened: %2.").arg(name, read.problem);
-    auto opened =
-        openedFile(whole.toStdString(), {read.bytes.constData(), static_cast<std::size_t>(read.bytes.size())});
-    if (const auto *problem = std::get_if<std::string>(&opened))
-        return QString::fromStdString(*problem);
-    const int added = files.add(std::move(std::get<HeldFile>(opened)));
-    if (added < 0)
-        return FilePanel::tr("%1 was not opened: %2 files are held already.").arg(name).arg(kMaxFiles);
-    place = added;
-    return {};
-}
-
 }  // namespace
 
-FilePanel::FilePanel(HeldFiles &files, QWidget *parent) : QWidget(parent), m_files(files)
+FilePanel::FilePanel(HeldFiles &files, std::shared_ptr<TextFiles> disk, QWidget *parent)
+    : QWidget(parent), m_files(files), m_opening(new FileOpening(std::move(disk), this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
+    layout->addLayout(makeHeading());
+    m_list = new QListWidget;
+    m_list->setObjectName("fileList");
+    m_list->setAccessibleName(tr("Files that the host holds"));
+    m_list->setItemDelegate(new TwoLineDelegate(m_list));
+    m_list->setTextElideMode(Qt::ElideMiddle);
+    layout->addWidget(m_list);
+    m_bar = new OpeningBar;
+    layout->addWidget(m_bar);
+    layout->addLayout(makeButtons());
+    connect(m_list, &QListWidget::currentRowChanged, this, &FilePanel::enableButtons);
+    connect(m_list, &QListWidget::currentRowChanged, this, &FilePanel::selectionChanged);
+    followOpening();
+    showFiles(-1);
+}
+
+QLayout *FilePanel::makeHeading()
+{
     auto *heading = new QHBoxLayout;
     auto *title = new QLabel(tr("Files"));
     title->setProperty("heading", true);
@@ -66,15 +69,11 @@ FilePanel::FilePanel(HeldFiles &files, QWidget *parent) : QWidget(parent), m_fil
     heading->addWidget(title);
     heading->addStretch();
     heading->addWidget(m_count);
-    layout->addLayout(heading);
+    return heading;
+}
 
-    m_list = new QListWidget;
-    m_list->setObjectName("fileList");
-    m_list->setAccessibleName(tr("Files that the host holds"));
-    m_list->setItemDelegate(new TwoLineDelegate(m_list));
-    m_list->setTextElideMode(Qt::ElideMiddle);
-    layout->addWidget(m_list);
-
+QLayout *FilePanel::makeButtons()
+{
     auto *buttons = new QHBoxLayout;
     m_open = new QPushButton(tr("Open..."));
     m_open->setObjectName("openFiles");
@@ -84,17 +83,21 @@ FilePanel::FilePanel(HeldFiles &files, QWidget *parent) : QWidget(parent), m_fil
     m_save->setObjectName("saveAs");
     m_remove = new QPushButton(tr("Remove"));
     m_remove->setObjectName("remove");
-    buttons->addWidget(m_open);
-    buttons->addWidget(m_save);
-    buttons->addWidget(m_remove);
-    layout->addLayout(buttons);
-
-    connect(m_list, &QListWidget::currentRowChanged, this, &FilePanel::enableButtons);
-    connect(m_list, &QListWidget::currentRowChanged, this, &FilePanel::selectionChanged);
+    for (QPushButton *button : {m_open, m_save, m_remove})
+        buttons->addWidget(button);
     connect(m_open, &QPushButton::clicked, this, &FilePanel::chooseFiles);
     connect(m_save, &QPushButton::clicked, this, &FilePanel::saveSelected);
     connect(m_remove, &QPushButton::clicked, this, &FilePanel::removeSelected);
-    showFiles(-1);
+    return buttons;
+}
+
+void FilePanel::followOpening()
+{
+    connect(m_bar, &OpeningBar::cancelled, m_opening, &FileOpening::stop);
+    connect(m_opening, &FileOpening::progressed, m_bar, &OpeningBar::showPart);
+    connect(m_opening, &FileOpening::opened, this, &FilePanel::add);
+    connect(m_opening, &FileOpening::refused, this, [this](const QString &problem) { m_problems.append(problem); });
+    connect(m_opening, &FileOpening::finished, this, &FilePanel::tellProblems);
 }
 
 void FilePanel::showFiles(int selected)
@@ -147,13 +150,32 @@ void FilePanel::chooseFiles()
 
 void FilePanel::open(const QStringList &paths)
 {
-    QStringList problems;
-    int place = -1;
-    for (const QString &path : paths)
-        if (const QString problem = addFromDisk(m_files, path, place); !problem.isEmpty())
-            problems.append(problem);
+    m_opening->open(paths);
+}
+
+void FilePanel::stopOpening()
+{
+    m_problems.clear();
+    m_opening->stop();
+}
+
+void FilePanel::add(HeldFile &file)
+{
+    const QString path = QString::fromStdString(file.record.Filename);
+    const int place = m_files.add(std::move(file));
     if (place >= 0)
-        showFiles(place);
+        return showFiles(place);
+    m_problems.append(
+        tr("%1 was not opened: %2 files are held already.").arg(QFileInfo(path).fileName()).arg(kMaxFiles));
+}
+
+void FilePanel::tellProblems()
+{
+    // Who has stopped it, or waits for it, goes on with the files.
+    if (m_bar->isAncestorOf(QApplication::focusWidget()))
+        m_list->setFocus();
+    m_bar->hide();
+    const QStringList problems = std::exchange(m_problems, {});
     if (problems.isEmpty())
         return;
     QMessageBox box(QMessageBox::Warning, tr("Open Photometric Files"), problems.join('\n'), QMessageBox::Ok, this);

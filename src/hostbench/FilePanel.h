@@ -2,6 +2,8 @@
 
 #include <QWidget>
 
+#include <memory>
+
 #include "hostbench/HeldFiles.h"
 
 class QLabel;
@@ -10,12 +12,17 @@ class QPushButton;
 
 namespace penwright {
 
+class FileOpening;
+class OpeningBar;
+class TextFiles;
+
 /// The files that the host holds, with what can be done to the one selected.
 class FilePanel : public QWidget {
     Q_OBJECT
 
 public:
-    explicit FilePanel(HeldFiles &files, QWidget *parent = nullptr);
+    /// `disk` is where files that are opened come from.
+    FilePanel(HeldFiles &files, std::shared_ptr<TextFiles> disk, QWidget *parent = nullptr);
 
     /// Shows the files as they are now and selects one by its place; -1 selects none.
     void showFiles(int selected);
@@ -23,8 +30,12 @@ public:
     /// The place of the file selected, -1 for none.
     int selected() const;
 
-    /// Reads files from disk and adds them, the last one selected. Why one cannot be read or held is told in one box.
+    /// Reads files from disk, off the window's thread, and adds and selects each. Once all are read, why one could not
+    /// be read or held is told in one box.
     void open(const QStringList &paths);
+
+    /// Opens no more of them, and tells of none.
+    void stopOpening();
 
     /// Asks before files that are not saved are lost, and what was typed into wizards at work; true when there is
     /// nothing to lose, or when the user means it.
@@ -38,6 +49,11 @@ signals:
     void selectionChanged();
 
 private:
+    QLayout *makeHeading();
+    QLayout *makeButtons();
+    void followOpening();
+    void add(HeldFile &file);
+    void tellProblems();
     void chooseFiles();
     void saveSelected();
     void removeSelected();
@@ -45,6 +61,9 @@ private:
     void enableButtons();
 
     HeldFiles &m_files;
+    FileOpening *m_opening;
+    QStringList m_problems;  ///< of files that were to be opened, not told yet
+    OpeningBar *m_bar = nullptr;
     QLabel *m_count = nullptr;
     QListWidget *m_list = nullptr;
     QPushButton *m_open = nullptr;

@@ -16,29 +16,10 @@
 #include "platform/RunTimeError.h"
 #include "plot/PlotStatus.h"
 #include "plot/PlotView.h"
-#include "review/Figures.h"
-#include "review/Photometry.h"
-#include "review/Remarks.h"
 
 namespace penwright {
 
 namespace {
-
-/// The places, counted from 1, of the angles at which the largest value stands.
-struct Place {
-    int horizontal = 1;
-    int vertical = 1;
-};
-
-Place placeOfLargest(const PhotometricRecord &record)
-{
-    Place place;
-    for (int h = 1; h <= record.Candela.rows(); ++h)
-        for (int v = 1; v <= record.Candela.columns(); ++v)
-            if (record.Candela(h, v) > record.Candela(place.horizontal, place.vertical))
-                place = {h, v};
-    return place;
-}
 
 /// The vertical angle of the cone first shown: that of the largest value, but straight down or up a cone is a point of
 /// the sphere and its picture a circle that tells nothing; then the one nearest to half way out.
@@ -53,6 +34,13 @@ int coneFirstShown(const PhotometricRecord &record, int ofLargest)
         if (std::abs(record.VertAngles(v) - kHalfWayOut) < std::abs(record.VertAngles(nearest) - kHalfWayOut))
             nearest = v;
     return nearest;
+}
+
+/// The angle that is chosen, of the list that a choice was filled with.
+float chosen(const QComboBox &choice, const OneBased<float> &angles)
+{
+    const int place = choice.currentIndex() + 1;
+    return place >= 1 && place <= angles.size() ? angles(place) : 0;
 }
 
 /// The empty grid for a record without angles and for one whose lists disagree.
@@ -119,9 +107,11 @@ std::vector<std::string> sentencesOf(const std::vector<Remark> &remarks)
 
 void fill(QComboBox *choice, const OneBased<float> &angles)
 {
-    choice->clear();
+    QStringList texts;
     for (const float angle : angles)
-        choice->addItem(QString::fromStdString(generalText(angle)) + QChar(0xb0), angle);
+        texts.append(QString::fromStdString(generalText(angle)) + QChar(0xb0));
+    choice->clear();
+    choice->addItems(texts);
     choice->setEnabled(!angles.empty());
 }
 
@@ -217,66 +207,69 @@ void FileView::followPalette()
     m_coneLabel->setText(line(m_picture->look().cone, tr("Cone through V")));
 }
 
-void FileView::showFile(const HeldFile &file)
+void FileView::showFile(SharedFile file)
 {
-    m_record = file.record;
+    m_file = std::move(file);
     try {
-        showText(file);
-        fillChoices();
-        showReview();
+        showText();
+        const FileReview review = m_file->review ? *m_file->review : fileReview(record());
+        fillChoices(review);
+        showReview(review);
     } catch (const RunTimeError &error) {
         clear();
         m_text->showSentence(error.description());
     }
 }
 
-void FileView::showText(const HeldFile &file)
+void FileView::showText()
 {
-    m_text->showText(file.text.empty() ? iesFileText(file.record) : file.text);
+    if (m_file->text.empty())
+        m_text->showText(iesFileText(record()));
+    else
+        m_text->showText(std::shared_ptr<const std::string>(m_file, &m_file->text));
 }
 
-void FileView::showReview()
+void FileView::showReview(const FileReview &review)
 {
-    const Photometry photometry = photometryOf(m_record);
-    const std::vector<Remark> remarks = remarksOf(m_record, photometry);
-    m_figures->showFigures(rowsOf(figuresOf(m_record, photometry)));
-    m_remarks->showRemarks(sentencesOf(remarks));
-    m_remarksHeading->setText(remarks.empty() ? tr("No remarks") : tr("Remarks: %1").arg(remarks.size()));
-    m_remarks->setVisible(!remarks.empty());
-    m_remarksPart->setMaximumHeight(remarks.empty() ? m_remarksHeading->sizeHint().height() : QWIDGETSIZE_MAX);
+    m_figures->showFigures(rowsOf(review.figures));
+    m_remarks->showRemarks(sentencesOf(review.remarks));
+    const bool hasRemarks = !review.remarks.empty();
+    m_remarksHeading->setText(hasRemarks ? tr("Remarks: %1").arg(review.remarks.size()) : tr("No remarks"));
+    m_remarks->setVisible(hasRemarks);
+    m_remarksPart->setMaximumHeight(hasRemarks ? QWIDGETSIZE_MAX : m_remarksHeading->sizeHint().height());
     m_remarksPart->show();
     m_figuresPart->show();
 }
 
 void FileView::clear()
 {
-    m_record = {};
+    m_file = std::make_shared<const HeldFile>();
     m_text->showSentence({});
     m_remarksPart->hide();
     m_figuresPart->hide();
-    fillChoices();
+    fillChoices({});
 }
 
-void FileView::fillChoices()
+void FileView::fillChoices(const FileReview &review)
 {
     const QSignalBlocker blockers[]{QSignalBlocker(m_plane), QSignalBlocker(m_cone)};
-    fill(m_plane, m_record.HorAngles);
+    fill(m_plane, record().HorAngles);
     // Type B has no cone.
-    const bool hasCone = m_record.PhotometricType == kTypeC || m_record.VertAngles.empty();
-    fill(m_cone, hasCone ? m_record.VertAngles : OneBased<float>());
+    const bool hasCone = record().PhotometricType == kTypeC || record().VertAngles.empty();
+    fill(m_cone, hasCone ? record().VertAngles : OneBased<float>());
     m_cone->setVisible(hasCone);
     m_coneLabel->setVisible(hasCone);
-    if (m_record.NumHorzAngles > 0 && m_record.NumVertAngles > 0) {
-        const Place largest = placeOfLargest(m_record);
-        m_plane->setCurrentIndex(largest.horizontal - 1);
-        m_cone->setCurrentIndex(coneFirstShown(m_record, largest.vertical) - 1);
+    if (record().NumHorzAngles > 0 && record().NumVertAngles > 0) {
+        m_plane->setCurrentIndex(review.largestHorizontal - 1);
+        m_cone->setCurrentIndex(coneFirstShown(record(), review.largestVertical) - 1);
     }
     drawCurves();
 }
 
 void FileView::drawCurves()
 {
-    m_picture->setPicture(pictureOf(m_record, m_plane->currentData().toFloat(), m_cone->currentData().toFloat()));
+    m_picture->setPicture(pictureOf(record(), chosen(*m_plane, record().HorAngles),
+                                    m_cone->count() > 0 ? chosen(*m_cone, record().VertAngles) : 0));
 }
 
 }  // namespace penwright

@@ -26,7 +26,7 @@ public:
     explicit FileView(QWidget *parent = nullptr);
 
     /// Shows a file, its text as it stands on disk; the plane first shown goes through its largest value.
-    void showFile(const HeldFile &file);
+    void showFile(SharedFile file);
 
     /// Shows that no file is selected.
     void clear();
@@ -39,12 +39,14 @@ private:
     QWidget *makePicturePart();
     QWidget *makePicture();
     QComboBox *makeChoice(const char *name, const QString &accessibleName);
-    void showText(const HeldFile &file);
-    void showReview();
-    void fillChoices();
+    void showText();
+    void showReview(const FileReview &review);
+    void fillChoices(const FileReview &review);
     void drawCurves();
 
-    PhotometricRecord m_record;
+    const PhotometricRecord &record() const { return m_file->record; }
+
+    SharedFile m_file = std::make_shared<const HeldFile>();  ///< an empty one where none is shown
     Closing m_closing;  ///< never begun: the host's dialogs are closed by its user alone
     OwnerWindow m_owner{this};
     QtDialogs m_dialogs{m_closing, m_owner};

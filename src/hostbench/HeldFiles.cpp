@@ -14,29 +14,30 @@ bool HeldFiles::isFull() const
 int HeldFiles::unsavedCount() const
 {
     return static_cast<int>(
-        std::count_if(m_files.begin(), m_files.end(), [](const HeldFile &file) { return !file.isSaved; }));
+        std::count_if(m_files.begin(), m_files.end(), [](const SharedFile &file) { return !file->isSaved; }));
 }
 
 int HeldFiles::add(HeldFile file)
 {
-    const auto same = std::find_if(m_files.begin(), m_files.end(), [&file](const HeldFile &held) {
-        return file.isSaved && held.record.Filename == file.record.Filename;
+    const auto same = std::find_if(m_files.begin(), m_files.end(), [&file](const SharedFile &held) {
+        return file.isSaved && held->record.Filename == file.record.Filename;
     });
     if (same != m_files.end()) {
-        *same = std::move(file);
+        *same = std::make_shared<const HeldFile>(std::move(file));
         return static_cast<int>(same - m_files.begin());
     }
     if (isFull())
         return -1;
-    m_files.push_back(std::move(file));
+    m_files.push_back(std::make_shared<const HeldFile>(std::move(file)));
     return count() - 1;
 }
 
 void HeldFiles::setSaved(int place, const std::string &filename)
 {
-    HeldFile &file = m_files.at(static_cast<std::size_t>(place));
-    file.record.Filename = filename;
-    file.isSaved = true;
+    auto file = std::make_shared<HeldFile>(at(place));
+    file->record.Filename = filename;
+    file->isSaved = true;
+    m_files[static_cast<std::size_t>(place)] = std::move(file);
 }
 
 }  // namespace penwright

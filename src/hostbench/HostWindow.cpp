@@ -19,6 +19,7 @@
 #include "hostbench/HostStyle.h"
 #include "hostbench/LogPanel.h"
 #include "hostlib/RecordBridge.h"
+#include "platform/posix/PosixTextFiles.h"
 #include "platform/RunTimeError.h"
 
 namespace penwright {
@@ -86,7 +87,7 @@ void HostWindow::removeLeftSections()
 
 QWidget *HostWindow::makeCentre()
 {
-    m_panel = new FilePanel(m_files);
+    m_panel = new FilePanel(m_files, std::make_shared<PosixTextFiles>());
     m_view = new FileView;
     m_tabs = new QTabWidget;
     m_tabs->setObjectName("tabs");
@@ -259,6 +260,7 @@ void HostWindow::closeEvent(QCloseEvent *event)
 {
     if (!m_isClosing && !m_panel->mayClose(wizardsAtWork()))
         return event->ignore();
+    m_panel->stopOpening();
     if (m_tools.isEmpty())
         return QMainWindow::closeEvent(event);
     event->ignore();
@@ -285,7 +287,7 @@ void HostWindow::note(ToolTab *tab, const QString &text)
 void HostWindow::showSelected()
 {
     const int place = m_panel->selected();
-    place < 0 ? m_view->clear() : m_view->showFile(m_files.at(place));
+    place < 0 ? m_view->clear() : m_view->showFile(m_files.shared(place));
 }
 
 bool HostWindow::isNarrow() const

@@ -38,7 +38,8 @@ public:
     /// Adds a file as if a tool had brought it, and selects it. False when the list is full.
     bool addFile(HeldFile file);
 
-    /// Reads files from disk and adds them, the last one selected; what cannot be read is told in one box.
+    /// Reads files from disk, off the window's thread, and adds them, the last one selected; what cannot be read is
+    /// told in one box.
     void openFiles(const QStringList &paths) { m_panel->open(paths); }
 
     /// Puts the selected file into the store of the tool whose tab is shown and sends "DATACHANGED".

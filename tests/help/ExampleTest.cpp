@@ -12,6 +12,7 @@
 #include "pages/luminaire/LampFields.h"
 #include "pages/luminaire/TiltFields.h"
 #include "support/GridEdits.h"
+#include "support/ReadBack.h"
 #include "TopicFolder.h"
 
 namespace penwright::test {
@@ -21,6 +22,7 @@ std::string textOf(const PhotometricRecord &record)
 {
     std::string text;
     appendIesText(text, record);
+    EXPECT_EQ(readBackFault(text + "\r\n", record), "");
     return text;
 }
 

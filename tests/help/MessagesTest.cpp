@@ -34,7 +34,7 @@ const std::vector<std::string> kMessageCode{"core",
                                             "help/window/QtHelpViewer.cpp"};
 
 /// Texts of several words that are no messages: they are read out by screen readers, stand in a log that is never
-/// shown, are the title of a window that is hidden still or a dialog's filter, or are said by the compiler.
+/// shown, are the title of a window that is hidden still or a dialog's filter, a unit, or are said by the compiler.
 const std::set<std::string> kNoMessages{
     "What is missing or wrong",
     "Sketch of the luminous shape",
@@ -72,6 +72,7 @@ const std::set<std::string> kNoMessages{
     "IES files (*.ies)|*.ies;*.IES",
     "Tables as text (*.csv, *.tsv, *.txt)|*.csv;*.tsv;*.txt",
     "each shape has its solid, in the order of the list",
+    "cd/1000 lm",
 };
 
 bool isLetter(char c)

@@ -28,6 +28,7 @@ protected:
         m_view.show();
     }
 
+    void show(HeldFile file) { m_view.showFile(std::make_shared<const HeldFile>(std::move(file))); }
     QComboBox *choice(const char *name) const { return m_view.findChild<QComboBox *>(name); }
     PlotView *picture() const { return m_view.findChild<PlotView *>("polarPicture"); }
 
@@ -51,7 +52,7 @@ protected:
 
 TEST_F(FileViewTest, showsThePlaneOfTheLargestValueAndACone)
 {
-    m_view.showFile({sampleLuminaire(), false, {}});
+    show({sampleLuminaire(), false, {}});
     EXPECT_EQ(choice("plane")->currentText(), "0\u00b0");
     EXPECT_EQ(choice("cone")->currentText(), "45\u00b0");
     EXPECT_EQ(choice("plane")->count(), 5);
@@ -66,7 +67,7 @@ TEST_F(FileViewTest, theLargestValueNeedNotBeTheFirst)
 {
     PhotometricRecord record = sampleLuminaire();
     record.Candela(4, 13) = 9000;
-    m_view.showFile({record, false, {}});
+    show({record, false, {}});
     EXPECT_EQ(choice("plane")->currentText(), "67.5\u00b0");
     EXPECT_EQ(choice("cone")->currentText(), "60\u00b0");
     EXPECT_TRUE(picture()->accessibleDescription().contains("9000"));
@@ -74,7 +75,7 @@ TEST_F(FileViewTest, theLargestValueNeedNotBeTheFirst)
 
 TEST_F(FileViewTest, anotherPlaneIsAnotherPicture)
 {
-    m_view.showFile({sampleLuminaire(), false, {}});
+    show({sampleLuminaire(), false, {}});
     const QString before = picture()->accessibleDescription();
     const QImage picturedBefore = picture()->grab().toImage();
     choice("plane")->setFocus();
@@ -88,17 +89,17 @@ TEST_F(FileViewTest, typeBHasNoCone)
 {
     PhotometricRecord record = sampleLuminaire();
     record.PhotometricType = kTypeB;
-    m_view.showFile({record, false, {}});
+    show({record, false, {}});
     EXPECT_FALSE(choice("cone")->isVisible());
     EXPECT_GT(count(picture()->look().plane), 100);
     EXPECT_EQ(count(picture()->look().cone), 0);
-    m_view.showFile({sampleLuminaire(), false, {}});
+    show({sampleLuminaire(), false, {}});
     EXPECT_TRUE(choice("cone")->isVisible());
 }
 
 TEST_F(FileViewTest, withoutAFileTheGridIsEmpty)
 {
-    m_view.showFile({sampleLuminaire(), false, {}});
+    show({sampleLuminaire(), false, {}});
     m_view.clear();
     EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "");
     EXPECT_EQ(count(picture()->look().plane), 0);
@@ -110,7 +111,7 @@ TEST_F(FileViewTest, aRecordWhoseListsDisagreeShowsWhy)
 {
     PhotometricRecord torn = sampleLuminaire();
     torn.NumVertAngles = 40;
-    m_view.showFile({torn, false, {}});
+    show({torn, false, {}});
     EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "Subscript out of range");
     EXPECT_EQ(count(picture()->look().plane), 0);
 }
@@ -119,7 +120,7 @@ TEST_F(FileViewTest, figuresOfTheFileStandBelowThePicture)
 {
     const QListWidget &figures = *m_view.findChild<QListWidget *>("figureList");
     EXPECT_FALSE(figures.isVisible());
-    m_view.showFile({sampleLuminaire(), false, {}});
+    show({sampleLuminaire(), false, {}});
     EXPECT_TRUE(figures.isVisible());
     const PhotometricRecord record = sampleLuminaire();
     const std::vector<Figure> expected = figuresOf(record, photometryOf(record));
@@ -136,7 +137,7 @@ TEST_F(FileViewTest, remarksOnTheFileStandBelowTheText)
     const QListWidget &remarks = *m_view.findChild<QListWidget *>("remarkList");
     PhotometricRecord odd = sampleLuminaire();
     odd.LumensPerLamp = 100;
-    m_view.showFile({odd, false, {}});
+    show({odd, false, {}});
     const std::vector<Remark> expected = remarksOf(odd, photometryOf(odd));
     ASSERT_GT(expected.size(), 1U);
     ASSERT_EQ(remarks.count(), static_cast<int>(expected.size()));
@@ -148,7 +149,7 @@ TEST_F(FileViewTest, withoutRemarksTheTextHasTheirRoom)
 {
     PhotometricRecord odd = sampleLuminaire();
     odd.LumensPerLamp = 100;
-    m_view.showFile({odd, false, {}});
+    show({odd, false, {}});
     const QWidget &text = *m_view.findChild<QPlainTextEdit *>("fileText");
     ASSERT_TRUE(QTest::qWaitFor([&] { return text.height() < m_view.height() - 100; }));
     const int beside = text.height();
@@ -156,20 +157,20 @@ TEST_F(FileViewTest, withoutRemarksTheTextHasTheirRoom)
     plain.TiltIncl = false;
     plain.LumensPerLamp = 8000;
     ASSERT_TRUE(remarksOf(plain, photometryOf(plain)).empty());
-    m_view.showFile({plain, false, {}});
+    show({plain, false, {}});
     EXPECT_FALSE(m_view.findChild<QListWidget *>("remarkList")->isVisible());
     EXPECT_TRUE(QTest::qWaitFor([&] { return text.height() > beside + 50; }));
 }
 
 TEST_F(FileViewTest, aFileOfTheDiskIsShownAsItStandsThere)
 {
-    m_view.showFile({sampleLuminaire(), true, "IESNA:LM-63-2002\r\n  as  it stands\r\n"});
+    show({sampleLuminaire(), true, "IESNA:LM-63-2002\r\n  as  it stands\r\n"});
     EXPECT_EQ(m_view.findChild<QPlainTextEdit *>("fileText")->toPlainText(), "IESNA:LM-63-2002\n  as  it stands");
 }
 
 TEST_F(FileViewTest, thePictureIsReadAndHasALinearView)
 {
-    m_view.showFile({sampleLuminaire(), false, {}});
+    show({sampleLuminaire(), false, {}});
     auto *linear = m_view.findChild<QToolButton *>("plotLinear");
     QTest::mouseClick(linear, Qt::LeftButton);
     EXPECT_EQ(picture()->shape(), PlotShape::Linear);
@@ -191,7 +192,7 @@ TEST_F(FileViewTest, ofAMillionValuesTheFirstLinesAreShownAtOnce)
         for (int v = 1; v <= 1000; ++v)
             large.Candela(i, v) = 1000 - v;
     }
-    m_view.showFile({large, false, {}});
+    show({large, false, {}});
     EXPECT_LT(m_view.findChild<QPlainTextEdit *>("fileText")->blockCount(), 2100);
     EXPECT_EQ(choice("plane")->count(), 1000);
 }
@@ -199,7 +200,7 @@ TEST_F(FileViewTest, ofAMillionValuesTheFirstLinesAreShownAtOnce)
 TEST_F(FileViewTest, curvesStandOutOnDarkToo)
 {
     const QPalette light = QApplication::palette();
-    m_view.showFile({sampleLuminaire(), false, {}});
+    show({sampleLuminaire(), false, {}});
     const QColor onLight = picture()->look().plane;
     QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
     EXPECT_TRUE(QTest::qWaitFor([&] { return picture()->look().plane.lightness() > onLight.lightness() + 40; }));

@@ -9,7 +9,7 @@
 #include "hostbench/HeldFiles.h"
 #include "hostbench/SampleLuminaire.h"
 #include "platform/sqlite/SqliteSettingsStore.h"
-#include "support/TempFolder.h"
+#include "support/ReadBackFolder.h"
 
 namespace penwright {
 namespace {
@@ -101,7 +101,7 @@ void checkPictures(const fs::path &folder, int scale)
 TEST_P(WalkTest, leavesTheFileAndAPictureOfEachPage)
 {
     const Screen screen(GetParam().isManaged);
-    const test::TempFolder home;
+    const test::ReadBackFolder home;
     const fs::path folder = home.path() / "left here";
     Process host({HOSTBENCH, "--walk", folder.string()}, environment(screen.name(), home.path(), GetParam().scale),
                  Process::Errors::Joined);
@@ -124,7 +124,7 @@ INSTANTIATE_TEST_SUITE_P(Displays, WalkTest,
 TEST(Walk, namesTheStepThatFailsAndEnds)
 {
     const Screen screen(false);
-    const test::TempFolder home;
+    const test::ReadBackFolder home;
     fs::copy_file(HOSTBENCH, home.path() / "hostbench");
     Process host({home.file("hostbench"), "--walk", home.file("left")}, environment(screen.name(), home.path()),
                  Process::Errors::Joined);
@@ -135,7 +135,7 @@ TEST(Walk, namesTheStepThatFailsAndEnds)
 TEST(Walk, aToolThatShowsNothingIsGivenUp)
 {
     const Screen screen(false);
-    const test::TempFolder home;
+    const test::ReadBackFolder home;
     fs::copy_file(HOSTBENCH, home.path() / "hostbench");
     fs::copy_file(FAKE_TOOL, home.path() / "PenwrightPE");
     Process::Environment silent = environment(screen.name(), home.path());
@@ -150,7 +150,7 @@ TEST(Walk, aToolThatShowsNothingIsGivenUp)
 TEST(Walk, aFolderThatCannotBeMadeIsNamed)
 {
     const Screen screen(false);
-    const test::TempFolder home;
+    const test::ReadBackFolder home;
     std::ofstream(home.file("a file")) << "in the way";
     Process host({HOSTBENCH, "--walk", home.file("a file") + "/left"}, environment(screen.name(), home.path()),
                  Process::Errors::Joined);
@@ -161,7 +161,7 @@ TEST(Walk, aFolderThatCannotBeMadeIsNamed)
 
 TEST(HostBench, withoutADisplayItSaysSo)
 {
-    const test::TempFolder home;
+    const test::ReadBackFolder home;
     for (const auto &arguments :
          {std::vector<std::string>{HOSTBENCH}, {HOSTBENCH, "--new"}, {HOSTBENCH, "--walk", home.file("left")}}) {
         Process host(arguments, environment(":no-display", home.path()), Process::Errors::Joined);
@@ -182,7 +182,7 @@ Process::Environment onPlatform(const std::string &platform, Process::Environmen
 
 TEST(HostBench, runsOnX11WhereWaylandIsExported)
 {
-    const test::TempFolder home;
+    const test::ReadBackFolder home;
     Process host({HOSTBENCH}, onPlatform("wayland", environment(":no-display", home.path())), Process::Errors::Joined);
     EXPECT_EQ(host.readAll(), "hostbench: cannot open the X display \":no-display\".\n");
     EXPECT_EQ(host.waitForEnd(), 1);
@@ -190,7 +190,7 @@ TEST(HostBench, runsOnX11WhereWaylandIsExported)
 
 TEST(HostBench, aPlatformThatCannotBeLoadedIsSaidInOneLineWithoutAnAbort)
 {
-    const test::TempFolder home;
+    const test::ReadBackFolder home;
     struct {
         const char *platform;
         const char *display;
@@ -209,7 +209,7 @@ TEST(HostBench, aPlatformThatCannotBeLoadedIsSaidInOneLineWithoutAnAbort)
 
 TEST(HostBench, unknownOptionsGetTheUsage)
 {
-    const test::TempFolder home;
+    const test::ReadBackFolder home;
     for (const auto &arguments : {std::vector<std::string>{HOSTBENCH, "--walk"}, {HOSTBENCH, "a.ies", "--nonsense"}}) {
         Process host(arguments, environment(":no-display", home.path()), Process::Errors::Joined);
         EXPECT_EQ(host.readAll().substr(0, 6), "usage:");
@@ -220,7 +220,7 @@ TEST(HostBench, unknownOptionsGetTheUsage)
 TEST(HostBench, aFileOfTheCommandLineThatCannotBeOpenedIsTold)
 {
     const Screen screen(false);
-    const test::TempFolder home;
+    const test::ReadBackFolder home;
     const Process::Environment here = environment(screen.name(), home.path());
     const auto isTold = [&] {
         return Process({"xdotool", "search", "--name", "^Open Photometric Files$"}, here).readAll() != "";
@@ -249,7 +249,7 @@ protected:
     }
 
     Screen m_screen{false};
-    test::TempFolder m_home;
+    test::ReadBackFolder m_home;
     Process m_host{{HOSTBENCH, "--new"}, environment(m_screen.name(), m_home.path())};
     pid_t m_tool = -1;
 };

@@ -1,3 +1,4 @@
+#include "host/BoxText.h"
 #include "host/HostWindowBench.h"
 
 #include <QFileDialog>
@@ -14,21 +15,23 @@ class HostFilesTest : public HostWindowTest {
 protected:
     QString write(const std::string &name, const std::string &text)
     {
-        std::ofstream(m_folder.file(name), std::ios::binary) << text;
-        return QString::fromStdString(m_folder.file(name));
+        std::ofstream(m_given.file(name), std::ios::binary) << text;
+        return QString::fromStdString(m_given.file(name));
     }
 
-    /// Closes the box that comes next; its text.
-    QString told(const std::function<void()> &act)
+    /// Opens files, which are held once they are read.
+    void openUntilHeld(const QStringList &paths, const std::function<bool()> &isHeld)
     {
-        QString text;
-        whenDialogIsUp([&](QDialog &dialog) {
-            text = dynamic_cast<QMessageBox &>(dialog).text();
-            QTest::keyClick(&dialog, Qt::Key_Return);
-        });
-        act();
-        return text;
+        m_window->openFiles(paths);
+        ASSERT_TRUE(QTest::qWaitFor(isHeld));
     }
+
+    auto areHeld(int count) const
+    {
+        return [this, count] { return m_window->files().count() == count; };
+    }
+
+    TempFolder m_given;  ///< what others have written
 
     QListWidget *list() const { return m_window->findChild<QListWidget *>("fileList"); }
 };
@@ -37,8 +40,7 @@ const std::string kSample = iesFileText(sampleLuminaire());
 
 TEST_F(HostFilesTest, filesOfTheDiskAreHeldTheLastOneSelected)
 {
-    m_window->openFiles({write("one.ies", kSample), write("two.IES", kSample)});
-    ASSERT_EQ(m_window->files().count(), 2);
+    openUntilHeld({write("one.ies", kSample), write("two.IES", kSample)}, areHeld(2));
     EXPECT_EQ(list()->currentRow(), 1);
     EXPECT_EQ(list()->item(0)->text(), "one.ies");
     EXPECT_TRUE(m_window->files().at(0).isSaved);
@@ -56,26 +58,26 @@ TEST_F(HostFilesTest, theButtonOpensWhatIsChosen)
         QTest::keyClick(line, Qt::Key_Return);
     });
     QTest::mouseClick(button("openFiles"), Qt::LeftButton);
-    ASSERT_EQ(m_window->files().count(), 1);
+    ASSERT_TRUE(QTest::qWaitFor(areHeld(1)));
     EXPECT_EQ(QString::fromStdString(m_window->files().at(0).record.Filename), path);
 }
 
 TEST_F(HostFilesTest, theSameFileIsHeldOnceAndAnew)
 {
-    m_window->openFiles({write("one.ies", kSample)});
+    openUntilHeld({write("one.ies", kSample)}, areHeld(1));
     PhotometricRecord other = sampleLuminaire();
     other.InputWatts = 77;
-    m_window->openFiles({write("one.ies", iesFileText(other))});
-    ASSERT_EQ(m_window->files().count(), 1);
-    EXPECT_EQ(m_window->files().at(0).record.InputWatts, 77);
+    openUntilHeld({write("one.ies", iesFileText(other))},
+                  [this] { return m_window->files().at(0).record.InputWatts == 77; });
+    EXPECT_EQ(m_window->files().count(), 1);
 }
 
 TEST_F(HostFilesTest, whatCannotBeOpenedIsToldInOneBoxAndTheOthersAreHeld)
 {
-    const QString folder = QString::fromStdString(m_folder.path().string());
+    const QString folder = QString::fromStdString(m_given.path().string());
     const QStringList paths{folder + "/none.ies", folder, write("cut.ies", "IESNA:LM-63-2002\nTILT=NONE\n1 2\n"),
                             write("good.ies", kSample)};
-    const QStringList lines = told([&] { m_window->openFiles(paths); }).split('\n');
+    const QStringList lines = boxTextOf([&] { m_window->openFiles(paths); }).split('\n');
     ASSERT_EQ(lines.size(), 3);
     EXPECT_EQ(lines[0], "none.ies was not opened: There is no such file.");
     EXPECT_TRUE(lines[1].endsWith(" was not opened: This is no file that can be read."));
@@ -88,7 +90,7 @@ TEST_F(HostFilesTest, theTwentySixthIsRefused)
     for (int i = 0; i < 25; ++i)
         m_window->addFile({sampleLuminaire(), false, {}});
     const QString path = write("more.ies", kSample);
-    EXPECT_EQ(told([&] { m_window->openFiles({path}); }), "more.ies was not opened: 25 files are held already.");
+    EXPECT_EQ(boxTextOf([&] { m_window->openFiles({path}); }), "more.ies was not opened: 25 files are held already.");
     EXPECT_EQ(m_window->files().count(), 25);
 }
 

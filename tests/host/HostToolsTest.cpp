@@ -17,7 +17,7 @@
 #include "hostbench/XDisplay.h"
 #include "support/DialogDriver.h"
 #include "support/Process.h"
-#include "support/TempFolder.h"
+#include "support/ReadBackFolder.h"
 #include "support/Xvfb.h"
 
 namespace penwright {
@@ -112,7 +112,7 @@ protected:
         return waitFor([&] { return m_window.toolCount() == count; });
     }
 
-    const test::TempFolder m_state;
+    const test::ReadBackFolder m_state;
     HostStore m_store;
     HostWindow m_window{m_store, PENWRIGHT};
     XDisplay m_display;

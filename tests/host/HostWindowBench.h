@@ -13,7 +13,7 @@
 #include <QTreeWidget>
 
 #include "support/DialogDriver.h"
-#include "support/TempFolder.h"
+#include "support/ReadBackFolder.h"
 
 /// Texts in failures are printed to be read.
 inline void PrintTo(const QString &text, std::ostream *out)
@@ -94,7 +94,7 @@ protected:
         return texts;
     }
 
-    TempFolder m_folder;
+    ReadBackFolder m_folder;
     std::unique_ptr<HostStore> m_store;
     std::unique_ptr<HostWindow> m_window;
 };

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "host/HostRun.h"
-#include "support/TempFolder.h"
+#include "support/ReadBackFolder.h"
 
 namespace penwright {
 namespace {
@@ -36,7 +36,7 @@ protected:
         return {{"LOCPATH", m_home.path().string()}, {"LC_ALL", name()}, {"LANG", name()}, {"LANGUAGE", name()}};
     }
 
-    test::TempFolder m_home;
+    test::ReadBackFolder m_home;
 };
 
 TEST_P(WalkLocaleTest, givesTheSameFileAndRecord)

@@ -4,7 +4,7 @@
 #include <set>
 
 #include "host/HostRun.h"
-#include "support/TempFolder.h"
+#include "support/ReadBackFolder.h"
 
 namespace penwright {
 namespace {
@@ -21,7 +21,7 @@ std::string firstArgument(const std::string &call)
 TEST(WalkTrace, hostAndToolSpeakToNobodyBeyondThisMachine)
 {
     const test::Screen screen(false);
-    const test::TempFolder home;
+    const test::ReadBackFolder home;
     Process::Environment here = test::environment(screen.name(), home.path());
     for (auto &[name, value] : here)
         if (name == "LSAN_OPTIONS")

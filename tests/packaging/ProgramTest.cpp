@@ -4,6 +4,7 @@
 #include "help/chm/ChmHelpFile.h"
 #include "packaging/InstalledTree.h"
 #include "run/Desktop.h"
+#include "support/ReadBackFolder.h"
 #include "wizard/PageTable.h"
 
 namespace penwright::test {
@@ -21,7 +22,7 @@ protected:
                 {"LSAN_OPTIONS", "print_suppressions=0:suppressions=" LEAK_SUPPRESSIONS}};
     }
 
-    TempFolder m_folder;
+    ReadBackFolder m_folder;
 };
 
 TEST_F(Installed, wizardRefusesToRunByItself)

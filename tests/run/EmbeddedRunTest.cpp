@@ -200,12 +200,13 @@ TEST_F(EmbeddedRun, savedFileIsOnDiskUnderTheTypedName)
     const std::string window = windowTitled("Save New Photometric file As...");
     ASSERT_NE(window, "");
     ASSERT_TRUE(waitUntil([&] { return std::to_string(display.focus()) == window; }));
-    const TempFolder folder;
-    xdotool({"type", "--delay", "1", folder.file("lamp.ies")});
+    const std::string path = fileOfTheUser("lamp.ies");
+    xdotool({"type", "--delay", "1", path});
     typeKeys({"Return"});
     EXPECT_EQ(pop(), "SendNewDataClose,PenwrightPE,7");
-    EXPECT_EQ(contentOf(folder.file("lamp.ies")).substr(0, 16), "IESNA:LM-63-2002");
-    EXPECT_EQ(storedRecord().Filename, folder.file("lamp.ies"));
+    EXPECT_EQ(contentOf(path).substr(0, 16), "IESNA:LM-63-2002");
+    EXPECT_EQ(readBackFault(contentOf(path), storedRecord()), "");
+    EXPECT_EQ(storedRecord().Filename, path);
     send("CLOSE");
     expectUnloaded();
 }

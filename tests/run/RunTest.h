@@ -10,7 +10,7 @@
 
 #include "platform/sqlite/SqliteSettingsStore.h"
 #include "support/Process.h"
-#include "support/TempFolder.h"
+#include "support/ReadBackFolder.h"
 
 namespace penwright::test {
 
@@ -40,6 +40,9 @@ protected:
     Process &tool() { return *m_tool; }
 
     std::string config() const { return m_folder.file("config"); }
+    /// A file that a user names.
+    std::string fileOfTheUser(const std::string &name) const { return m_folder.file(name); }
+
     std::string stateFolder() const { return m_folder.file("state"); }
     std::string storePath() const { return config() + "/Lumentor/settings.sqlite3"; }
 
@@ -80,7 +83,7 @@ protected:
     }
 
 private:
-    TempFolder m_folder;
+    ReadBackFolder m_folder;
     std::unique_ptr<SqliteSettingsStore> m_store;
     std::unique_ptr<Process> m_tool;
 };

@@ -11,7 +11,7 @@
 
 #include "platform/sqlite/SqliteDraftStore.h"
 #include "support/Process.h"
-#include "support/TempFolder.h"
+#include "support/ReadBackFolder.h"
 
 namespace penwright::test {
 namespace {
@@ -188,7 +188,7 @@ private:
 
     std::string temporary() const { return m_folder.file("tmp"); }
 
-    TempFolder m_folder;
+    ReadBackFolder m_folder;
     std::unique_ptr<Process> m_host;
     FileClock::time_point m_begun;
     FileClock::time_point m_killed;

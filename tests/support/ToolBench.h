@@ -9,7 +9,7 @@
 #include "support/FakeDialogs.h"
 #include "support/FakeEmbedding.h"
 #include "support/FakeEventWait.h"
-#include "support/FakeTextFiles.h"
+#include "support/ReadBack.h"
 #include "support/TempFolder.h"
 
 namespace penwright::test {
@@ -48,7 +48,7 @@ struct ToolBench {
     SqliteSettingsStore store{folder.file("Lumentor/settings.sqlite3")};
     FullStore fullStore;
     ToolState state;
-    FakeTextFiles files;
+    ReadBackFiles files{state.PhotFiles};
     FakeDialogs dialogs;
     FakeEventWait wait;
     FakeEmbedding embedding;

@@ -1,3 +1,4 @@
+#include "support/SampleRecords.h"
 #include "widgets/WizardTest.h"
 
 namespace penwright::test {
@@ -98,6 +99,7 @@ TEST_F(Finish, unnamedFileIsHandedOverAndThePageStays)
 
 TEST_F(Finish, namedFileIsWrittenAndHandedOver)
 {
+    state.PhotFiles(1) = smallRecord();
     dialogs.names = {"/lum/a.ies"};
     takePosts();
     click("cmdSaveAs");

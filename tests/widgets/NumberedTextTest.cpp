@@ -160,6 +160,40 @@ TEST_F(Numbered, breaksNoCharacterInTwo)
     EXPECT_EQ(shown(), line.substr(0, 4095) + "\n\xf0\x9f\x92\xa1yy");
 }
 
+TEST_F(Numbered, takesEachLineEndForOneAndNoOtherCharacter)
+{
+    show(
+        "a\rb\n\rc\r\nd\xe2\x80\xa9"
+        "e\x0b"
+        "f\r");
+    EXPECT_EQ(box.blockCount(), 5);
+    EXPECT_EQ(shown().substr(0, 8), "a\nb\n\nc\nd");
+    EXPECT_TRUE(hasNumber(4));
+}
+
+TEST_F(Numbered, showsTheBeginningOfAnEndlessLineAtOnce)
+{
+    const std::string line(10'000'000, 'x');
+    show(line);
+    EXPECT_EQ(box.blockCount(), NumberedText::kFirstLines);
+    EXPECT_TRUE(hasNumber(0));
+    box.verticalScrollBar()->setValue(box.verticalScrollBar()->maximum());
+    EXPECT_GT(box.blockCount(), NumberedText::kFirstLines);
+}
+
+TEST_F(Numbered, comesBitByBitWhereItsRestIsLong)
+{
+    show(linesUpTo(100'000));
+    QTest::keySequence(&box, QKeySequence(QKeySequence::MoveToEndOfDocument));
+    EXPECT_LT(box.blockCount(), 100'000);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return box.blockCount() == 100'000; }));
+    EXPECT_TRUE(box.textCursor().atEnd());
+    show(linesUpTo(100'000));
+    QTest::keySequence(&box, QKeySequence(QKeySequence::SelectAll));
+    QTest::keySequence(&box, QKeySequence::Copy);
+    EXPECT_EQ(QGuiApplication::clipboard()->text().count('\n'), 99'999);
+}
+
 TEST_F(Numbered, letsTabLeaveIt)
 {
     QWidget window;

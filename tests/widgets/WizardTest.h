@@ -26,18 +26,30 @@
 #include "support/FakeDialogs.h"
 #include "support/FakeEmbedding.h"
 #include "support/FakeHelp.h"
+#include "support/ReadBack.h"
 #include "support/TempFolder.h"
 #include "wizard/WarningDialog.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright::test {
 
+/// Files that are noted, each of them read back and compared with the record that it is written of.
 struct RecordingFiles : TextFiles {
-    int replace(const std::string &path, std::string_view) override { return paths.push_back(path), failure; }
+    explicit RecordingFiles(const OneBased<PhotometricRecord> &all) : records(all) {}
+
+    int replace(const std::string &path, std::string_view text) override
+    {
+        paths.push_back(path);
+        const std::string fault = written.faultOf(path, text, records);
+        EXPECT_EQ(failure == 0 ? fault : "", "");
+        return failure;
+    }
     FileContent read(const std::string &path, std::size_t, const std::function<bool(double)> &) override
     {
         return contents.count(path) ? contents.at(path) : FileContent{ENOENT, {}};
     }
+    const OneBased<PhotometricRecord> &records;
+    WrittenRecords written;
     std::vector<std::string> paths;
     std::map<std::string, FileContent> contents;  ///< of the files that there are
     int failure = 0;                              ///< what each writing ends with
@@ -200,7 +212,7 @@ protected:
     TempFolder folder;
     ToolState state;
     SqliteSettingsStore store{folder.file("settings.sqlite3")};
-    RecordingFiles files;
+    RecordingFiles files{state.PhotFiles};
     FakeHelp help;
     FakeEmbedding embedding;
     Closing closing;

@@ -9,6 +9,7 @@
 
 #include "core/IesText.h"
 #include "pages/luminaire/LuminousShapes.h"
+#include "support/ReadBack.h"
 #include "support/SampleRecords.h"
 
 namespace {
@@ -200,7 +201,12 @@ int main(int argc, char **argv)
     const std::string folder = argv[1];
     for (const auto &make : {headers, tilts, shapes, folds, numbers, angles})
         for (const Sample &sample : make()) {
-            std::ofstream(folder + "/" + sample.name + ".ies", std::ios::binary) << iesFileText(sample.record);
+            const std::string text = iesFileText(sample.record);
+            if (const std::string fault = test::readBackFault(text, sample.record); !fault.empty()) {
+                std::cerr << sample.name << " is not read back: " << fault << '\n';
+                return 1;
+            }
+            std::ofstream(folder + "/" + sample.name + ".ies", std::ios::binary) << text;
             std::ofstream(folder + "/" + sample.name + ".json") << json(sample.record) << '\n';
         }
 }

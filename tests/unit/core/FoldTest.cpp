@@ -1,5 +1,6 @@
 #include "core/IesText.h"
 #include "core/NumberText.h"
+#include "support/ReadBack.h"
 #include "support/SampleRecords.h"
 
 namespace penwright {
@@ -46,6 +47,7 @@ protected:
             record.Candela(1, v) = values[static_cast<std::size_t>(v) - 1];
         std::string text;
         appendIesText(text, record);
+        EXPECT_EQ(test::readBackFault(text + "\r\n", record), "");
         const std::string mark = "\r\n0\r\n";  // the line of the one horizontal angle
         std::vector<std::string> lines;
         std::size_t start = text.rfind(mark) + mark.size();

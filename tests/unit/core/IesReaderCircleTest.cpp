@@ -1,43 +1,16 @@
 #include <algorithm>
 
 #include "core/IesText.h"
-#include "core/NumberText.h"
 #include "support/RandomRecord.h"
+#include "support/ReadBack.h"
 #include "support/SampleRecords.h"
 #include "unit/core/IesReaderTest.h"
 
 namespace penwright {
 namespace {
 
+using test::asInTheFile;
 using test::iesContentOf;
-
-void roundAll(OneBased<float> &numbers)
-{
-    for (float &number : numbers)
-        number = toSingle(generalText(number));
-}
-
-/// A record as its file says it: singles have seven digits there and candelas fifteen, and what is not in the file is
-/// not in the record.
-PhotometricRecord asInTheFile(PhotometricRecord record)
-{
-    record.PictureFilename = record.Directory = record.Filename = record.OptionalData = "";
-    if (!record.TiltIncl) {
-        record.LampToLuminaireGeometry = record.NumTiltAngles = 0;
-        record.TiltAngles.clear();
-        record.TiltMultipliers.clear();
-    }
-    for (float *number : {&record.LumensPerLamp, &record.CandelaMultiplier, &record.Width, &record.Length,
-                          &record.Height, &record.BallastFactor, &record.InputWatts})
-        *number = toSingle(generalText(*number));
-    for (OneBased<float> *numbers :
-         {&record.TiltAngles, &record.TiltMultipliers, &record.VertAngles, &record.HorAngles})
-        roundAll(*numbers);
-    for (int h = 1; h <= record.NumHorzAngles; ++h)
-        for (int v = 1; v <= record.NumVertAngles; ++v)
-            record.Candela(h, v) = toDouble(generalText(record.Candela(h, v)));
-    return record;
-}
 
 /// The record with what a file must have to be read: angles that rise, a type, a unit, a geometry.
 PhotometricRecord madeReadable(PhotometricRecord record)

@@ -175,5 +175,35 @@ TEST(IesReader, takesACommaWithABlankInAnyVersion)
               test::wholeRecord().Candela);
 }
 
+TEST(IesReader, canBeStopped)
+{
+    std::string text = "IESNA91\nTILT=NONE\n1 1000 1 1000 1000 1 2 0 0 0\n1 1 10\n";
+    for (int list = 0; list < 2; ++list)
+        for (int angle = 0; angle < 1000; ++angle)
+            text += std::to_string(angle) + "\n";
+    for (int value = 0; value < 1'000'000; ++value)
+        text += "7\n";
+    std::vector<double> parts;
+    const auto reading = readIesFile(text, [&parts](double part) { return parts.push_back(part), parts.size() < 3; });
+    ASSERT_TRUE(std::holds_alternative<IesFault>(reading));
+    EXPECT_EQ(std::get<IesFault>(reading).text, "");
+    ASSERT_EQ(parts.size(), 3U);
+    EXPECT_TRUE(0 < parts[0] && parts[0] < parts[1] && parts[1] < parts[2] && parts[2] < 0.5);
+    EXPECT_TRUE(std::holds_alternative<IesContent>(readIesFile(text, [](double) { return true; })));
+}
+
+TEST(IesReader, takesAsManyLinesBeforeTheTiltLineAsARecord)
+{
+    const auto withLines = [](int count) {
+        std::string lines;
+        for (int line = 0; line < count; ++line)
+            lines += "[MORE]\r\n";
+        return lines + kFileWithoutTilt.substr(kFileWithoutTilt.find("TILT="));
+    };
+    EXPECT_EQ(iesContentOf(withLines(32767)).record.Keywords.size(), 32767);
+    EXPECT_EQ(test::refusalOf(withLines(32768)),
+              "Line 32768: no line before this one begins with TILT=; it is no IES file.");
+}
+
 }  // namespace
 }  // namespace penwright

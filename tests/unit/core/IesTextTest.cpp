@@ -4,6 +4,7 @@
 
 #include "core/NumberText.h"
 #include "platform/RunTimeError.h"
+#include "support/ReadBack.h"
 #include "support/SampleRecords.h"
 
 namespace penwright {
@@ -75,12 +76,20 @@ private:
     std::size_t m_width = 0;
 };
 
-/// The text that the rule appends to nothing.
+/// The text that the rule appends to nothing, which is read back.
 std::string textOf(const PhotometricRecord &record)
 {
     std::string text;
     appendIesText(text, record);
+    EXPECT_EQ(test::readBackFault(text + "\r\n", record), "");
     return text;
+}
+
+/// The same of a whole file.
+std::string fileOf(const PhotometricRecord &record)
+{
+    EXPECT_EQ(iesFileText(record), textOf(record) + "\r\n");
+    return iesFileText(record);
 }
 
 /// The number of the error that a call ends with, 0 when there is none.
@@ -105,7 +114,7 @@ protected:
 
 TEST_F(IesText, wholeFileStandsLineByLine)
 {
-    EXPECT_EQ(iesFileText(record), smallText);
+    EXPECT_EQ(fileOf(record), smallText);
 }
 
 TEST_F(IesText, tiltDataIsIncluded)
@@ -129,7 +138,7 @@ TEST_F(IesText, keptTiltFieldsAreSkippedWithoutTilt)
 {
     record.NumTiltAngles = 3;
     record.TiltAngles = {0, 45, 90};
-    EXPECT_EQ(iesFileText(record), smallText);
+    EXPECT_EQ(fileOf(record), smallText);
 }
 
 TEST_F(IesText, keywordsStandAsStored)
@@ -141,7 +150,7 @@ TEST_F(IesText, keywordsStandAsStored)
 TEST_F(IesText, oneHorizontalAngleMakesOneCandelaLine)
 {
     record.NumHorzAngles = 1;
-    const std::string text = iesFileText(record);
+    const std::string text = fileOf(record);
     EXPECT_EQ(text.substr(text.size() - 18), "\r\n0\r\n101 102 103\r\n");
 }
 
@@ -188,7 +197,7 @@ TEST_F(IesText, secondTextHasNothingOfTheFirst)
 {
     test::RandomRecords random(7);
     textOf(random.next());
-    EXPECT_EQ(iesFileText(record), smallText);
+    EXPECT_EQ(fileOf(record), smallText);
 }
 
 TEST_F(IesText, missingFormatLineIsErrorNine)

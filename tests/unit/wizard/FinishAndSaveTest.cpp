@@ -4,6 +4,7 @@
 
 #include <cerrno>
 
+#include "support/SampleRecords.h"
 #include "support/ToolBench.h"
 
 namespace penwright::test {
@@ -21,7 +22,8 @@ protected:
     FinishAndSaveTest()
     {
         PhotometricRecord &record = bench.state.PhotFiles(1);
-        record.Keywords = {"IESNA:LM-63-2002"};
+        record = smallRecord();
+        record.Filename = "";
         record.NumLamps = 2;
         bench.wait.onTurn = [this] {
             posted += bench.value("HostBox") + ";";
@@ -53,7 +55,7 @@ TEST_F(FinishAndSaveTest, unnamedFileIsNumberedBehindTheHostsFiles)
     EXPECT_EQ(finish(false), FinishEnd::Taken);
     EXPECT_EQ(stored(), "new_file_4 in C:\\");
     EXPECT_EQ(posted, "SendNewDataClose*,PenwrightPE,7;");
-    EXPECT_EQ(bench.value("OtherData1"), "2,0,0,0,0,0,0,0,0,0");
+    EXPECT_EQ(bench.value("OtherData1"), "2,1000,1,1,1,.5,-2,0,.95,150");
     EXPECT_EQ(writtenPaths(), "");
     EXPECT_EQ(bench.dialogs.transcript, "");
 }
@@ -120,11 +122,13 @@ TEST_F(FinishAndSaveTest, retryThatSucceedsFinishes)
 
 TEST_F(FinishAndSaveTest, textThatCannotBeMadeIsWrittenOnTheRetryAsFarAsItGot)
 {
-    bench.state.PhotFiles(1).NumVertAngles = 3;
+    bench.state.PhotFiles(1).NumVertAngles = 4;
     bench.dialogs.names = {"a.ies"};
     finish(true);
     ASSERT_EQ(bench.files.written.size(), 1u);
-    EXPECT_EQ(bench.files.written[0].second, "IESNA:LM-63-2002\r\nTILT=NONE\r\n2 0 0 3 0 0 0 0 0 0\r\n0 1 0\r\n\r\n");
+    EXPECT_EQ(bench.files.written[0].second,
+              "IESNA:LM-63-2002\r\n[TEST] 1\r\n[MANUFAC] A\r\nTILT=NONE\r\n2 1000 1 4 2 1 1 0.5 -2 0\r\n"
+              "0.95 1 150\r\n0 45 90 \r\n");
 }
 
 TEST_F(FinishAndSaveTest, secondErrorShowsTheSameTextWithOkAloneAndPostsNothing)
@@ -161,7 +165,7 @@ TEST_F(FinishAndSaveTest, whatWasWrittenIsHandedOverThoughTheHostSentNewDataMean
     EXPECT_EQ(finish(true), FinishEnd::Taken);
     EXPECT_EQ(writtenPaths(), "/full/a.ies;/full/a.ies;");
     EXPECT_EQ(stored(), "/full/a.ies in /full/");
-    EXPECT_EQ(bench.value("OtherData1"), "2,0,0,0,0,0,0,0,0,0");
+    EXPECT_EQ(bench.value("OtherData1"), "2,1000,1,1,1,.5,-2,0,.95,150");
 }
 
 // What the host sends while the name is asked for is taken over whole: one and the same record is named, written and
@@ -170,7 +174,7 @@ TEST_F(FinishAndSaveTest, dataThatTheHostSendsWhileTheNameIsAskedForIsSavedWhole
 {
     bench.dialogs.names = {"/lum/a.ies"};
     bench.dialogs.onAskName = [this] {
-        PhotometricRecord other;
+        PhotometricRecord other = smallRecord();
         other.Filename = "other.ies";
         other.Keywords = {"IESNA:LM-63-1995"};
         other.NumLamps = 5;
@@ -179,7 +183,7 @@ TEST_F(FinishAndSaveTest, dataThatTheHostSendsWhileTheNameIsAskedForIsSavedWhole
     EXPECT_EQ(finish(true), FinishEnd::Taken);
     EXPECT_EQ(bench.files.written[0].second.substr(0, 18), "IESNA:LM-63-1995\r\n");
     EXPECT_EQ(stored(), "/lum/a.ies in /lum/");
-    EXPECT_EQ(bench.value("OtherData1"), "5,0,0,0,0,0,0,0,0,0");
+    EXPECT_EQ(bench.value("OtherData1"), "5,1000,1,1,1,.5,-2,0,.95,150");
 }
 
 // The record that could not be written is given up with its name: the next name is for what the host has sent.
@@ -189,7 +193,7 @@ TEST_F(FinishAndSaveTest, dataThatTheHostSendsWhileTheRetryIsRefusedIsWhatTheNex
     bench.dialogs.answers = {Answer::Cancel};
     bench.files.failures = {ENOSPC};
     bench.dialogs.onShow = [this](const MessageBox &) {
-        PhotometricRecord other;
+        PhotometricRecord other = smallRecord();
         other.Keywords = {"IESNA:LM-63-1995"};
         other.NumLamps = 5;
         bench.state.PhotFiles = {other};
@@ -197,7 +201,7 @@ TEST_F(FinishAndSaveTest, dataThatTheHostSendsWhileTheRetryIsRefusedIsWhatTheNex
     EXPECT_EQ(finish(true), FinishEnd::Taken);
     EXPECT_EQ(bench.files.written[1].second.substr(0, 18), "IESNA:LM-63-1995\r\n");
     EXPECT_EQ(stored(), "/free/b.ies in /free/");
-    EXPECT_EQ(bench.value("OtherData1"), "5,0,0,0,0,0,0,0,0,0");
+    EXPECT_EQ(bench.value("OtherData1"), "5,1000,1,1,1,.5,-2,0,.95,150");
 }
 
 TEST_F(FinishAndSaveTest, secondErrorIsNamedAfterTheFileThoughTheHostSentNewDataMeanwhile)
@@ -257,7 +261,7 @@ TEST_F(FinishAndSaveTest, storeThatFailsIsOneMessageWithFileAndReasonAndNoPost)
 
 TEST_F(FinishAndSaveTest, recordThatCannotBeStoredIsOneMessageAndNoPost)
 {
-    bench.state.PhotFiles(1).NumVertAngles = 3;
+    bench.state.PhotFiles(1).NumVertAngles = 4;
     EXPECT_EQ(finish(false), FinishEnd::NotFinished);
     EXPECT_EQ(bench.dialogs.transcript, "[(6 of 6) Complete!|0] Subscript out of range\n");
     EXPECT_EQ(posted, "");
