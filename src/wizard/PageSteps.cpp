@@ -86,6 +86,7 @@ PageSteps::PageSteps(QWidget &page, const PageFields &fields, std::function<void
             m_made.push_back({grid, edit, {}, {}});
             endActSoon();
         });
+        connect(&grid->changes(), &GridModel::actEnded, this, &PageSteps::endAct);
     }
     qApp->installEventFilter(this);
     forgetAll();
