@@ -97,6 +97,9 @@ public:
     /// What stands on the page.
     PageValue value() const { return m_fields.value(); }
 
+    /// What will stand on it once it is come back to from a later page.
+    virtual PageValue valueOnReturn() const { return value(); }
+
     /// Puts texts that controls of a page held into those of this one; the others stay. False, and nothing is changed,
     /// when it names a control that the page does not have, or a text that cannot stand in its control.
     /// It is one step, of that name.

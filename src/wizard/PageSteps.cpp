@@ -247,6 +247,41 @@ void PageSteps::stepTo(const PageStep &step, bool isUndo)
     endStep();
 }
 
+bool PageSteps::seek(const std::function<bool()> &isSought)
+{
+    endAct();
+    if (isSought())
+        return true;
+    prepareStep();
+    const bool isFound = seek(isSought, true) || seek(isSought, false);
+    m_follow();
+    endStep();
+    return isFound;
+}
+
+/// Seeks in one direction; comes back to where it was when that has no such state.
+bool PageSteps::seek(const std::function<bool()> &isSought, bool isUndo)
+{
+    const int from = m_stack.index();
+    while (canStepAlone(isUndo)) {
+        isUndo ? m_stack.undo() : m_stack.redo();
+        if (isSought())
+            return true;
+    }
+    while (m_stack.index() != from)
+        isUndo ? m_stack.redo() : m_stack.undo();
+    return false;
+}
+
+/// Whether the step that is next has its content and is of this page alone.
+bool PageSteps::canStepAlone(bool isUndo) const
+{
+    if (!(isUndo ? m_stack.canUndo() : m_stack.canRedo()))
+        return false;
+    const PageStep &step = *stepAt(m_stack.index() - (isUndo ? 1 : 0));
+    return !step.isForgotten() && !step.pair();
+}
+
 void PageSteps::prepareStep()
 {
     m_go.end();

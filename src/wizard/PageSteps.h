@@ -56,6 +56,10 @@ public:
     /// likewise. `isUndoneThere` says whether the other page can ask for it.
     void pairLatest(PageSteps &other, bool isUndoneThere);
 
+    /// Goes back or forth over steps of this page alone to the nearest state of which `isSought` says so, the present
+    /// one first; false, and nothing has changed, where there is none.
+    bool seek(const std::function<bool()> &isSought);
+
     /// Gives up all steps; what stands now is where undo ends.
     void forgetAll();
 
@@ -82,6 +86,8 @@ private:
     QWidget *boxInFocus(const std::vector<ChangedBox> &boxes) const;
     void step(bool isUndo);
     void stepTo(const PageStep &step, bool isUndo);
+    bool seek(const std::function<bool()> &isSought, bool isUndo);
+    bool canStepAlone(bool isUndo) const;
     void prepareStep();
     void endStep();
     const PageStep *stepAt(int index) const;

@@ -48,7 +48,7 @@ DraftKeeper::Deliver deliverTo(QObject *object)
     };
 }
 
-PageValue valueOf(const PageText &texts)
+PageValue asValue(const PageText &texts)
 {
     PageValue value;
     for (const auto &[name, text] : texts)
@@ -149,13 +149,20 @@ DraftSnapshot WizardDrafts::snapshot() const
     DraftSnapshot snapshot{m_window.shownPage(), about(), {}};
     for (int page = 0; page < kFinishPage; ++page) {
         if (const PageText *waiting = m_replay.waitingFor(page))
-            snapshot.pages.push_back({page, valueOf(*waiting)});
+            snapshot.pages.push_back({page, asValue(*waiting)});
         else if (m_visited.test(static_cast<std::size_t>(page)))
-            snapshot.pages.push_back({page, m_window.page(page).value()});
+            snapshot.pages.push_back({page, valueOf(page)});
     }
     if (snapshot.page < kFinishPage)
         snapshot.pages.push_back({snapshot.page, halfTyped(m_window.page(snapshot.page).fields())});
     return snapshot;
+}
+
+/// What a page holds; of one before the page shown what coming back would show, which its Next is to lead on from.
+PageValue WizardDrafts::valueOf(int page) const
+{
+    const PageFrame &frame = m_window.page(page);
+    return page < m_window.shownPage() ? frame.valueOnReturn() : frame.value();
 }
 
 std::string WizardDrafts::about() const

@@ -36,6 +36,7 @@ private:
     void drop();
     void finish();
     DraftSnapshot snapshot() const;
+    PageValue valueOf(int page) const;
     std::string about() const;
 
     void offer(const DraftsFound &found);
