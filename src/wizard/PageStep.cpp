@@ -147,13 +147,23 @@ void PageStep::goThere(bool isUndone) const
         std::for_each(m_content->grids.rbegin(), m_content->grids.rend(), goBack);
     else
         std::for_each(m_content->grids.begin(), m_content->grids.end(), goBack);
-    if (QWidget *box = changedBox()) {
+    QWidget *box = changedBox();
+    if (!box && isOfCountTypedAgain())
+        box = m_focus;
+    if (box) {
         focusField(*box);
         bringIntoView(*box);
     } else if (m_content->boxes.empty() && !m_content->grids.empty()) {
         const ChangedGrid &changed = m_content->grids.front();
         goToBlock(*changed.grid, changed.edit->block, isUndone ? changed.before : changed.after);
     }
+}
+
+/// Whether it is of a grid alone, which a box has sized that holds the same text again.
+bool PageStep::isOfCountTypedAgain() const
+{
+    return m_content->boxes.empty() && !m_content->grids.empty() && m_content->grids.front().edit->block.firstRow < 1 &&
+           m_focus && takesFocus(*m_focus);
 }
 
 /// The box to be given the focus: the one that had it, of options the one that is chosen now.

@@ -80,6 +80,7 @@ private:
 
     void measure() const;
     QWidget *changedBox() const;
+    bool isOfCountTypedAgain() const;
 
     const std::unique_ptr<Content> m_content;  ///< also given up through the stack, which shows its steps as constants
     QWidget *m_focus;

@@ -170,7 +170,13 @@ void PageSteps::makeStep(std::vector<ChangedBox> boxes)
     const bool isTyped = boxes.size() == 1 && PageFields::lineOf(focus) && m_name.isEmpty();
     if (!isTyped)
         m_go.end();
-    auto *step = new PageStep(std::move(boxes), std::move(m_made), focus, isTyped ? m_go.number() : 0, m_bytes);
+    if (!focus)
+        focus = fieldInFocus();
+    push(new PageStep(std::move(boxes), std::move(m_made), focus, isTyped ? m_go.number() : 0, m_bytes), name);
+}
+
+void PageSteps::push(PageStep *step, const QString &name)
+{
     step->setText(name);
     m_stack.push(step);
     giveUpOldest();
@@ -206,6 +212,15 @@ QWidget *PageSteps::boxInFocus(const std::vector<ChangedBox> &boxes) const
             if (changed.box == focus)
                 return changed.box;
     return boxes.empty() ? nullptr : boxes.front().box;
+}
+
+/// The box that had the focus when the act began or has it now, changed or not.
+QWidget *PageSteps::fieldInFocus() const
+{
+    for (QWidget *focus : {m_focus.data(), m_page.window()->focusWidget()})
+        if (std::find(m_fields.boxes().begin(), m_fields.boxes().end(), focus) != m_fields.boxes().end())
+            return focus;
+    return nullptr;
 }
 
 void PageSteps::undo()

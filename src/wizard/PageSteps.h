@@ -81,9 +81,11 @@ private:
     void endActSoon();
     void noteKey(const QObject *watched, const QKeyEvent &key);
     void makeStep(std::vector<ChangedBox> boxes);
+    void push(PageStep *step, const QString &name);
     QString nameOf(QWidget *box) const;
     std::vector<ChangedBox> changedBoxes() const;
     QWidget *boxInFocus(const std::vector<ChangedBox> &boxes) const;
+    QWidget *fieldInFocus() const;
     void step(bool isUndo);
     void stepTo(const PageStep &step, bool isUndo);
     bool seek(const std::function<bool()> &isSought, bool isUndo);
