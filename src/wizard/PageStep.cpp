@@ -56,6 +56,13 @@ PageStep::PageStep(std::vector<ChangedBox> boxes, std::vector<ChangedGrid> grids
     measure();
 }
 
+PageStep::PageStep(std::function<void(bool isUndo)> change, std::size_t &total)
+    : m_content(std::make_unique<Content>()), m_total(total)
+{
+    m_content->change = std::move(change);
+    measure();
+}
+
 PageStep::~PageStep()
 {
     m_total -= m_content->bytes;
@@ -65,6 +72,8 @@ PageStep::~PageStep()
 
 void PageStep::undo()
 {
+    if (m_content->change)
+        m_content->change(true);
     for (const ChangedBox &changed : m_content->boxes)
         PageFields::put(*changed.box, changed.before);
     for (auto it = m_content->grids.rbegin(); it != m_content->grids.rend(); ++it)
@@ -76,6 +85,8 @@ void PageStep::redo()
 {
     if (std::exchange(m_isMade, false))
         return;
+    if (m_content->change)
+        m_content->change(false);
     for (const ChangedBox &changed : m_content->boxes)
         PageFields::put(*changed.box, changed.after);
     for (const ChangedGrid &changed : m_content->grids)

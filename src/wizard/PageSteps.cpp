@@ -183,6 +183,14 @@ void PageSteps::push(PageStep *step, const QString &name)
     showActions();
 }
 
+void PageSteps::addAct(const QString &name, std::function<void(bool isUndo)> change)
+{
+    endAct();
+    m_go.end();
+    push(new PageStep(std::move(change), m_bytes), name);
+    emit stepped();
+}
+
 std::vector<ChangedBox> PageSteps::changedBoxes() const
 {
     std::vector<ChangedBox> changed;
@@ -245,7 +253,8 @@ void PageSteps::step(bool isUndo)
         const StepPair::Side &beside = step.pair()->sideBeside(step);
         beside.page->stepTo(*beside.step, isUndo);
     }
-    m_follow();
+    if (step.isOnPage())
+        m_follow();
     step.goThere(isUndo);
     endStep();
 }

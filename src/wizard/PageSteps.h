@@ -51,6 +51,10 @@ public:
     /// Makes one step of what has changed since the last act ended.
     void endAct();
 
+    /// Makes one step of an act that has changed something beside boxes and grids; `change` undoes that, and makes it
+    /// again.
+    void addAct(const QString &name, std::function<void(bool isUndo)> change);
+
     /// Makes a pair of the latest step of this page and that of another one, both by the same act. To undo it on either
     /// page is to undo it on both, with what was done on the other page since, which can be redone there; to redo it
     /// likewise. `isUndoneThere` says whether the other page can ask for it.
