@@ -81,6 +81,9 @@ public:
     /// Runs each time the wizard starts, before page 1 is shown.
     virtual void start() {}
 
+    /// Whether `start` takes away something that stands on the page.
+    virtual bool losesByStart() const { return false; }
+
     /// Runs each time before the page is shown; an error raised here leaves the page that is shown as it is.
     virtual void enter() {}
 

@@ -95,6 +95,7 @@ void WizardDrafts::followWindow()
         if (m_isTyped)
             keep();
     });
+    connect(&m_window, &WizardWindow::startingAnew, this, &WizardDrafts::leave);
     connect(&m_window, &WizardWindow::cancelled, this, &WizardDrafts::drop);
     connect(&m_window, &WizardWindow::fileTaken, this, &WizardDrafts::finish);
     for (int page = 0; page < kPageCount; ++page)
@@ -104,7 +105,7 @@ void WizardDrafts::followWindow()
 void WizardDrafts::turnTo(int page)
 {
     if (m_visited.none())
-        m_keeper.look([this](const DraftsFound &found) { offer(found); });
+        look();
     m_visited.set(static_cast<std::size_t>(page));
     m_replay.fill(page);
 }
@@ -134,6 +135,24 @@ void WizardDrafts::keepIfChanged()
 {
     if (m_timer->isActive())
         keep();
+}
+
+/// Leaves the draft behind where a start takes away what stands on a page, and offers it: what is kept from then on is
+/// another one.
+void WizardDrafts::leave()
+{
+    if (!m_isTyped || m_isReplayDue || !m_window.page(kCandelaPage).losesByStart())
+        return;
+    keep();
+    m_isTyped = false;
+    m_hasTaken = false;
+    m_keeper.leave();
+    look();
+}
+
+void WizardDrafts::look()
+{
+    m_keeper.look([this](const DraftsFound &found) { offer(found); });
 }
 
 void WizardDrafts::drop()

@@ -35,6 +35,8 @@ private:
     void noteChange(int page);
     void keep();
     void keepIfChanged();
+    void leave();
+    void look();
     void drop();
     void finish();
     DraftSnapshot snapshot() const;
