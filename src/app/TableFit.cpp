@@ -120,13 +120,4 @@ std::string neededSize(const TableGround &ground)
            " values needed (vertical x horizontal angles).";
 }
 
-bool areSameAngles(const AngleCells &one, const AngleCells &other)
-{
-    return one.size() == other.size() &&
-           std::equal(one.begin(), one.end(), other.begin(), [](const AngleCell &a, const AngleCell &b) {
-               const auto number = numberIn(a);
-               return number && numberIn(b) && toSingle(*number) == toSingle(*numberIn(b));
-           });
-}
-
 }  // namespace penwright

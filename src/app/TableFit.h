@@ -36,7 +36,4 @@ std::variant<FittedTable, std::string> fitTable(const TableContent &table, doubl
 /// What a table without angles is to have, in a sentence; "" where any size may come.
 std::string neededSize(const TableGround &ground);
 
-/// Whether two lists hold the same angles.
-bool areSameAngles(const AngleCells &one, const AngleCells &other);
-
 }  // namespace penwright

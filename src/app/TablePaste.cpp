@@ -17,14 +17,6 @@ namespace {
 
 constexpr const char *kStep = "Paste Table";
 
-AngleCells cellsOf(const OneBased<float> &angles, int count)
-{
-    AngleCells cells;
-    for (int i = 1; i <= count && i <= angles.size(); ++i)
-        cells.append(angles(i));
-    return cells;
-}
-
 std::string whyNoLumens(const PhotometricRecord &record)
 {
     return record.LumensPerLamp < 0
@@ -97,7 +89,8 @@ TablePurpose TablePaste::purposeOf(const PageFrame &page, const TableGround &gro
 
 void TablePaste::put(PageFrame &page, const FittedTable &table)
 {
-    const PageText angles = anglesText(table, &page == &m_angles);
+    const DistributionFields lists{table.angles.PhotometricType, table.vertical, table.horizontal};
+    const PageText angles = m_angles.textOf(lists, &page == &m_angles);  // it is to have a step where it asks
     if (!angles.empty() && !m_angles.showValue(angles, kStep))
         throw invalidCall();
     const bool hadTable = m_values.pasteTable(table.angles, table.cells);
@@ -105,27 +98,6 @@ void TablePaste::put(PageFrame &page, const FittedTable &table)
         m_angles.steps().pairLatest(m_values.steps(), hadTable);
     else if (!angles.empty())
         m_values.steps().pairLatest(m_angles.steps(), true);
-}
-
-PageText TablePaste::anglesText(const FittedTable &table, bool isStepThere) const
-{
-    const DistributionFields shown = m_angles.readFields();
-    PageText text;
-    const auto putList = [&](const char *box, const char *grid, const AngleCells &cells, const AngleCells &before) {
-        const bool isSame = areSameAngles(cells, before);
-        if (!isSame)
-            text[box] = std::to_string(cells.size());
-        if (!isSame || isStepThere)
-            text[grid] = HeldAngles::textOf(isSame ? before : cells);
-    };
-    putList("phoCmbVert", "phoGridVert", table.vertical, shown.vertical);
-    putList("phoCmbHorz", "phoGridHorz", table.horizontal, shown.horizontal);
-    const bool isTypeB = table.angles.PhotometricType == kTypeB;
-    if (!m_angles.hasType() || shown.photometricType != table.angles.PhotometricType) {
-        text["rdoC"] = isTypeB ? "0" : "1";
-        text["rdoB"] = isTypeB ? "1" : "0";
-    }
-    return text;
 }
 
 }  // namespace penwright

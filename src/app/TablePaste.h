@@ -31,10 +31,6 @@ private:
     TablePurpose purposeOf(const PageFrame &page, const TableGround &ground) const;
     void put(PageFrame &page, const FittedTable &table);
 
-    /// The texts that page 4 is to hold, none where it shows the table's type and angles already; some in any case
-    /// where it is to have a step of it.
-    PageText anglesText(const FittedTable &table, bool isStepThere) const;
-
     WizardWindow &m_window;
     DistributionPage &m_angles;
     CandelaPage &m_values;

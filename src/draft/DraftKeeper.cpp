@@ -167,6 +167,11 @@ void DraftKeeper::discard(const std::string &name)
     ask({.run = [name](DraftStore &store) { store.discard(name); }});
 }
 
+void DraftKeeper::leave()
+{
+    ask({.run = [](DraftStore &store) { store.leave(); }});
+}
+
 void DraftKeeper::drop()
 {
     ask({.run = [](DraftStore &store) { store.drop(); }});

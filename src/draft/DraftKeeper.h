@@ -69,6 +69,9 @@ public:
     /// Deletes a free draft.
     void discard(const std::string &name);
 
+    /// Leaves the run's own draft as a free one; what is kept next is another.
+    void leave();
+
     /// Deletes the run's own draft.
     void drop();
 

@@ -36,11 +36,19 @@ void GridBlockActions::paste() const
         if (m_editor.isOpen())
             if (const auto cell = textOfOneCell(text))
                 return m_editor.line()->insert(toQString(*cell));
-        m_editor.drop();
+        if (m_editor.isOpen() && m_model.isTaken(m_model.source().paste(selected(), text, title)))
+            commitFirst();
         m_model.apply(m_model.source().paste(selected(), text, title));
     } catch (const std::exception &error) {
         m_model.apply({.name = "Paste", .refused = RefusedEdit{.box = {.text = error.what(), .title = title}}});
     }
+}
+
+/// Takes what is being typed as an act of its own: a block that comes over it can be undone without it.
+void GridBlockActions::commitFirst() const
+{
+    m_editor.commitIfValid();
+    m_model.endAct();
 }
 
 void GridBlockActions::clear() const

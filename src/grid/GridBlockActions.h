@@ -22,7 +22,8 @@ public:
     void copy() const;
 
     /// Pastes the clipboard as the source has it pasted. One cell goes into the text of an open editor, whatever line
-    /// end stands behind it; anything else drops the editor.
+    /// end stands behind it; before anything else that text is committed when it is valid, and dropped when it is not.
+    /// A paste that is refused leaves the editor open.
     void paste() const;
 
     /// Empties the block's cells.
@@ -30,6 +31,7 @@ public:
 
 private:
     GridBlock selected() const;
+    void commitFirst() const;
 
     const QTableView &m_view;
     GridModel &m_model;

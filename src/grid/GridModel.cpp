@@ -48,6 +48,12 @@ bool GridModel::apply(GridEdit given)
     return !refusal;
 }
 
+bool GridModel::isTaken(GridEdit edit) const
+{
+    prepareEdit(edit, *m_source);
+    return edit.content != nullptr;
+}
+
 void GridModel::exchange(const GridEdit &edit)
 {
     write(edit);

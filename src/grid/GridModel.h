@@ -28,6 +28,12 @@ public:
     /// The one way to change the source: checks, writes, tells. False when the edit, or a part of it, was refused.
     bool apply(GridEdit edit);
 
+    /// Whether an edit would change the source, all of it or a part. Changes nothing.
+    bool isTaken(GridEdit edit) const;
+
+    /// Says that what has been changed so far was an act of its own, though no other event has come since.
+    void endAct() { emit actEnded(); }
+
     /// Takes a change back that `apply` has made, or makes it again: each time it exchanges what stands with what the
     /// edit's content keeps. To be called in turns, on what stood when it was made last.
     void exchange(const GridEdit &edit);
@@ -51,6 +57,9 @@ public:
 signals:
     /// A change has been made by `apply`. Its content keeps what stood before, its texts are gone but for their places.
     void made(const std::shared_ptr<penwright::GridEdit> &edit);
+
+    /// What changes from here on is another act of the user.
+    void actEnded();
 
     /// A new text has been written into a cell.
     void cellWritten(int row, int column);

@@ -145,9 +145,12 @@ void GridView::tellRefusal(const RefusedEdit &refused)
     m_refusal->tell(cell.row, cell.column, refused.box, isPressed);
 }
 
-/// Goes to a cell, with what stands around it in sight: a paste may have ended there.
+/// Goes to a cell, with what stands around it in sight: a paste may have ended there. An editor that is open was not
+/// what was refused, and is typed into on.
 void GridView::showRefused(int row, int column)
 {
+    if (isEditing())
+        return m_editor->line()->setFocus(Qt::OtherFocusReason);
     const QModelIndex cell = m_model->indexOf({row, column});
     const bool wasSeen = viewport()->rect().contains(visualRect(cell));
     goTo(row, column);

@@ -75,6 +75,9 @@ public:
     /// Deletes a free draft; one that is in use or gone stays as it is.
     virtual void discard(const std::string &name) = 0;
 
+    /// Leaves the run's own draft as a free one, which any run can take. The next write makes a new draft.
+    virtual void leave() = 0;
+
     /// Deletes the run's own draft.
     virtual void drop() = 0;
 

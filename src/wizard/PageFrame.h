@@ -81,6 +81,9 @@ public:
     /// Runs each time the wizard starts, before page 1 is shown.
     virtual void start() {}
 
+    /// Whether `start` takes away something that stands on the page.
+    virtual bool losesByStart() const { return false; }
+
     /// Runs each time before the page is shown; an error raised here leaves the page that is shown as it is.
     virtual void enter() {}
 
@@ -96,6 +99,9 @@ public:
 
     /// What stands on the page.
     PageValue value() const { return m_fields.value(); }
+
+    /// What will stand on it once it is come back to from a later page.
+    virtual PageValue valueOnReturn() const { return value(); }
 
     /// Puts texts that controls of a page held into those of this one; the others stay. False, and nothing is changed,
     /// when it names a control that the page does not have, or a text that cannot stand in its control.

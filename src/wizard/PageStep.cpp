@@ -56,6 +56,13 @@ PageStep::PageStep(std::vector<ChangedBox> boxes, std::vector<ChangedGrid> grids
     measure();
 }
 
+PageStep::PageStep(std::function<void(bool isUndo)> change, std::size_t &total)
+    : m_content(std::make_unique<Content>()), m_total(total)
+{
+    m_content->change = std::move(change);
+    measure();
+}
+
 PageStep::~PageStep()
 {
     m_total -= m_content->bytes;
@@ -65,6 +72,8 @@ PageStep::~PageStep()
 
 void PageStep::undo()
 {
+    if (m_content->change)
+        m_content->change(true);
     for (const ChangedBox &changed : m_content->boxes)
         PageFields::put(*changed.box, changed.before);
     for (auto it = m_content->grids.rbegin(); it != m_content->grids.rend(); ++it)
@@ -76,6 +85,8 @@ void PageStep::redo()
 {
     if (std::exchange(m_isMade, false))
         return;
+    if (m_content->change)
+        m_content->change(false);
     for (const ChangedBox &changed : m_content->boxes)
         PageFields::put(*changed.box, changed.after);
     for (const ChangedGrid &changed : m_content->grids)
@@ -147,13 +158,23 @@ void PageStep::goThere(bool isUndone) const
         std::for_each(m_content->grids.rbegin(), m_content->grids.rend(), goBack);
     else
         std::for_each(m_content->grids.begin(), m_content->grids.end(), goBack);
-    if (QWidget *box = changedBox()) {
+    QWidget *box = changedBox();
+    if (!box && isOfCountTypedAgain())
+        box = m_focus;
+    if (box) {
         focusField(*box);
         bringIntoView(*box);
     } else if (m_content->boxes.empty() && !m_content->grids.empty()) {
         const ChangedGrid &changed = m_content->grids.front();
         goToBlock(*changed.grid, changed.edit->block, isUndone ? changed.before : changed.after);
     }
+}
+
+/// Whether it is of a grid alone, which a box has sized that holds the same text again.
+bool PageStep::isOfCountTypedAgain() const
+{
+    return m_content->boxes.empty() && !m_content->grids.empty() && m_content->grids.front().edit->block.firstRow < 1 &&
+           m_focus && takesFocus(*m_focus);
 }
 
 /// The box to be given the focus: the one that had it, of options the one that is chosen now.

@@ -4,6 +4,7 @@
 #include <QUndoCommand>
 
 #include <cstddef>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -40,6 +41,10 @@ public:
     /// `total` is the memory of all steps of the page, in bytes, and outlives the step. A step of one go of typing has
     /// its number, any other 0. `focus` is the box that had the focus.
     PageStep(std::vector<ChangedBox> boxes, std::vector<ChangedGrid> grids, QWidget *focus, int go, std::size_t &total);
+
+    /// One of an act beside boxes and grids, which `change` undoes and makes again.
+    PageStep(std::function<void(bool isUndo)> change, std::size_t &total);
+
     ~PageStep() override;
 
     /// Puts back what stood in boxes and grids, from the last change to the first. The caller shows what follows.
@@ -57,6 +62,9 @@ public:
     void forget() const;
     bool isForgotten() const { return m_content->isForgotten; }
 
+    /// Whether it is of boxes and grids.
+    bool isOnPage() const { return !m_content->change; }
+
     /// Makes it half of a pair, the other half of which is on another page.
     void pairUp(std::shared_ptr<StepPair> pair) const { m_content->pair = std::move(pair); }
 
@@ -73,6 +81,7 @@ private:
     struct Content {
         std::vector<ChangedBox> boxes;
         std::vector<ChangedGrid> grids;
+        std::function<void(bool isUndo)> change;  ///< beside them
         std::shared_ptr<StepPair> pair;
         std::size_t bytes = 0;
         bool isForgotten = false;
@@ -80,10 +89,11 @@ private:
 
     void measure() const;
     QWidget *changedBox() const;
+    bool isOfCountTypedAgain() const;
 
     const std::unique_ptr<Content> m_content;  ///< also given up through the stack, which shows its steps as constants
-    QWidget *m_focus;
-    int m_go;
+    QWidget *m_focus = nullptr;
+    int m_go = 0;
     bool m_isMade = true;
     std::size_t &m_total;
 };

@@ -86,6 +86,7 @@ PageSteps::PageSteps(QWidget &page, const PageFields &fields, std::function<void
             m_made.push_back({grid, edit, {}, {}});
             endActSoon();
         });
+        connect(&grid->changes(), &GridModel::actEnded, this, &PageSteps::endAct);
     }
     qApp->installEventFilter(this);
     forgetAll();
@@ -169,11 +170,25 @@ void PageSteps::makeStep(std::vector<ChangedBox> boxes)
     const bool isTyped = boxes.size() == 1 && PageFields::lineOf(focus) && m_name.isEmpty();
     if (!isTyped)
         m_go.end();
-    auto *step = new PageStep(std::move(boxes), std::move(m_made), focus, isTyped ? m_go.number() : 0, m_bytes);
+    if (!focus)
+        focus = fieldInFocus();
+    push(new PageStep(std::move(boxes), std::move(m_made), focus, isTyped ? m_go.number() : 0, m_bytes), name);
+}
+
+void PageSteps::push(PageStep *step, const QString &name)
+{
     step->setText(name);
     m_stack.push(step);
     giveUpOldest();
     showActions();
+}
+
+void PageSteps::addAct(const QString &name, std::function<void(bool isUndo)> change)
+{
+    endAct();
+    m_go.end();
+    push(new PageStep(std::move(change), m_bytes), name);
+    emit stepped();
 }
 
 std::vector<ChangedBox> PageSteps::changedBoxes() const
@@ -207,6 +222,15 @@ QWidget *PageSteps::boxInFocus(const std::vector<ChangedBox> &boxes) const
     return boxes.empty() ? nullptr : boxes.front().box;
 }
 
+/// The box that had the focus when the act began or has it now, changed or not.
+QWidget *PageSteps::fieldInFocus() const
+{
+    for (QWidget *focus : {m_focus.data(), m_page.window()->focusWidget()})
+        if (std::find(m_fields.boxes().begin(), m_fields.boxes().end(), focus) != m_fields.boxes().end())
+            return focus;
+    return nullptr;
+}
+
 void PageSteps::undo()
 {
     step(true);
@@ -229,7 +253,8 @@ void PageSteps::step(bool isUndo)
         const StepPair::Side &beside = step.pair()->sideBeside(step);
         beside.page->stepTo(*beside.step, isUndo);
     }
-    m_follow();
+    if (step.isOnPage())
+        m_follow();
     step.goThere(isUndo);
     endStep();
 }
@@ -244,6 +269,41 @@ void PageSteps::stepTo(const PageStep &step, bool isUndo)
         isUndo ? m_stack.undo() : m_stack.redo();
     m_follow();
     endStep();
+}
+
+bool PageSteps::seek(const std::function<bool()> &isSought)
+{
+    endAct();
+    if (isSought())
+        return true;
+    prepareStep();
+    const bool isFound = seek(isSought, true) || seek(isSought, false);
+    m_follow();
+    endStep();
+    return isFound;
+}
+
+/// Seeks in one direction; comes back to where it was when that has no such state.
+bool PageSteps::seek(const std::function<bool()> &isSought, bool isUndo)
+{
+    const int from = m_stack.index();
+    while (canStepAlone(isUndo)) {
+        isUndo ? m_stack.undo() : m_stack.redo();
+        if (isSought())
+            return true;
+    }
+    while (m_stack.index() != from)
+        isUndo ? m_stack.redo() : m_stack.undo();
+    return false;
+}
+
+/// Whether the step that is next has its content and is of this page alone.
+bool PageSteps::canStepAlone(bool isUndo) const
+{
+    if (!(isUndo ? m_stack.canUndo() : m_stack.canRedo()))
+        return false;
+    const PageStep &step = *stepAt(m_stack.index() - (isUndo ? 1 : 0));
+    return !step.isForgotten() && !step.pair();
 }
 
 void PageSteps::prepareStep()

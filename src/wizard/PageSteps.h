@@ -51,10 +51,18 @@ public:
     /// Makes one step of what has changed since the last act ended.
     void endAct();
 
+    /// Makes one step of an act that has changed something beside boxes and grids; `change` undoes that, and makes it
+    /// again.
+    void addAct(const QString &name, std::function<void(bool isUndo)> change);
+
     /// Makes a pair of the latest step of this page and that of another one, both by the same act. To undo it on either
     /// page is to undo it on both, with what was done on the other page since, which can be redone there; to redo it
     /// likewise. `isUndoneThere` says whether the other page can ask for it.
     void pairLatest(PageSteps &other, bool isUndoneThere);
+
+    /// Goes back or forth over steps of this page alone to the nearest state of which `isSought` says so, the present
+    /// one first; false, and nothing has changed, where there is none.
+    bool seek(const std::function<bool()> &isSought);
 
     /// Gives up all steps; what stands now is where undo ends.
     void forgetAll();
@@ -77,11 +85,15 @@ private:
     void endActSoon();
     void noteKey(const QObject *watched, const QKeyEvent &key);
     void makeStep(std::vector<ChangedBox> boxes);
+    void push(PageStep *step, const QString &name);
     QString nameOf(QWidget *box) const;
     std::vector<ChangedBox> changedBoxes() const;
     QWidget *boxInFocus(const std::vector<ChangedBox> &boxes) const;
+    QWidget *fieldInFocus() const;
     void step(bool isUndo);
     void stepTo(const PageStep &step, bool isUndo);
+    bool seek(const std::function<bool()> &isSought, bool isUndo);
+    bool canStepAlone(bool isUndo) const;
     void prepareStep();
     void endStep();
     const PageStep *stepAt(int index) const;

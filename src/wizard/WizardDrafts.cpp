@@ -1,5 +1,6 @@
 #include "wizard/WizardDrafts.h"
 
+#include <algorithm>
 #include <ctime>
 #include <QApplication>
 #include <QMenu>
@@ -12,6 +13,7 @@
 #include "platform/qt/QtText.h"
 #include "wizard/DraftLine.h"
 #include "wizard/HalfTyped.h"
+#include "wizard/PageSteps.h"
 #include "wizard/WizardWindow.h"
 
 namespace penwright {
@@ -48,7 +50,7 @@ DraftKeeper::Deliver deliverTo(QObject *object)
     };
 }
 
-PageValue valueOf(const PageText &texts)
+PageValue asValue(const PageText &texts)
 {
     PageValue value;
     for (const auto &[name, text] : texts)
@@ -80,7 +82,11 @@ WizardDrafts::WizardDrafts(WizardWindow &window, const Closing &closing, std::un
     connect(m_line, &DraftLine::morePressed, this, &WizardDrafts::openList);
 }
 
-WizardDrafts::~WizardDrafts() = default;
+WizardDrafts::~WizardDrafts()
+{
+    for (const std::string &draft : m_discarded)
+        m_keeper.discard(draft);
+}
 
 void WizardDrafts::followWindow()
 {
@@ -89,6 +95,7 @@ void WizardDrafts::followWindow()
         if (m_isTyped)
             keep();
     });
+    connect(&m_window, &WizardWindow::startingAnew, this, &WizardDrafts::leave);
     connect(&m_window, &WizardWindow::cancelled, this, &WizardDrafts::drop);
     connect(&m_window, &WizardWindow::fileTaken, this, &WizardDrafts::finish);
     for (int page = 0; page < kPageCount; ++page)
@@ -98,7 +105,7 @@ void WizardDrafts::followWindow()
 void WizardDrafts::turnTo(int page)
 {
     if (m_visited.none())
-        m_keeper.look([this](const DraftsFound &found) { offer(found); });
+        look();
     m_visited.set(static_cast<std::size_t>(page));
     m_replay.fill(page);
 }
@@ -130,6 +137,24 @@ void WizardDrafts::keepIfChanged()
         keep();
 }
 
+/// Leaves the draft behind where a start takes away what stands on a page, and offers it: what is kept from then on is
+/// another one.
+void WizardDrafts::leave()
+{
+    if (!m_isTyped || m_isReplayDue || !m_window.page(kCandelaPage).losesByStart())
+        return;
+    keep();
+    m_isTyped = false;
+    m_hasTaken = false;
+    m_keeper.leave();
+    look();
+}
+
+void WizardDrafts::look()
+{
+    m_keeper.look([this](const DraftsFound &found) { offer(found); });
+}
+
 void WizardDrafts::drop()
 {
     m_timer->stop();
@@ -141,6 +166,7 @@ void WizardDrafts::finish()
 {
     keep();
     m_isTyped = false;
+    m_hasTaken = false;
     m_keeper.finish();
 }
 
@@ -149,13 +175,20 @@ DraftSnapshot WizardDrafts::snapshot() const
     DraftSnapshot snapshot{m_window.shownPage(), about(), {}};
     for (int page = 0; page < kFinishPage; ++page) {
         if (const PageText *waiting = m_replay.waitingFor(page))
-            snapshot.pages.push_back({page, valueOf(*waiting)});
+            snapshot.pages.push_back({page, asValue(*waiting)});
         else if (m_visited.test(static_cast<std::size_t>(page)))
-            snapshot.pages.push_back({page, m_window.page(page).value()});
+            snapshot.pages.push_back({page, valueOf(page)});
     }
     if (snapshot.page < kFinishPage)
         snapshot.pages.push_back({snapshot.page, halfTyped(m_window.page(snapshot.page).fields())});
     return snapshot;
+}
+
+/// What a page holds; of one before the page shown what coming back would show, which its Next is to lead on from.
+PageValue WizardDrafts::valueOf(int page) const
+{
+    const PageFrame &frame = m_window.page(page);
+    return page < m_window.shownPage() ? frame.valueOnReturn() : frame.value();
 }
 
 std::string WizardDrafts::about() const
@@ -166,6 +199,8 @@ std::string WizardDrafts::about() const
 void WizardDrafts::offer(const DraftsFound &found)
 {
     m_found = found;
+    m_offered = 0;
+    forgetDiscarded();
     if (found.putAside > 0)
         tell(toQString(putAsideText(found.putAside)));
     showOffer();
@@ -206,15 +241,7 @@ void WizardDrafts::takeOver()
         return;
     m_line->setEnabled(false);  // until there is an answer
     if (m_offered < m_found.free.size())
-        m_keeper.takeOver(m_found.free[m_offered].name, [this](const TakenDraft &taken) {
-            if (taken.end != TakeEnd::Taken) {
-                offerNext();
-                return tell(toQString(takeEndText(taken.end)));
-            }
-            closeLine();
-            m_isReplayDue = true;
-            replay(taken.draft);
-        });
+        takeOverDraft(m_found.free[m_offered].name);
     else
         m_keeper.readLast([this](const std::optional<Draft> &draft) {
             closeLine();
@@ -225,21 +252,60 @@ void WizardDrafts::takeOver()
         });
 }
 
+void WizardDrafts::takeOverDraft(const std::string &name)
+{
+    if (m_hasTaken)  // a second one, brought back by undo: the first stays a draft
+        m_keeper.leave();
+    m_keeper.takeOver(name, [this, name](const TakenDraft &taken) {
+        std::erase_if(m_found.free, [&](const DraftEntry &draft) { return draft.name == name; });
+        if (taken.end != TakeEnd::Taken) {
+            offerAgain();
+            return tell(toQString(takeEndText(taken.end)));
+        }
+        closeLine();
+        m_hasTaken = true;
+        m_isReplayDue = true;
+        replay(taken.draft);
+    });
+}
+
+/// Takes the draft out of the line. It is there until the program ends, so that this can be undone.
 void WizardDrafts::discard()
 {
     if (m_window.isBusy() || m_offered >= m_found.free.size())
         return;
-    m_keeper.discard(m_found.free[m_offered].name);
-    offerNext();
+    const DraftEntry draft = m_found.free[m_offered];
+    const auto change = [this, draft, place = m_offered](bool isUndo) {
+        isUndo ? bringBack(draft, place) : putAway(draft);
+    };
+    m_window.page(kLampPage).steps().addAct("Discard", change);
+    putAway(draft);
     m_line->setEnabled(false);  // to the second press of a double click, which would discard another one
     QTimer::singleShot(QApplication::doubleClickInterval(), m_line, [this] { m_line->setEnabled(true); });
 }
 
-/// Offers what there is beside the draft that the line shows.
-void WizardDrafts::offerNext()
+void WizardDrafts::putAway(const DraftEntry &draft)
 {
-    if (m_offered < m_found.free.size())
-        m_found.free.erase(m_found.free.begin() + static_cast<std::ptrdiff_t>(m_offered));
+    m_discarded.insert(draft.name);
+    forgetDiscarded();
+    offerAgain();
+}
+
+void WizardDrafts::bringBack(const DraftEntry &draft, std::size_t place)
+{
+    m_discarded.erase(draft.name);
+    m_offered = std::min(place, m_found.free.size());
+    m_found.free.insert(m_found.free.begin() + static_cast<std::ptrdiff_t>(m_offered), draft);
+    showOffer();
+}
+
+void WizardDrafts::forgetDiscarded()
+{
+    std::erase_if(m_found.free, [this](const DraftEntry &draft) { return m_discarded.contains(draft.name); });
+}
+
+void WizardDrafts::offerAgain()
+{
     m_offered = 0;
     closeLine();
     showOffer();

@@ -5,6 +5,8 @@
 #include <bitset>
 #include <memory>
 #include <optional>
+#include <set>
+#include <string>
 
 #include "draft/DraftKeeper.h"
 #include "wizard/DraftReplay.h"
@@ -33,17 +35,24 @@ private:
     void noteChange(int page);
     void keep();
     void keepIfChanged();
+    void leave();
+    void look();
     void drop();
     void finish();
     DraftSnapshot snapshot() const;
+    PageValue valueOf(int page) const;
     std::string about() const;
 
     void offer(const DraftsFound &found);
     void showOffer();
     void openList();
     void takeOver();
+    void takeOverDraft(const std::string &name);
     void discard();
-    void offerNext();
+    void putAway(const DraftEntry &draft);
+    void bringBack(const DraftEntry &draft, std::size_t place);
+    void forgetDiscarded();
+    void offerAgain();
     void replay(const Draft &draft);
     void closeLine();
     void followTrouble(const std::string &reason);
@@ -57,9 +66,11 @@ private:
     QTimer *m_timer;                    ///< runs from the first change that is not kept
     std::bitset<kPageCount> m_visited;  ///< pages that have been shown or changed, and so may hold something
     bool m_isReplayDue = false;         ///< a draft has been taken over that no page holds yet
+    bool m_hasTaken = false;            ///< the run's own draft was one of another run
     bool m_isTyped = false;             ///< something has been typed since the last finished file
     DraftsFound m_found;                ///< what is still offered
     std::size_t m_offered = 0;          ///< which of them the line shows
+    std::set<std::string> m_discarded;  ///< by name, to be deleted when the program ends
     QString m_trouble;                  ///< what was said when drafts could not be kept, "" when they can
 };
 

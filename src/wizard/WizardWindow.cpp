@@ -204,6 +204,8 @@ bool WizardWindow::isBusy() const
 
 void WizardWindow::StartWizard()
 {
+    if (m_hasStarted)
+        emit startingAnew();
     for (PageFrame *page : m_pages) {
         page->start();
         if (!m_hasStarted)

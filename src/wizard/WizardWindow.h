@@ -98,6 +98,9 @@ signals:
     /// A page is about to be shown, by its index; it can still be filled.
     void pageTurned(int index);
 
+    /// The wizard is about to start, not for the first time; the pages hold what they held.
+    void startingAnew();
+
     /// Another page has been shown, with its focus.
     void pageShown();
 

@@ -1,3 +1,7 @@
+#include <csignal>
+#include <thread>
+
+#include "core/IesText.h"
 #include "hostlink/RecordText.h"
 #include "run/Desktop.h"
 #include "run/RunTest.h"
@@ -96,7 +100,7 @@ protected:
         typeKeys({"alt+n"});
         ASSERT_TRUE(shows(page)) << "the page shown is " << caption();
     }
-    void walkToTheEnd()
+    void typeAllPages()
     {
         typeGeneralInfo();
         turnTo(2);
@@ -104,7 +108,22 @@ protected:
         typeDistribution();
         turnTo(4);
         typeCandelas();
+    }
+    void walkToTheEnd()
+    {
+        typeAllPages();
         turnTo(5);
+    }
+    /// Saves from the last page under a path that is typed.
+    void saveAs(const std::string &path)
+    {
+        typeKeys({"Tab", "space"});
+        const std::string window = windowTitled("Save New Photometric file As...");
+        ASSERT_NE(window, "");
+        ASSERT_TRUE(waitUntil([&] { return std::to_string(display.focus()) == window; }));
+        xdotool({"type", "--delay", "1", path});
+        typeKeys({"Return"});
+        EXPECT_EQ(pop(), "SendNewDataClose,PenwrightPE,7");
     }
     PhotometricRecord storedRecord()
     {
@@ -196,17 +215,33 @@ TEST_F(EmbeddedRun, savedFileIsOnDiskUnderTheTypedName)
 {
     startWizard();
     walkToTheEnd();
-    typeKeys({"Tab", "space"});
-    const std::string window = windowTitled("Save New Photometric file As...");
-    ASSERT_NE(window, "");
-    ASSERT_TRUE(waitUntil([&] { return std::to_string(display.focus()) == window; }));
     const std::string path = fileOfTheUser("lamp.ies");
-    xdotool({"type", "--delay", "1", path});
-    typeKeys({"Return"});
-    EXPECT_EQ(pop(), "SendNewDataClose,PenwrightPE,7");
+    saveAs(path);
     EXPECT_EQ(contentOf(path).substr(0, 16), "IESNA:LM-63-2002");
     EXPECT_EQ(readBackFault(contentOf(path), storedRecord()), "");
     EXPECT_EQ(storedRecord().Filename, path);
+    send("CLOSE");
+    expectUnloaded();
+}
+
+TEST_F(EmbeddedRun, whatAKilledToolHeldIsTakenOverByKeysAndReachesTheFile)
+{
+    startWizard();
+    typeAllPages();
+    std::this_thread::sleep_for(2s);  // by then what is typed is kept
+    tool().signal(SIGKILL);
+    ASSERT_TRUE(tool().waitForEnd());
+
+    startWizard();
+    std::this_thread::sleep_for(1s);  // a user's look at the line
+    typeKeys({"shift+Tab", "shift+Tab", "space"});
+    ASSERT_TRUE(shows(4)) << "the page shown is " << caption();
+    turnTo(5);
+    const std::string path = fileOfTheUser("lamp.ies");
+    saveAs(path);
+    PhotometricRecord expected = typedRecord();
+    expected.OptionalData = "";
+    EXPECT_EQ(contentOf(path), iesFileText(expected));
     send("CLOSE");
     expectUnloaded();
 }

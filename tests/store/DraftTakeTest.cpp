@@ -62,6 +62,21 @@ TEST_F(DraftTakeTest, takenDraftOfARunThatIsKilledAtOnceIsFreeAgain)
     EXPECT_EQ(offered(), "one\n");
 }
 
+TEST_F(DraftTakeTest, draftThatARunLeavesIsFreeForItTooAndItsNextOneIsAnother)
+{
+    SqliteDraftStore run(drafts);
+    run.leave();
+    write(run, "first");
+    run.leave();
+    EXPECT_EQ(offered(run.look()), "first\n");
+    write(run, "second");
+    EXPECT_EQ(offered(), "first\n");
+    Draft draft;
+    EXPECT_EQ(run.takeOver(run.look().free.at(0).name, draft), TakeEnd::Taken);
+    EXPECT_EQ(draft.head.about, "first");
+    EXPECT_EQ(files().size(), 2U) << "the second one gave way";
+}
+
 TEST_F(DraftTakeTest, draftThatIsGoneIsGone)
 {
     const std::string name = leave("one");

@@ -82,6 +82,61 @@ TEST_F(DraftKeep, tableThatIsPastedBeforeItsPageWasShownIsKeptToo)
     EXPECT_EQ(textsOf(window->page(kCandelaPage)).at("cdaGridCd"), "5.5d\n4d\n");
 }
 
+TEST_F(DraftKeep, secondStartLeavesTheDraftWithItsTableAndOffersIt)
+{
+    startRun();
+    fillPagesBefore(kCandelaPage);
+    fillPageFive();
+    const PageText values = textsOf(window->page(kCandelaPage));
+    window->StartWizard();
+    ASSERT_EQ(shownPage(), kLampPage);
+    waitForOffer();
+    EXPECT_EQ(offer().substr(0, 25), "Draft of EL-2054, page 5,");
+    find("txtNumLamps")->setFocus();
+    typeText("9");
+    waitUntilKept();
+    kill();
+    ASSERT_EQ(left().free.size(), 2U) << "what is typed then is a draft of its own";
+    startRun();
+    waitForOffer();
+    click("draftMore");
+    auto *list = find<QMenu>("draftList");
+    list->actions().at(1)->trigger();
+    list->close();
+    takeOver();
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    EXPECT_EQ(textsOf(window->page(kCandelaPage)), values);
+}
+
+TEST_F(DraftKeep, draftThatASecondStartLeftCanBeTakenOverAtOnce)
+{
+    startRun();
+    fillPagesBefore(kCandelaPage);
+    fillPageFive();
+    const PageText values = textsOf(window->page(kCandelaPage));
+    window->StartWizard();
+    waitForOffer();
+    EXPECT_FALSE(find<QTimer>("draftTimer")->isActive());
+    EXPECT_EQ(left().free.size(), 1U) << "nothing has been typed since";
+    takeOver();
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    EXPECT_EQ(textsOf(window->page(kCandelaPage)), values);
+    kill();
+    EXPECT_EQ(left().free.size(), 1U);
+}
+
+TEST_F(DraftKeep, secondStartThatTakesNothingAwayGoesOnWithTheDraft)
+{
+    startRun();
+    fillPagesBefore(kCandelaPage);
+    window->StartWizard();
+    QTest::qWait(50);
+    EXPECT_FALSE(find("draftLine")->isVisible()) << "a table of blanks";
+    waitUntilKept();
+    kill();
+    EXPECT_EQ(leftDraft().head.page, kLampPage);
+}
+
 TEST_F(DraftKeep, closeLeavesWhatWasTypedUpToIt)
 {
     startRun();

@@ -1,4 +1,5 @@
 #include "widgets/DraftsTest.h"
+#include "wizard/PageSteps.h"
 
 namespace penwright::test {
 namespace {
@@ -88,6 +89,84 @@ TEST_F(DraftOffer, discardedDraftIsGoneWithTheLine)
     EXPECT_EQ(focusName(), "txtNumLamps");
     kill();
     EXPECT_TRUE(left().free.empty());
+}
+
+TEST_F(DraftOffer, discardIsAStepThatBringsTheDraftBack)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    const std::string offered = offer();
+    click("draftDiscard");
+    EXPECT_EQ(window->page(kLampPage).steps().undoAction()->text().toStdString(), "U&ndo Discard");
+    typeText("12");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text("txtNumLamps"), "");
+    EXPECT_TRUE(find("draftLine")->isHidden());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_TRUE(find("draftLine")->isVisible());
+    EXPECT_EQ(offer(), offered);
+    press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_TRUE(find("draftLine")->isHidden());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isEnabled(); }));
+    takeOver();
+    EXPECT_EQ(text("txtNumLamps"), "3");
+    kill();
+    EXPECT_EQ(left().free.size(), 1U);
+}
+
+TEST_F(DraftOffer, draftThatWasDiscardedGoesWithTheRunAndNotWithAKill)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    click("draftDiscard");
+    EXPECT_EQ(left().free.size(), 1U);
+    window->StartWizard();
+    QTest::qWait(50);
+    EXPECT_TRUE(find("draftLine")->isHidden());
+    kill();
+    EXPECT_TRUE(left().free.empty());
+}
+
+TEST_F(DraftOffer, draftsThatWereDiscardedComeBackOneByOneToTheirPlaces)
+{
+    for (const char *about : {"first", "second", "third"})
+        leaveLamps(about, "1");
+    startRun();
+    waitForOffer();
+    auto &steps = window->page(kLampPage).steps();
+    click("draftDiscard");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isEnabled(); }));
+    click("draftDiscard");
+    EXPECT_EQ(offer(), momentOf("Draft of first, page 1"));
+    steps.undo();
+    EXPECT_EQ(offer(), momentOf("Draft of second, page 1"));
+    steps.undo();
+    EXPECT_EQ(offer(), momentOf("Draft of third, page 1"));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isEnabled(); }));
+    click("draftMore");
+    auto *list = find<QMenu>("draftList");
+    ASSERT_EQ(list->actions().size(), 3);
+    EXPECT_EQ(list->actions()[2]->text().toStdString(), momentOf("Draft of first, page 1"));
+    list->close();
+    steps.redo();
+    EXPECT_EQ(offer(), momentOf("Draft of second, page 1"));
+    kill();
+    EXPECT_EQ(left().free.size(), 2U);
+}
+
+TEST_F(DraftOffer, discardAndItsUndoTypeNothing)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    click("draftDiscard");
+    window->page(kLampPage).steps().undo();
+    EXPECT_FALSE(find<QTimer>("draftTimer")->isActive());
+    kill();
+    EXPECT_EQ(left().free.size(), 1U);
 }
 
 TEST_F(DraftOffer, latestOfManyIsOfferedAndTheListHasTheOthers)

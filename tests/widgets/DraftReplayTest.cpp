@@ -142,6 +142,57 @@ TEST_F(DraftReplayTest, valuesOfATableWhoseCountsWereChangedAreKeptAsFarAsTheyFi
     EXPECT_EQ(cells.index(8, 1).data().toString(), "1");
 }
 
+TEST_F(DraftReplayTest, tableThatUndoBroughtBackComesWithItsAngles)
+{
+    startRun();
+    fillPagesBefore(kCandelaPage);
+    fillPageFive();
+    const PageText values = textsOf(window->page(kCandelaPage));
+    click("cmdBack50");
+    click("rdoB");
+    for (const char *list : {"phoCmbVert", "phoCmbHorz"}) {
+        find(list)->setFocus();
+        press(Qt::Key_Down);
+    }
+    click("cmdNext30");
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    EXPECT_NE(textsOf(window->page(kCandelaPage)), values);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_EQ(textsOf(window->page(kCandelaPage)), values);
+    waitUntilKept();
+    const PhotometricRecord record = state.PhotFiles(1);
+    kill();
+    startRun();
+    takeOver();
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    EXPECT_EQ(textsOf(window->page(kCandelaPage)), values);
+    EXPECT_EQ(state.PhotFiles(1).VertAngles, record.VertAngles);
+    EXPECT_EQ(state.PhotFiles(1).HorAngles, record.HorAngles);
+    EXPECT_EQ(state.PhotFiles(1).PhotometricType, kTypeC);
+}
+
+TEST_F(DraftReplayTest, tableThatTheHostSentComesWithItsAngles)
+{
+    startRun();
+    fillPagesBefore(kCandelaPage);
+    fillPageFive();
+    PhotometricRecord &record = state.PhotFiles(1);
+    record.HorAngles = {0, 90};
+    record.NumHorzAngles = 2;
+    window->followRecord();
+    find<GridView>("cdaGridCd")->goTo(10, 2);
+    typeText("77");
+    press(Qt::Key_Return);
+    const PageText values = textsOf(window->page(kCandelaPage));
+    waitUntilKept();
+    kill();
+    startRun();
+    takeOver();
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    EXPECT_EQ(textsOf(window->page(kCandelaPage)), values);
+    EXPECT_EQ(state.PhotFiles(1).HorAngles, (OneBased<float>{0, 90}));
+}
+
 TEST_F(DraftReplayTest, textThatWasGivenUpInAnEditorDoesNotComeBack)
 {
     startRun();

@@ -190,16 +190,44 @@ TEST_F(GridPaste, cellOfASpreadsheetGoesIntoTheTextOfAnOpenEditor)
     }
 }
 
-TEST_F(GridPaste, blockDropsAnOpenEditor)
+TEST_F(GridPaste, blockComesOverTheTextOfAnOpenEditorWhichIsTakenFirst)
 {
     for (const char *text : {"1\t2", "1\n2", "1\t\n"}) {
         grid->goTo(2, 0);
         type("abc");
+        taken.clear();
         paste(text);
         EXPECT_FALSE(grid->isEditing());
         EXPECT_EQ(table.cells[1][0], "1");
+        EXPECT_EQ(taken.substr(0, 6), "A2 A2 ") << "once typed, once pasted";
         press(Qt::Key_Delete);
     }
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
+TEST_F(GridPaste, blockDropsATextThatCannotStand)
+{
+    grid->goTo(2, 0);
+    type("x");
+    paste("1\t2");
+    settle();
+    EXPECT_FALSE(grid->isEditing());
+    EXPECT_EQ(table.cells[1][0] + table.cells[1][1], "12");
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
+TEST_F(GridPaste, refusedBlockLeavesTheEditorOpen)
+{
+    grid->goTo(2, 0);
+    type("abc");
+    paste("1\tx");
+    settle();
+    EXPECT_NE(dialogs.transcript, "");
+    ASSERT_TRUE(grid->isEditing());
+    EXPECT_EQ(focus(), "editor");
+    type("d");
+    press(Qt::Key_Return);
+    EXPECT_EQ(table.all(), "A1|B1 / abcd|B2 / A3|B3");
 }
 
 TEST_F(GridPaste, menuOfTheEditorPastesOneLine)

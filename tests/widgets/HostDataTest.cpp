@@ -212,6 +212,18 @@ TEST_F(HostData, undoBringsBackWhatDidNotFit)
     EXPECT_EQ(state.PhotFiles(1).NumVertAngles, 2);
 }
 
+TEST_F(HostData, endsTheWayBackToWhatWasUndone)
+{
+    showTable({0, 90}, {0, 90});
+    paste("1\t2\n3\t4");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    hostSends({0}, {0});
+    press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(table(), "0|");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(table(), "   |   |");
+}
+
 TEST_F(HostData, undoBringsBackWhatAnOpenEditorHeldToo)
 {
     showTable({0, 90}, {0, 90});

@@ -270,6 +270,63 @@ TEST_F(StepsTest, bringBackTheBlanksThatATurnOfThePageHasFilled)
     EXPECT_EQ(shown("cdaGridCd", 1, 1), "9") << "what was undone can be redone";
 }
 
+TEST_F(StepsTest, keepWhatIsBeingTypedAndABlockPastedOverItApart)
+{
+    window->ShowPage(kTiltPage);
+    fillPageTwo();
+    const PageText before = texts();
+    grid("lmpGridTiltMultiplier").goTo(1, 0);
+    typeText("0.25");
+    paste("7\t8\n9\t10\n");
+    EXPECT_EQ(undoName(), "Undo Paste");
+    undo();
+    EXPECT_EQ(shown("lmpGridTiltMultiplier", 1, 0), "0.25");
+    undo();
+    EXPECT_EQ(texts(), before);
+    EXPECT_EQ(cell("lmpGridTiltMultiplier"), "1,0");
+}
+
+TEST_F(StepsTest, bringBackTheCellOverWhichABlockTookTheRoomOfAHalfTypedText)
+{
+    openTable();
+    const PageText before = texts();
+    typeText("-");
+    paste("9\n8\n7\n6\n5\n4\n3\n2\n1\n0\n");
+    EXPECT_EQ(dialogs.transcript, "");
+    undo();
+    EXPECT_EQ(texts(), before);
+}
+
+TEST_F(StepsTest, keepWhatIsBeingTypedAndATablePastedOverItApart)
+{
+    openTable();
+    const PageText before = texts();
+    typeText("77");
+    paste("9\n8\n7\n6\n5\n4\n3\n2\n1\n0\n");
+    EXPECT_EQ(undoName(), "Undo Paste");
+    undo();
+    EXPECT_EQ(shown("cdaGridCd", 1, 1), "77");
+    EXPECT_EQ(undoName(), "Undo Typing");
+    undo();
+    EXPECT_EQ(texts(), before);
+    redo();
+    redo();
+    EXPECT_EQ(shown("cdaGridCd", 1, 1), "9");
+}
+
+TEST_F(StepsTest, leaveWhatIsBeingTypedOpenWhereATableIsRefused)
+{
+    openTable();
+    typeText("77");
+    paste("1\t2\n");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(dialogs.transcript.find("values read; need") != std::string::npos, true) << dialogs.transcript;
+    EXPECT_TRUE(grid("cdaGridCd").isEditing());
+    typeText("5");
+    press(Qt::Key_Return);
+    EXPECT_EQ(shown("cdaGridCd", 1, 1), "775");
+}
+
 TEST_F(StepsTest, takeAWordForACountAsOneGoOfTyping)
 {
     window->ShowPage(kDistributionPage);

@@ -62,6 +62,11 @@ void CandelaPage::start()
     flags() = {};
 }
 
+bool CandelaPage::losesByStart() const
+{
+    return m_table->hasValues();
+}
+
 void CandelaPage::connectGrid()
 {
     CandelaGrid *grid = m_form->cdaGridCd;

@@ -26,6 +26,7 @@ public:
 
     /// Clears the flags: the next table is built anew.
     void start() override;
+    bool losesByStart() const override;
 
     /// Builds the table from record slot 1 and shows its first cell; page 4 runs it each time it is left by Next.
     /// Error 9 when the record's angles are fewer than it counts.

@@ -52,9 +52,21 @@ bool CandelaTable::isOutdated() const
 
 bool CandelaTable::hasBlanks() const
 {
+    return hasCell([](const CandelaCell &cell) { return !numberOf(cell); });
+}
+
+bool CandelaTable::hasValues() const
+{
+    return m_numbers.flags().GridReady &&
+           hasCell([](const CandelaCell &cell) { return numberOf(cell).value_or(0) != 0; });
+}
+
+template <typename Test>
+bool CandelaTable::hasCell(const Test &test) const
+{
     for (int h = 1; h <= CandelaCells().rows(); ++h)
         for (int v = 1; v <= CandelaCells().columns(); ++v)
-            if (!numberOf(CandelaCells()(h, v)))
+            if (test(CandelaCells()(h, v)))
                 return true;
     return false;
 }

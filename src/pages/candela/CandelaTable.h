@@ -65,6 +65,9 @@ public:
     /// Whether there is a cell without a value.
     bool hasBlanks() const;
 
+    /// Whether there is a table with a value other than 0.
+    bool hasValues() const;
+
     /// Nothing for the label column and outside the table.
     std::optional<CellAngles> anglesOf(int row, int column) const;
 
@@ -101,6 +104,8 @@ public:
 private:
     const PhotometricRecord *record() const;
     bool isCell(int row, int column) const;
+    template <typename Test>
+    bool hasCell(const Test &test) const;
     int fill(OneBasedTable<CandelaCell> &cells, PastedValues &values, GridEdit &edit) const;
     std::string lostThousandsHint(const OneBasedTable<CandelaCell> &cells,
                                   const std::optional<LostThousands::Jump> &jump) const;

@@ -53,6 +53,16 @@ std::string_view token(std::string_view text, int number)
     return text;
 }
 
+/// The single in a cell; nothing where it holds no number or one beyond the range.
+std::optional<float> singleOrNone(const AngleCell &cell)
+{
+    try {
+        return singleIn(cell);
+    } catch (const RunTimeError &) {
+        return std::nullopt;
+    }
+}
+
 AngleCells blankCells(int count)
 {
     if (count < 1)
@@ -131,6 +141,23 @@ float singleIn(const AngleCell &cell)
     if (!number)
         throw typeMismatch();
     return toSingle(*number);
+}
+
+AngleCells cellsOf(const OneBased<float> &angles, int count)
+{
+    AngleCells cells;
+    for (int i = 1; i <= count && i <= angles.size(); ++i)
+        cells.append(angles(i));
+    return cells;
+}
+
+bool areSameAngles(const AngleCells &one, const AngleCells &other)
+{
+    const auto isSame = [](const AngleCell &a, const AngleCell &b) {
+        const auto single = singleOrNone(a);
+        return single && single == singleOrNone(b);
+    };
+    return one.size() == other.size() && std::equal(one.begin(), one.end(), other.begin(), isSame);
 }
 
 std::optional<AngleList::Resizing> AngleList::resize(std::string_view text, std::int16_t photometricType)

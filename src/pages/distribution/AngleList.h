@@ -27,6 +27,12 @@ std::optional<double> numberIn(const AngleCell &cell);
 /// The number in a cell narrowed to a single; error 13 when it holds none, 6 beyond the single range.
 float singleIn(const AngleCell &cell);
 
+/// The first angles of a record's array, as many as it counts and has.
+AngleCells cellsOf(const OneBased<float> &angles, int count);
+
+/// Whether two lists hold the same angles, as singles.
+bool areSameAngles(const AngleCells &one, const AngleCells &other);
+
 /// Whether the cells have ever been sized; once they are there is at least one.
 inline bool isAllocated(const AngleCells &cells)
 {

@@ -7,6 +7,7 @@
 #include "controls/ScreenReader.h"
 #include "review/RecordPlace.h"
 #include "ui_DistributionPage.h"
+#include "wizard/PageSteps.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright {
@@ -129,6 +130,67 @@ std::int16_t DistributionPage::photometricType() const
 DistributionFields DistributionPage::readFields() const
 {
     return {photometricType(), m_vertical->cells(), m_horizontal->cells()};
+}
+
+PageText DistributionPage::textOf(const DistributionFields &lists, bool evenIfSame) const
+{
+    PageText text;
+    const auto putList = [&](const char *box, const char *grid, const AngleCells &cells, const AngleCells &shown) {
+        const bool isSame = areSameAngles(cells, shown);
+        if (!isSame)
+            text[box] = std::to_string(cells.size());
+        if (!isSame || evenIfSame)
+            text[grid] = HeldAngles::textOf(isSame ? shown : cells);
+    };
+    putList("phoCmbVert", "phoGridVert", lists.vertical, m_vertical->cells());
+    putList("phoCmbHorz", "phoGridHorz", lists.horizontal, m_horizontal->cells());
+    if (!hasType() || photometricType() != lists.photometricType) {
+        const bool isTypeB = lists.photometricType == kTypeB;
+        text["rdoC"] = isTypeB ? "0" : "1";
+        text["rdoB"] = isTypeB ? "1" : "0";
+    }
+    return text;
+}
+
+/// The lists of the record, which page 5's table is of wherever that page has been left; nothing where there are none,
+/// or more angles than a list holds.
+std::optional<DistributionPage::TableLists> DistributionPage::tableLists() const
+{
+    if (state().PhotFiles.empty())
+        return std::nullopt;
+    const PhotometricRecord &record = state().PhotFiles(1);
+    const auto isList = [](const OneBased<float> &angles, int count) {
+        return count >= 1 && count <= angles.size() && count <= AngleList::kMostAngles;
+    };
+    if (!isList(record.VertAngles, record.NumVertAngles) || !isList(record.HorAngles, record.NumHorzAngles))
+        return std::nullopt;
+    return TableLists{record.PhotometricType == kTypeB ? kTypeB : kTypeC,
+                      cellsOf(record.VertAngles, record.NumVertAngles),
+                      cellsOf(record.HorAngles, record.NumHorzAngles)};
+}
+
+bool DistributionPage::isOf(const DistributionFields &lists) const
+{
+    return hasType() && photometricType() == lists.photometricType &&
+           areSameAngles(m_vertical->cells(), lists.vertical) && areSameAngles(m_horizontal->cells(), lists.horizontal);
+}
+
+void DistributionPage::comeBackFrom(int)
+{
+    const auto lists = tableLists();
+    if (lists && !steps().seek([&] { return isOf(lists->fields()); }))
+        showValue(textOf(lists->fields(), false), "New Table");
+}
+
+PageValue DistributionPage::valueOnReturn() const
+{
+    PageValue value = this->value();
+    const auto lists = tableLists();
+    const PageText other = lists ? textOf(lists->fields(), false) : PageText();
+    for (HeldText &held : value)
+        if (const auto it = other.find(held.name); it != other.end())
+            held.text = [text = it->second] { return text; };
+    return value;
 }
 
 std::optional<FaultPlace> DistributionPage::placeOf(const RecordPlace &place) const

@@ -33,6 +33,15 @@ public:
     /// What stands on the page.
     DistributionFields readFields() const;
 
+    /// What its controls are to hold to show a type and two lists: nothing of a list that shows the same angles
+    /// already, but for its cells as they stand where it is to be there in any case.
+    PageText textOf(const DistributionFields &lists, bool evenIfSame) const;
+
+    /// Shows the lists that page 5's table is of. It has others where undo has brought a table back there, or where the
+    /// host has sent one: the page goes along its steps to them, or they come in one of their own.
+    void comeBackFrom(int page) override;
+    PageValue valueOnReturn() const override;
+
     std::optional<FaultPlace> placeOf(const RecordPlace &place) const override;
 
 signals:
@@ -44,6 +53,15 @@ protected:
     void focusFault(const FaultPlace &place) override;
 
 private:
+    /// The type and the lists that a table is of.
+    struct TableLists {
+        std::int16_t type;
+        AngleCells vertical;
+        AngleCells horizontal;
+
+        DistributionFields fields() const { return {type, vertical, horizontal}; }
+    };
+
     void rdoC_Click();
     void rdoB_Click();
     void phoCmbVert_Change();
@@ -55,6 +73,8 @@ private:
     static void tellSign(AngleListBox &list, QLabel &hint, bool isPending);
     void resizeAngles(AngleListBox &list, AngleList &angles, AngleGrid &grid);
     std::int16_t photometricType() const;
+    std::optional<TableLists> tableLists() const;
+    bool isOf(const DistributionFields &lists) const;
 
     std::unique_ptr<Ui::DistributionPage> m_form;
     std::function<void()> m_lsbStart;

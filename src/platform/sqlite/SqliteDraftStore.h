@@ -32,6 +32,7 @@ public:
     void write(const DraftHead &head, const DraftTextSource &texts) override;
     TakeEnd takeOver(const std::string &name, Draft &draft) override;
     void discard(const std::string &name) override;
+    void leave() override { m_own.reset(); }
     void drop() override;
     void finish() override;
     std::optional<Draft> readLast() override;

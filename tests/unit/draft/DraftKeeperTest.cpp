@@ -79,6 +79,7 @@ public:
         m_notes->add("discard " + name);
         failIfWanted();
     }
+    void leave() override { m_notes->add("leave"); }
     void drop() override { m_notes->add("drop"); }
     void finish() override
     {
@@ -176,13 +177,15 @@ TEST_F(DraftKeeperTest, whatWasAskedIsDoneInItsOrder)
     keeper->keep(snapshot("b"));
     keeper->finish();
     keeper->keep(snapshot("c"));
+    keeper->leave();
+    keeper->keep(snapshot("d"));
     keeper->drop();
     keeper->discard("one");
     notes->hold(false);
     EXPECT_TRUE(keeper->flush(10s));
     const std::string front = "write 1000 page 0 EL-1 0:box=";
     EXPECT_EQ(notes->all(), front + "a 2:grid=cells\n" + front + "b 2:grid=cells\nfinish\n" + front +
-                                "c 2:grid=cells\ndrop\ndiscard one\n");
+                                "c 2:grid=cells\nleave\n" + front + "d 2:grid=cells\ndrop\ndiscard one\n");
 }
 
 TEST_F(DraftKeeperTest, answersAreDeliveredAndNotCalledAtOnce)
