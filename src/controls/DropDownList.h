@@ -2,6 +2,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QWheelEvent>
 
 #include "controls/ScreenReader.h"
@@ -9,7 +10,8 @@
 namespace penwright {
 
 /// A drop-down list that the wheel does not change while it is closed: the wheel scrolls the page instead. A screen
-/// reader is told what is chosen as its description: it says that with the list's label, and again when it changes.
+/// reader is told what is chosen as its description, which it says with the list's label, and of the item that a key
+/// chooses.
 class DropDownList : public QComboBox {
     Q_OBJECT
 
@@ -30,6 +32,14 @@ public:
     }
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        const int before = currentIndex();
+        QComboBox::keyPressEvent(event);
+        if (!isEditable() && currentIndex() != before)
+            tellChosenItem(*this);
+    }
+
     void wheelEvent(QWheelEvent *event) override { event->ignore(); }
 };
 

@@ -4,6 +4,9 @@
 #include <QAccessibleApplication>
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QComboBox>
+#include <QEvent>
+#include <QLineEdit>
 #include <QTimer>
 #include <QWindow>
 
@@ -62,6 +65,59 @@ QAccessibleInterface *answer(const QString &className, QObject *object)
     return new QAccessibleWidget(static_cast<QWidget *>(object), static_cast<QAccessible::Role>(role.toInt()));
 }
 
+void tellFocus(QWidget &widget)
+{
+    QAccessibleEvent event(&widget, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+}
+
+/// Lets nothing be told of the text of a box that is about to get the focus before the box itself is told.
+class FocusFirst : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() != QEvent::FocusIn || !QAccessible::isActive() || isHolding)
+            return false;
+        const auto reason = static_cast<QFocusEvent *>(event)->reason();
+        const bool isMarked = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+        if (!isMarked || !qobject_cast<QLineEdit *>(object))
+            return false;
+        isHolding = true;
+        othersHandler = QAccessible::installUpdateHandler(untilFocus);
+        QMetaObject::invokeMethod(this, letGo, Qt::QueuedConnection);
+        return false;
+    }
+
+private:
+    static void untilFocus(QAccessibleEvent *event)
+    {
+        if (event->type() == QAccessible::TextCaretMoved || event->type() == QAccessible::TextSelectionChanged)
+            return;
+        letGo();
+        QAccessible::updateAccessibility(event);
+    }
+
+    static void letGo()
+    {
+        if (isHolding)
+            QAccessible::installUpdateHandler(othersHandler);
+        isHolding = false;
+    }
+
+    static inline bool isHolding = false;
+    static inline QAccessible::UpdateHandler othersHandler = nullptr;
+};
+
+bool install()
+{
+    QAccessible::installFactory(answer);
+    qApp->installEventFilter(new FocusFirst(qApp));
+    return true;
+}
+
 /// Whether there is a current item in a view that has the focus.
 bool tellItemWithFocus(QAbstractItemView &view)
 {
@@ -78,7 +134,7 @@ bool tellItemWithFocus(QAbstractItemView &view)
 
 void setScreenReaderRole(QWidget &widget, QAccessible::Role role)
 {
-    static const bool isInstalled = (QAccessible::installFactory(answer), true);
+    static const bool isInstalled = install();
     static_cast<void>(isInstalled);
     widget.setProperty(kRole, static_cast<int>(role));
 }
@@ -98,6 +154,19 @@ void tellCurrentItem(QAbstractItemView &view)
         &view, [&view] { tellItemWithFocus(view); }, Qt::QueuedConnection);
 }
 
+void tellChosenItem(QComboBox &list)
+{
+    if (!QAccessible::isActive())
+        return;
+    QAccessibleInterface *items = QAccessible::queryAccessibleInterface(list.view());
+    QAccessibleTableInterface *table = items ? items->tableInterface() : nullptr;
+    QAccessibleInterface *item = table ? table->cellAt(list.currentIndex(), list.modelColumn()) : nullptr;
+    if (!item)
+        return;
+    QAccessibleEvent event(item, QAccessible::Focus);
+    QAccessible::updateAccessibility(&event);
+}
+
 void tellFocusSoon(QWidget &window)
 {
     constexpr auto kOthersTime = std::chrono::milliseconds(300);
@@ -111,8 +180,7 @@ void tellFocusSoon(QWidget &window)
         auto *view = qobject_cast<QAbstractItemView *>(field);
         if (view && tellItemWithFocus(*view))
             return;
-        QAccessibleEvent event(field, QAccessible::Focus);
-        QAccessible::updateAccessibility(&event);
+        tellFocus(*field);
     });
 }
 

@@ -38,13 +38,15 @@ AccessibilityBus::AccessibilityBus()
       m_bus(startReadersBus(m_session))
 {
     // Programs tell only what somebody has asked for.
-    for (const QString event : {"object:state-changed:focused", "object:property-change:accessible-description"}) {
+    for (const QString event :
+         {"object:state-changed:focused", "object:property-change:accessible-description", "object:text-caret-moved"}) {
         QDBusMessage wish = QDBusMessage::createMethodCall("org.a11y.atspi.Registry", "/org/a11y/atspi/registry",
                                                            "org.a11y.atspi.Registry", "RegisterEvent");
         wish.setArguments({event});
         m_bus.call(wish);
     }
     m_bus.connect({}, {}, "org.a11y.atspi.Event.Object", "StateChanged", this, SLOT(stateChanged(QDBusMessage)));
+    m_bus.connect({}, {}, "org.a11y.atspi.Event.Object", "TextCaretMoved", this, SLOT(caretMoved(QDBusMessage)));
     m_bus.connect({}, {}, "org.a11y.atspi.Event.Object", "PropertyChange", this, SLOT(propertyChanged(QDBusMessage)));
 }
 
@@ -93,6 +95,18 @@ void AccessibilityBus::stateChanged(const QDBusMessage &event)
     m_focusPath = event.path();
     if (isNew)
         m_told += focusText() + "\n";
+}
+
+int AccessibilityBus::textsBeforeFocus()
+{
+    QCoreApplication::processEvents();
+    return m_textsBeforeFocus;
+}
+
+void AccessibilityBus::caretMoved(const QDBusMessage &event)
+{
+    if (event.service() != m_focusService || event.path() != m_focusPath)
+        ++m_textsBeforeFocus;
 }
 
 int AccessibilityBus::changedDescriptions()

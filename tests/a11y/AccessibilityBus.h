@@ -32,7 +32,11 @@ public:
     void beginToTell() { m_told.clear(); }
     std::string told();
 
+    /// How often something was told of a text in a box that had not been told to have the focus.
+    int textsBeforeFocus();
+
 private slots:
+    void caretMoved(const QDBusMessage &event);
     void stateChanged(const QDBusMessage &event);
     void propertyChanged(const QDBusMessage &event);
 
@@ -44,6 +48,7 @@ private:
     QString m_focusService;
     QString m_focusPath;
     int m_changedDescriptions = 0;
+    int m_textsBeforeFocus = 0;
     std::string m_told;
 };
 

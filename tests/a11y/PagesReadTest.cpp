@@ -153,6 +153,20 @@ TEST_F(ReadRun, aWalkOverAllPagesIsToldAsItIsKept)
     expectUnloaded();
 }
 
+// A reader that hears of a text first takes the box for known and never says its name.
+TEST_F(ReadRun, aBoxIsToldBeforeItsText)
+{
+    ASSERT_TRUE(tells("text \"Number Of Lamps\" = \"\""));
+    const int before = bus.textsBeforeFocus();
+    for (const std::string name : {"Lumens Per Lamp", "Candela Multiplier", "Ballast Factor", "Input Watts"}) {
+        typeKeys({"Tab"});
+        ASSERT_TRUE(waitUntil([&] { return bus.focus().find(name) != std::string::npos; }, 20s)) << bus.focus();
+    }
+    EXPECT_EQ(bus.textsBeforeFocus(), before);
+    send("CLOSE");
+    expectUnloaded();
+}
+
 TEST_F(ReadRun, focusIsToldWhereverItGoes)
 {
     EXPECT_TRUE(tells("text \"Number Of Lamps\" = \"\""));

@@ -261,9 +261,7 @@ TEST_F(HostToolsTest, closingTheWindowEndsTheTools)
 int main(int argc, char **argv)
 {
     testing::InitGoogleTest(&argc, argv);
-    using penwright::test::Xvfb;
-    const bool isManaged = qEnvironmentVariable("PENWRIGHT_TEST_MANAGER") == "openbox";
-    const Xvfb display(isManaged ? Xvfb::Manager::Openbox : Xvfb::Manager::None);
+    const penwright::test::Xvfb display(penwright::test::managerAskedFor());
     qputenv("QT_QPA_PLATFORM", "xcb");
     qputenv("LSAN_OPTIONS", "print_suppressions=0:suppressions=" LEAK_SUPPRESSIONS);
     QApplication application(argc, argv);

@@ -8,6 +8,6 @@ int main(int count, char **arguments)
     testing::InitGoogleTest(&count, arguments);
     if (testing::GTEST_FLAG(list_tests))
         return RUN_ALL_TESTS();
-    const penwright::test::Xvfb display;
+    const penwright::test::Xvfb display(penwright::test::managerAskedFor());
     return RUN_ALL_TESTS();
 }

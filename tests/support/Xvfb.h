@@ -14,9 +14,8 @@ namespace penwright::test {
 /// Sets DISPLAY, HOME and the XDG folders, so it must be made before the toolkit reads them.
 class Xvfb {
 public:
-    enum class Manager { None, Openbox };
-
-    explicit Xvfb(Manager manager = Manager::None)
+    /// `manager` is the command that starts a window manager, as a shell reads it; "" for none.
+    explicit Xvfb(const std::string &manager = "")
         : m_server({"Xvfb", "-displayfd", "1", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset", "-r"},
                    {}, Process::Errors::Dropped)
     {
@@ -30,8 +29,8 @@ public:
             set(name, m_home.file(name));
         std::filesystem::create_directory(m_home.file("XDG_RUNTIME_DIR"));
         std::filesystem::permissions(m_home.file("XDG_RUNTIME_DIR"), std::filesystem::perms::owner_all);
-        if (manager == Manager::Openbox)
-            startOpenbox();
+        if (!manager.empty())
+            startManager(manager);
     }
 
     const std::string &display() const { return m_display; }
@@ -45,15 +44,15 @@ private:
         setenv(name.c_str(), value.c_str(), 1);
     }
 
-    void startOpenbox()
+    void startManager(const std::string &command)
     {
-        m_manager = std::make_unique<Process>(std::vector<std::string>{"openbox"});
+        m_manager = std::make_unique<Process>(std::vector<std::string>{"sh", "-c", "exec " + command});
         const auto manages = [] {
             return Process({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).readAll().find("window id") !=
                    std::string::npos;
         };
         if (!waitUntil(manages, 20s))
-            throw std::runtime_error("openbox does not start");
+            throw std::runtime_error("the window manager does not start: " + command);
     }
 
     TempFolder m_home;
@@ -61,5 +60,12 @@ private:
     std::string m_display;
     std::unique_ptr<Process> m_manager;
 };
+
+/// The command of the window manager that tests are to run under, from the environment; "" for none.
+inline std::string managerAskedFor()
+{
+    const char *manager = std::getenv("PENWRIGHT_TEST_MANAGER");
+    return manager ? manager : "";
+}
 
 }  // namespace penwright::test

@@ -114,9 +114,7 @@ TEST(ChosenPlatform, isX11WhereWaylandIsExportedAndThereIsADisplay)
 int main(int count, char **arguments)
 {
     testing::InitGoogleTest(&count, arguments);
-    using penwright::test::Xvfb;
-    const char *manager = std::getenv("PENWRIGHT_TEST_MANAGER");
-    const Xvfb display(manager && *manager ? Xvfb::Manager::Openbox : Xvfb::Manager::None);
+    const penwright::test::Xvfb display(penwright::test::managerAskedFor());
     unsetenv("QT_QPA_PLATFORM");
     return RUN_ALL_TESTS();
 }

@@ -56,6 +56,15 @@ public:
         return reply ? Rectangle{reply->x, reply->y, reply->width, reply->height} : Rectangle{};
     }
 
+    /// Place on the screen, whatever frames the window lies in, and size, in pixels.
+    Rectangle onScreen(std::uint32_t window) const
+    {
+        const Rectangle place = geometryOf(window);
+        const auto asked = xcb_translate_coordinates(m_connection, window, root(), 0, 0);
+        const auto reply = freed(xcb_translate_coordinates_reply(m_connection, asked, nullptr));
+        return reply ? Rectangle{reply->dst_x, reply->dst_y, place.width, place.height} : Rectangle{};
+    }
+
     bool isMapped(std::uint32_t window) const { return mapStateOf(window) != int(XCB_MAP_STATE_UNMAPPED); }
     bool isViewable(std::uint32_t window) const { return mapStateOf(window) == int(XCB_MAP_STATE_VIEWABLE); }
 
@@ -65,16 +74,27 @@ public:
         return reply ? reply->focus : 0;
     }
 
-    std::uint32_t transientFor(std::uint32_t window) const
+    /// The top-level window that the window manager says its user works with, 0 for none.
+    std::uint32_t activeWindow() const
     {
-        const auto cookie = xcb_get_property(m_connection, 0, window, XCB_ATOM_WM_TRANSIENT_FOR, XCB_ATOM_WINDOW, 0, 1);
+        const char name[] = "_NET_ACTIVE_WINDOW";
+        const auto asked = xcb_intern_atom(m_connection, 1, sizeof name - 1, name);
+        const auto atom = freed(xcb_intern_atom_reply(m_connection, asked, nullptr));
+        return atom ? windowIn(root(), atom->atom) : 0;
+    }
+
+    std::uint32_t transientFor(std::uint32_t window) const { return windowIn(window, XCB_ATOM_WM_TRANSIENT_FOR); }
+
+private:
+    std::uint32_t windowIn(std::uint32_t window, xcb_atom_t property) const
+    {
+        const auto cookie = xcb_get_property(m_connection, 0, window, property, XCB_ATOM_WINDOW, 0, 1);
         const auto reply = freed(xcb_get_property_reply(m_connection, cookie, nullptr));
         if (!reply || xcb_get_property_value_length(reply.get()) != 4)
             return 0;
         return *static_cast<std::uint32_t *>(xcb_get_property_value(reply.get()));
     }
 
-private:
     int mapStateOf(std::uint32_t window) const
     {
         const auto reply = freed(

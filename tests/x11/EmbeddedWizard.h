@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <memory>
 #include <QAbstractNativeEventFilter>
 #include <QApplication>
@@ -21,6 +20,7 @@
 #include "platform/x11/X11Window.h"
 #include "support/DialogDriver.h"
 #include "support/ForeignLines.h"
+#include "support/Xvfb.h"
 #include "x11/DisplayQuery.h"
 #include "x11/HostProcess.h"
 
@@ -28,8 +28,7 @@ namespace penwright::test {
 
 inline bool hasManager()
 {
-    const char *manager = std::getenv("PENWRIGHT_TEST_MANAGER");
-    return manager && *manager;
+    return !managerAskedFor().empty();
 }
 
 /// Moves the pointer, clicks and types as a user does, through the display.
@@ -110,12 +109,11 @@ protected:
         movePointerAway();
     }
 
-    /// Waits until the window is on the screen and the window manager, when there is one, has taken it over.
+    /// Waits until the window is on the screen and the window manager, when there is one, has turned to it.
     void waitUntilShown(const HostProcess &process)
     {
         const auto isShown = [&] {
-            return display.isViewable(process.window()) &&
-                   (!hasManager() || display.parentOf(process.topWindow()) != display.root());
+            return display.isViewable(process.window()) && (!hasManager() || display.focus() == process.topWindow());
         };
         ASSERT_TRUE(spinUntil(isShown));
     }
@@ -143,9 +141,8 @@ protected:
     /// Moves the pointer to a place of the host's window where the wizard is not.
     void pointBeside()
     {
-        const Rectangle frame =
-            display.geometryOf(hasManager() ? display.parentOf(host.topWindow()) : host.topWindow());
-        xdotool({"mousemove", std::to_string(frame.x + 60), std::to_string(frame.y + frame.height - 40)});
+        const Rectangle place = display.onScreen(host.topWindow());
+        xdotool({"mousemove", std::to_string(place.x + 60), std::to_string(place.y + place.height - 40)});
     }
 
     void clickBeside()
@@ -169,6 +166,15 @@ protected:
         const EventBarrier barrier(id());
         EXPECT_TRUE(spinUntil([&] { return barrier.isReached(); }));
         return barrier.time();
+    }
+
+    /// Whether the keyboard is where it belongs once the host has been pressed under a dialog: with the dialog. Some
+    /// window managers turn to what is pressed whatever dialogs it has; the host has the keyboard then, and no other.
+    bool isWithDialog(const QWidget &box) const
+    {
+        const std::string manager = managerAskedFor();
+        const bool turnsToThePressed = manager.starts_with("i3") || manager.starts_with("icewm");
+        return display.focus() == (turnsToThePressed ? host.topWindow() : static_cast<std::uint32_t>(box.winId()));
     }
 
     std::uint32_t id() const { return static_cast<std::uint32_t>(window->winId()); }

@@ -17,12 +17,19 @@ inline const MessageBox kQuestion{.text = "Lose <b>all</b>?", .flags = kYesNo + 
 /// The wizard in a host, as a program that has other windows too.
 class Focus : public EmbeddedWizard {
 protected:
-    /// Typed with the pointer far away, so that only the focus can lead the keys to the wizard.
+    /// Typed with the pointer far away, so that only the focus can lead the keys to the wizard, and once the window
+    /// manager has come to rest.
     void typeAndExpect(QLineEdit &box, const std::string &text)
     {
         movePointerAway();
+        const auto hasTurned = [this] { return display.activeWindow() == host.topWindow(); };
+        ASSERT_TRUE(!hasManager() || spinUntil(hasTurned)) << display.activeWindow();
         xdotool({"type", text});
-        EXPECT_TRUE(spinUntil([&] { return box.text().toStdString() == text; })) << box.text().toStdString();
+        EXPECT_TRUE(spinUntil([&] { return box.text().toStdString() == text; }))
+            << box.text().toStdString() << ", the keyboard is with "
+            << (display.focus() == id()               ? "the wizard"
+                : display.focus() == host.topWindow() ? "the host"
+                                                      : "neither wizard nor host");
     }
 
     void giveFocusToHost()

@@ -11,9 +11,7 @@
 int main(int count, char **arguments)
 {
     testing::InitGoogleTest(&count, arguments);
-    using penwright::test::Xvfb;
-    const char *manager = std::getenv("PENWRIGHT_TEST_MANAGER");
-    const Xvfb server(manager && *manager ? Xvfb::Manager::Openbox : Xvfb::Manager::None);
+    const penwright::test::Xvfb server(penwright::test::managerAskedFor());
     setenv("QT_QPA_PLATFORM", "xcb", 1);
     const penwright::Display display;
     if (!display.isUsable())

@@ -217,8 +217,12 @@ bool X11Focus::nativeEventFilter(const QByteArray &eventType, void *message, qin
     const bool isOfGrab = event->mode == XCB_NOTIFY_MODE_GRAB || event->mode == XCB_NOTIFY_MODE_UNGRAB;
     // Where no window has the focus, those under the pointer are told that keys come to them: nobody gave it to them.
     const bool isOfPointer = event->detail == XCB_NOTIFY_DETAIL_POINTER;
-    if (isFocus && event->event == m_hostTop && !isOfGrab && !isOfPointer)
+    if (!isFocus || isOfGrab || isOfPointer)
+        return false;
+    if (event->event == m_hostTop)
         onHostFocus(type == XCB_FOCUS_IN, event->detail);
+    else if (type == XCB_FOCUS_IN && m_window && event->event == static_cast<x11::WindowId>(m_window->winId()))
+        m_heldIt = true;  // who has it now may be another already
     return false;
 }
 
