@@ -17,8 +17,8 @@ protected:
     /// that was earlier than the wizard's last wish is ignored.
     void activate(const HostProcess &process)
     {
-        const std::string window = std::to_string(process.topWindow());
-        xdotool({"set_window", "--name", "Pressed", window, "windowactivate", "--sync", window});
+        const std::string top = std::to_string(process.topWindow());
+        xdotool({"set_window", "--name", "Pressed", top, "windowactivate", "--sync", top});
     }
 
     void goAndComeBack()
