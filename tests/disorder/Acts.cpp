@@ -209,6 +209,8 @@ const std::map<std::string, Act> kActs{
     {"host", quiet<[](Scene &scene, const std::string &text) { scene.host.send(unescaped(text)); }>},
     {"record", quiet<[](Scene &scene, const std::string &n) { scene.host.storeRecord(numberIn(n)); }>},
     {"broken", quiet<[](Scene &scene, const std::string &n) { scene.host.storeBroken(numberIn(n)); }>},
+    // The drafts are looked for by a thread of their own.
+    {"sleep", quiet<[](Scene &, const std::string &n) { QThread::msleep(numberIn(n)); }>},
     {"lock", quiet<[](Scene &scene, const std::string &n) { scene.host.lock(std::atoi(n.c_str())); }>},
     {"crash", [](Scene &, const std::string &) -> std::string { std::abort(); }},  // what the tests of the tests need
 };

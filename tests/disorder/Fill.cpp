@@ -72,7 +72,7 @@ void fillAngles(Scene &scene, unsigned kind)
         if (auto *list = onPage<QComboBox>(scene, name); list->isVisible()) {
             list->setFocus();
             for (unsigned presses = kind % 3 + 1; presses > 0; --presses)
-                QTest::keyClick(list, kind % 2 ? Qt::Key_Up : Qt::Key_Down);
+                QTest::keyClick(list, Qt::Key_Down);
         }
 }
 

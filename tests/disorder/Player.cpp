@@ -41,7 +41,7 @@ void Player::run(bool isEmbedded)
     require(faultAtEnd(*m_scene, status));
     m_scene->window.reset();
     require(faultOfDrafts(*m_scene));
-    require(m_ground.faultOfFiles());
+    require(m_ground.faultOfFiles(!m_host.hasStoredNonsense()));
     m_tally.draftsTaken += m_scene->hasTakenOver ? 1 : 0;
     m_tally.draftsLeft += m_scene->lastWords && m_scene->lastWords->isTyped ? 1 : 0;
     m_scene.reset();
@@ -88,10 +88,9 @@ void Player::actNext()
         return awaitEnd();
     }
     const std::string &line = m_script[m_next++];
-    m_isNextAlone = line == "end alone";
+    m_isNextAlone = m_isNextAlone || line == "end alone";
     const std::string fault = act(*m_scene, line);
-    if (m_isRunning || !fault.empty())
-        require(fault.empty() ? "" : line + ": " + fault);
+    require(fault.empty() ? "" : line + ": " + fault);
 }
 
 /// Every dialog and menu can be left by keys.

@@ -84,6 +84,8 @@ public:
     Script next()
     {
         const unsigned kind = any(100);
+        if (kind < 4)
+            return wholeWay();
         if (kind < 16)
             return {"fill " + number(any(12))};
         if (kind < 34)
@@ -107,6 +109,26 @@ private:
     }
 
     std::string name() { return oneOf(std::array{"new", "old", "other.txt", "none/x", "folder", "", "n\xc3\xa4me"}); }
+
+    /// From wherever to the last page, and a file made of it.
+    Script wholeWay()
+    {
+        Script script;
+        for (int page = 0; page < 5; ++page)
+            script.insert(script.end(), {"fill " + number(any(12)), "next", "answer OK"});
+        if (any(2))
+            script.insert(script.end(), {"click cmdSaveAs", "name " + name(), "answer Enter"});
+        else
+            script.push_back("click cmdUnname");
+        return script;
+    }
+
+    /// A run that ends, and what the next one offers of it.
+    Script newRun()
+    {
+        const std::string how = oneOf(std::array{"close", "close", "delete", "gone", "signal", "alone"});
+        return {"end " + how, "sleep 20", oneOf(std::array{"click draftTakeOver", "click draftDiscard", "next"})};
+    }
 
     Script byUser(unsigned kind)
     {
@@ -143,7 +165,7 @@ private:
             return {"takes " + oneOf(std::array{"atOnce", "atOnce", "late", "never"})};
         if (kind < 54)
             return {"lock " + number(1 + any(4))};
-        return {"end " + oneOf(std::array{"close", "close", "close", "delete", "gone", "signal", "alone"})};
+        return any(2) ? newRun() : Script{"host nothing"};
     }
 
     std::string block()

@@ -29,8 +29,9 @@ namespace penwright::test {
 struct Ground {
     Ground();
 
-    /// What is wrong with the files, "" for nothing: each is one that was there, untouched, or a whole new one.
-    std::string faultOfFiles() const;
+    /// What is wrong with the files, "" for nothing: each is one that was there, untouched, or a new one, which can
+    /// be read where `isReadable`; nothing else is left.
+    std::string faultOfFiles(bool isReadable) const;
 
     TempFolder folder;
     std::string store = folder.file("settings.sqlite3");
