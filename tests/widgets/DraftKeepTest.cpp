@@ -1,3 +1,4 @@
+#include "pages/distribution/PredefinedAngles.h"
 #include "support/DialogDriver.h"
 #include "widgets/DraftsTest.h"
 
@@ -56,6 +57,18 @@ TEST_F(DraftKeep, pageTurnIsKeptAtOnce)
     EXPECT_EQ(draft.head.about, "EL-2054");
     EXPECT_EQ(textOf(draft, kTiltPage, "lmpTxtNumAngles"), "2");
     EXPECT_EQ(textOf(draft, kCandelaPage, "cdaGridCd"), "(none)") << "a page that was never shown holds nothing";
+}
+
+TEST_F(DraftKeep, listsThatAreEmptiedByTheTypeThatWasChosenAlreadyAreKeptEmpty)
+{
+    startRun();
+    fillPagesBefore(kDistributionPage);
+    fillPageFour();
+    waitUntilKept();
+    click("rdoC");
+    waitUntilKept();
+    kill();
+    EXPECT_EQ(textOf(leftDraft(), kDistributionPage, "phoCmbHorz"), kAnglePrompt);
 }
 
 TEST_F(DraftKeep, tableThatIsPastedBeforeItsPageWasShownIsKeptToo)

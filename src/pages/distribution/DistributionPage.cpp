@@ -67,6 +67,7 @@ void DistributionPage::offerAngles()
     m_form->phoCmbVert->offer(predefinedAngles(photometricType(), AngleAxis::Vertical));
     m_form->phoCmbHorz->offer(predefinedAngles(photometricType(), AngleAxis::Horizontal));
     m_form->fraAngles->show();
+    emit changed();  // neither the lists tell of it nor an option that was chosen already
 }
 
 void DistributionPage::phoCmbVert_Change()
