@@ -1,4 +1,4 @@
-// A table of 1,000 x 1,000 values on the page itself: opened, pasted, edited and checked.
+// A square table on the page itself, of 1,000 x 1,000 values where no size is said: opened, pasted, edited, checked.
 #include <benchmark/benchmark.h>
 
 #include <QApplication>
@@ -13,6 +13,7 @@
 #include "pages/candela/CandelaChecks.h"
 #include "pages/candela/CandelaTable.h"
 #include "ShownPage.h"
+#include "Sides.h"
 #include "wizard/PageSteps.h"
 
 namespace {
@@ -20,21 +21,20 @@ namespace {
 using namespace penwright;
 
 /// A table of measured values as a spreadsheet hands it over: 1 to 5 digits and a decimal.
-const std::string &pastedText()
+std::string pastedText(int side = kSide)
 {
-    static const std::string text = [] {
-        std::string lines;
-        for (int v = 0; v < kSide; ++v)
-            for (int h = 0; h < kSide; ++h)
-                lines += generalText(static_cast<float>((v * 7919 + h * 104729) % 500000) / 10.0F) +
-                         (h + 1 < kSide ? "\t" : "\n");
-        return lines;
-    }();
-    return text;
+    std::string lines;
+    for (int v = 0; v < side; ++v)
+        for (int h = 0; h < side; ++h)
+            lines += generalText(static_cast<float>((v * 7919 + h * 104729) % 500000) / 10.0F) +
+                     (h + 1 < side ? "\t" : "\n");
+    return lines;
 }
 
 /// The page with what the keys of a user do on it.
 struct UsedPage : ShownPage {
+    using ShownPage::ShownPage;
+
     void paste()
     {
         QKeyEvent key(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
@@ -81,7 +81,7 @@ BENCHMARK(opensWithValues)->Unit(benchmark::kMillisecond);
 /// The bar for a paste: std::from_chars alone over the same text.
 void fromChars(benchmark::State &state)
 {
-    const std::string &text = pastedText();
+    const std::string text = pastedText();
     for (auto _ : state) {
         const char *at = text.data();
         const char *end = at + text.size();
@@ -97,10 +97,10 @@ BENCHMARK(fromChars)->Unit(benchmark::kMillisecond);
 
 /// A table that has just been built, without a window.
 struct BareTable {
-    BareTable()
+    explicit BareTable(int side = kSide)
     {
         tool.PhotFiles.reset(1);
-        setSquareAngles(tool.PhotFiles(1), kSide);
+        setSquareAngles(tool.PhotFiles(1), side);
         table.newTable().content->swap();
     }
 
@@ -110,18 +110,21 @@ struct BareTable {
 
 void pastedIntoTheTable(benchmark::State &state)
 {
-    BareTable bare;
+    const auto side = static_cast<int>(state.range(0));
+    BareTable bare(side);
+    const std::string text = pastedText(side);
     for (auto _ : state)
-        bare.table.PasteCandelaTable(pastedText()).content->swap();
+        bare.table.PasteCandelaTable(text).content->swap();
 }
-BENCHMARK(pastedIntoTheTable)->Unit(benchmark::kMillisecond);
+BENCHMARK(pastedIntoTheTable)->Apply(forEachSide)->Unit(benchmark::kMillisecond);
 
 /// From the key to the repainted grid and plot, the clipboard's owner being this process.
 void pastedToRedrawnPlot(benchmark::State &state)
 {
-    UsedPage shown;
+    const auto side = static_cast<int>(state.range(0));
+    UsedPage shown(side);
     shown.open();
-    QApplication::clipboard()->setText(QString::fromStdString(pastedText()));
+    QApplication::clipboard()->setText(QString::fromStdString(pastedText(side)));
     for (auto _ : state) {
         shown.paste();
         shown.page.steps().forgetAll();  // their memory is measured below
@@ -130,7 +133,7 @@ void pastedToRedrawnPlot(benchmark::State &state)
     getrusage(RUSAGE_SELF, &usage);
     state.counters["peak_MB"] = static_cast<double>(usage.ru_maxrss) / 1024;
 }
-BENCHMARK(pastedToRedrawnPlot)->Unit(benchmark::kMillisecond);
+BENCHMARK(pastedToRedrawnPlot)->Apply(forEachSide)->Unit(benchmark::kMillisecond);
 
 /// A paste over other values, which can be undone and redone.
 void pasteTwice(UsedPage &shown)

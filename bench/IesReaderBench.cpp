@@ -8,6 +8,7 @@
 #include "core/IesReader.h"
 #include "core/IesText.h"
 #include "Seconds.h"
+#include "Sides.h"
 #include "SquareRecord.h"
 
 namespace {
@@ -53,7 +54,7 @@ void BM_readerAgainstFromChars(benchmark::State &state)
     }
     state.counters["to_from_chars"] = reading / bare;
 }
-BENCHMARK(BM_readerAgainstFromChars)->Arg(100)->Arg(1000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_readerAgainstFromChars)->Apply(forEachSide)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

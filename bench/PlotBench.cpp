@@ -5,6 +5,7 @@
 #include <random>
 
 #include "plot/PlotView.h"
+#include "Sides.h"
 #include "support/PlotTables.h"
 
 namespace {
@@ -46,7 +47,7 @@ void curvesFound(benchmark::State &state)
             penwright::plotCurves(table.record, table.cells, table.horizontal, table.vertical).largest());
     }
 }
-BENCHMARK(curvesFound)->Arg(19)->Arg(361)->Arg(1000)->Unit(benchmark::kMicrosecond);
+BENCHMARK(curvesFound)->Apply(penwright::forEachSide)->Unit(benchmark::kMicrosecond);
 
 /// From the call to the last pixel of a picture box of 400 logical pixels, at 100 % and 200 %.
 void draw(benchmark::State &state, PlotTableCase table)

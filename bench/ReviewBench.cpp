@@ -6,6 +6,7 @@
 #include "review/Figures.h"
 #include "review/Remarks.h"
 #include "Seconds.h"
+#include "Sides.h"
 #include "SquareRecord.h"
 
 namespace {
@@ -59,13 +60,13 @@ void smoothTable(benchmark::State &state)
 {
     review(state, smooth(static_cast<int>(state.range(0))));
 }
-BENCHMARK(smoothTable)->Arg(100)->Arg(1000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(smoothTable)->Apply(forEachSide)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 void tableFullOfSlips(benchmark::State &state)
 {
     review(state, full(static_cast<int>(state.range(0))));
 }
-BENCHMARK(tableFullOfSlips)->Arg(100)->Arg(1000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(tableFullOfSlips)->Apply(forEachSide)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

@@ -13,13 +13,13 @@ namespace penwright {
 
 inline constexpr int kSide = 1000;
 
-/// Page 5 for a table of 1,000 x 1,000 values in a window of its own, as large as an embedded one.
+/// Page 5 for a square table in a window of its own, as large as an embedded one.
 class ShownPage {
 public:
-    ShownPage()
+    explicit ShownPage(int side = kSide)
     {
         m_state.PhotFiles.reset(1);
-        setSquareAngles(m_state.PhotFiles(1), kSide);
+        setSquareAngles(m_state.PhotFiles(1), side);
         page.resize(1000, 700);
         page.show();
         QCoreApplication::processEvents();

@@ -8,6 +8,7 @@
 #include "grid/TableText.h"
 #include "grid/TableWords.h"
 #include "Seconds.h"
+#include "Sides.h"
 
 namespace {
 
@@ -56,11 +57,11 @@ void BM_firstLook(benchmark::State &state)
 }
 BENCHMARK(BM_firstLook)->Unit(benchmark::kMillisecond);
 
-/// A guess and the whole table, for a text of 10 MB. The
-/// counter is the time of the whole over the bar's.
-void BM_tableText(benchmark::State &state)
+/// A guess and the whole table, for a text of ten bytes a value: 10 MB with the longest side. The counter is the time
+/// of the whole over the bar's.
+void tableText(benchmark::State &state, char decimalSign)
 {
-    const std::string text = squareTable(1000, static_cast<char>(state.range(0)));
+    const std::string text = squareTable(static_cast<int>(state.range(0)), decimalSign);
     double guessing = 1e9;
     double reading = 1e9;
     double bare = 1e9;
@@ -79,7 +80,18 @@ void BM_tableText(benchmark::State &state)
     state.counters["guess_ms"] = 1000 * guessing;
     state.counters["to_from_chars"] = reading / bare;
 }
-BENCHMARK(BM_tableText)->Arg('.')->Arg(',')->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void tableWithPoints(benchmark::State &state)
+{
+    tableText(state, '.');
+}
+BENCHMARK(tableWithPoints)->Apply(forEachSide)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+void tableWithCommas(benchmark::State &state)
+{
+    tableText(state, ',');
+}
+BENCHMARK(tableWithCommas)->Apply(forEachSide)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 

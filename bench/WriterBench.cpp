@@ -7,6 +7,7 @@
 
 #include "core/IesText.h"
 #include "Seconds.h"
+#include "Sides.h"
 #include "SquareRecord.h"
 
 namespace {
@@ -55,7 +56,7 @@ void BM_writerAgainstToChars(benchmark::State &state)
     state.counters["to_shortest"] = writing / shortest;
     state.counters["to_general15"] = writing / general;
 }
-BENCHMARK(BM_writerAgainstToChars)->Arg(100)->Arg(1000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_writerAgainstToChars)->Apply(forEachSide)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
