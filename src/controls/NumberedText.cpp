@@ -118,7 +118,7 @@ void NumberedText::appendPieces(int count)
 {
     QString added;
     int block = m_shown == 0 ? 0 : blockCount();
-    for (int piece = 0; piece < count && !isWhole(); ++piece, ++block) {
+    for (int piece = 0; piece < count && added.size() < kLongestAtOnce && !isWhole(); ++piece, ++block) {
         if (m_isInLine)
             m_continued.push_back(block);
         if (block > 0)
@@ -167,7 +167,7 @@ void NumberedText::keyPressEvent(QKeyEvent *event)
 {
     if (event->matches(QKeySequence::Copy) && m_more->isActive())
         showAll();
-    if (!isModifier(event->key()))
+    if (!isModifier(event->key()) && event->key() != Qt::Key_Menu)
         m_more->stop();
     if (event->matches(QKeySequence::MoveToEndOfDocument))
         showRest([this] { moveCursor(QTextCursor::End); });
@@ -181,12 +181,15 @@ void NumberedText::keyPressEvent(QKeyEvent *event)
 
 void NumberedText::mousePressEvent(QMouseEvent *event)
 {
-    m_more->stop();
+    if (event->button() == Qt::LeftButton)
+        m_more->stop();
     QPlainTextEdit::mousePressEvent(event);
 }
 
 void NumberedText::contextMenuEvent(QContextMenuEvent *event)
 {
+    if (m_more->isActive())  // its Copy is to take all that is selected
+        showAll();
     QMenu *menu = createStandardContextMenu();
     menu->setAttribute(Qt::WA_DeleteOnClose);
     if (const auto *all = menu->findChild<QAction *>("select-all"))

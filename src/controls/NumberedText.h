@@ -24,6 +24,7 @@ public:
 
     /// As many lines, or pieces of them, as are shown in a moment.
     static constexpr int kMostAtOnce = 40'000;
+    static constexpr qsizetype kLongestAtOnce = 10'000'000;  ///< characters, whatever the pieces
 
     explicit NumberedText(QWidget *parent = nullptr);
 

@@ -162,9 +162,9 @@ void DraftKeeper::readLast(const std::function<void(std::optional<Draft>)> &answ
     ask({.run = read, .failed = [answer] { answer(std::nullopt); }});
 }
 
-void DraftKeeper::discard(const std::string &name)
+void DraftKeeper::discard(const DraftEntry &draft)
 {
-    ask({.run = [name](DraftStore &store) { store.discard(name); }});
+    ask({.run = [draft](DraftStore &store) { store.discard(draft); }});
 }
 
 void DraftKeeper::leave()

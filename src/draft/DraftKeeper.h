@@ -66,8 +66,8 @@ public:
     /// Reads the last finished file; nothing when there is none that is understood, or when that fails.
     void readLast(const std::function<void(std::optional<Draft>)> &answer);
 
-    /// Deletes a free draft.
-    void discard(const std::string &name);
+    /// Deletes a free draft that is as it was found.
+    void discard(const DraftEntry &draft);
 
     /// Leaves the run's own draft as a free one; what is kept next is another.
     void leave();

@@ -50,8 +50,8 @@ bool GridModel::apply(GridEdit given)
 
 bool GridModel::isTaken(GridEdit edit) const
 {
-    prepareEdit(edit, *m_source);
-    return edit.content != nullptr;
+    const bool isRefused = prepareEdit(edit, *m_source).has_value();
+    return edit.content || !isRefused;  // a block of what stands already changes nothing, but is none that is refused
 }
 
 void GridModel::exchange(const GridEdit &edit)

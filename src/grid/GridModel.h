@@ -28,7 +28,8 @@ public:
     /// The one way to change the source: checks, writes, tells. False when the edit, or a part of it, was refused.
     bool apply(GridEdit edit);
 
-    /// Whether an edit would change the source, all of it or a part. Changes nothing.
+    /// Whether an edit is taken, all of it or a part: one that changes nothing is, unless it is refused. Changes
+    /// nothing.
     bool isTaken(GridEdit edit) const;
 
     /// Says that what has been changed so far was an act of its own, though no other event has come since.

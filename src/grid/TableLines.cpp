@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
+#include <optional>
 
 #include "core/Ascii.h"
 #include "core/LineEnds.h"
@@ -91,11 +93,13 @@ void dropUnits(std::vector<std::string_view> &cells)
         return !cell.empty() && (cell.front() == 'c' || cell.front() == 'C') &&
                withoutUnit("0" + std::string(cell)) == "0";
     };
-    for (std::size_t at = 0; at < cells.size(); ++at) {
-        cells[at] = withoutUnit(cells[at]);
-        if (at > 0 && isNumberBefore(cells[at - 1]) && isUnit(cells[at]))
-            cells.erase(cells.begin() + static_cast<std::ptrdiff_t>(at--));
+    std::size_t kept = 0;
+    for (const std::string_view cell : cells) {
+        cells[kept] = withoutUnit(cell);
+        const bool isLeftOut = kept > 0 && isNumberBefore(cells[kept - 1]) && isUnit(cells[kept]);
+        kept += isLeftOut ? 0 : 1;
     }
+    cells.resize(kept);
 }
 
 /// Whether a cell is a line's number, or a word over those.
@@ -166,19 +170,33 @@ bool TableLines::next(TableLine &line)
     return !line.cells.empty();
 }
 
-void TableLines::leaveOutFrame(TableLine &line) const
+void TableLines::leaveOutFrame(TableLine &line)
 {
     if (line.cells.size() < 2)
         return;
-    // Between blanks nothing need stand over the lines' numbers.
-    const bool isOverCounts =
-        m_separator != TableSeparator::Blanks || (line.cells.size() == m_frame.width && isCount(line.cells.front()));
+    // Between blanks nothing need stand over the lines' numbers, and a line may lack a value but not its number.
+    const std::string_view front = line.cells.front();
+    const bool isOverCounts = m_separator != TableSeparator::Blanks || isNextCount(front) ||
+                              (line.cells.size() == m_frame.width && isCount(front));
     if (m_frame.hasCounts && isOverCounts) {
+        m_lastCount = front;
         line.cells.erase(line.cells.begin());
         ++line.before;
     }
     if (m_frame.repeatsAngles && line.cells.size() > 2 && line.cells.back() == line.cells.front())
         line.cells.pop_back();
+}
+
+/// Whether a cell is the number behind that of the line before.
+bool TableLines::isNextCount(std::string_view cell) const
+{
+    const auto numberOf = [](std::string_view text) {
+        long number = 0;
+        const auto read = std::from_chars(text.data(), text.data() + text.size(), number);
+        return read.ec == std::errc() && read.ptr == text.data() + text.size() ? std::optional(number) : std::nullopt;
+    };
+    const auto last = numberOf(m_lastCount);
+    return last && numberOf(cell) == *last + 1;
 }
 
 std::string_view TableLines::nextCell()

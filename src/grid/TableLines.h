@@ -41,7 +41,8 @@ private:
     std::string_view nextCell();
     std::size_t quotedLength() const;
     std::size_t blankColumns() const;
-    void leaveOutFrame(TableLine &line) const;
+    void leaveOutFrame(TableLine &line);
+    bool isNextCount(std::string_view cell) const;
     bool isSeparator(char c) const;
     void skipBlanks();
     bool isAtLineEnd() const;
@@ -53,6 +54,7 @@ private:
     std::size_t m_number = 1;
     std::size_t m_blankColumns;
     TableFrame m_frame;
+    std::string_view m_lastCount;  ///< the line's number that was left out last
 };
 
 /// The part of a text that a guess looks at: its first lines, 300 at most, of 40,000 bytes at most together.

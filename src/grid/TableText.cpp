@@ -153,6 +153,9 @@ bool TableTextReading::goesOn(const TableLine &line)
     if (m_across.empty() || (first ? first->word == AngleWord::None : !isCorner))
         return false;
     const TableHeading heading = tableHeading(line.cells, line.cells.size() + (first ? 1 : 0), m_reading);
+    const auto isBare = [](const TableAngle &angle) { return angle.word == AngleWord::None; };
+    if (first && std::any_of(heading.angles.begin(), heading.angles.end(), isBare))
+        return false;  // a line of values under an angle in words: "G5"
     double last = m_across.back();
     for (const TableAngle &angle : heading.angles) {
         if (angle.degrees <= last || angle.degrees > 360)
@@ -173,6 +176,8 @@ void TableTextReading::beginPart(const TableLine &line, const TableHeading &head
     m_columns = heading.columns;
     m_least = heading.columns.back() + 1;
     m_width = std::max(m_least, line.cells.size());
+    if (m_reading.separator == TableSeparator::Blanks)
+        m_least = m_width;  // which value a shorter line lacks cannot be told
     for (const TableAngle &angle : heading.angles)
         m_across.push_back(angle.degrees);
     m_parts.emplace_back();

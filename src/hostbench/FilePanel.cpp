@@ -162,11 +162,12 @@ void FilePanel::stopOpening()
 void FilePanel::add(HeldFile &file)
 {
     const QString path = QString::fromStdString(file.record.Filename);
-    const int place = m_files.add(std::move(file));
+    const int place = m_files.addBesides(std::move(file), m_wizardsAtWork);
     if (place >= 0)
         return showFiles(place);
-    m_problems.append(
-        tr("%1 was not opened: %2 files are held already.").arg(QFileInfo(path).fileName()).arg(kMaxFiles));
+    m_problems.append(tr("%1 was not opened: there is room for %2 files, those of wizards at work among them.")
+                          .arg(QFileInfo(path).fileName())
+                          .arg(kMaxFiles));
 }
 
 void FilePanel::tellProblems()

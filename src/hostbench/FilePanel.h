@@ -34,6 +34,9 @@ public:
     /// be read or held is told in one box.
     void open(const QStringList &paths);
 
+    /// Leaves room in the list for what wizards at work will bring.
+    void setWizardsAtWork(int wizards) { m_wizardsAtWork = wizards; }
+
     /// Opens no more of them, and tells of none.
     void stopOpening();
 
@@ -62,6 +65,7 @@ private:
 
     HeldFiles &m_files;
     FileOpening *m_opening;
+    int m_wizardsAtWork = 0;
     QStringList m_problems;  ///< of files that were to be opened, not told yet
     OpeningBar *m_bar = nullptr;
     QLabel *m_count = nullptr;

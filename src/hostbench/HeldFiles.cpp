@@ -19,6 +19,16 @@ int HeldFiles::unsavedCount() const
 
 int HeldFiles::add(HeldFile file)
 {
+    return addWithin(std::move(file), kMaxFiles);
+}
+
+int HeldFiles::addBesides(HeldFile file, int wizardsAtWork)
+{
+    return addWithin(std::move(file), kMaxFiles - wizardsAtWork);
+}
+
+int HeldFiles::addWithin(HeldFile file, int most)
+{
     const auto same = std::find_if(m_files.begin(), m_files.end(), [&file](const SharedFile &held) {
         return file.isSaved && held->record.Filename == file.record.Filename;
     });
@@ -26,7 +36,7 @@ int HeldFiles::add(HeldFile file)
         *same = std::make_shared<const HeldFile>(std::move(file));
         return static_cast<int>(same - m_files.begin());
     }
-    if (isFull())
+    if (count() >= most)
         return -1;
     m_files.push_back(std::make_shared<const HeldFile>(std::move(file)));
     return count() - 1;

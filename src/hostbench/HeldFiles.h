@@ -36,12 +36,17 @@ public:
     /// unnamed file never does. -1 when the list is full: the file is not added.
     int add(HeldFile file);
 
+    /// As `add`, for a file that need not be held: it leaves room for what wizards at work will bring.
+    int addBesides(HeldFile file, int wizardsAtWork);
+
     /// Marks the file as saved on disk under `filename`.
     void setSaved(int place, const std::string &filename);
 
     void remove(int place) { m_files.erase(m_files.begin() + place); }
 
 private:
+    int addWithin(HeldFile file, int most);
+
     std::vector<SharedFile> m_files;
 };
 

@@ -145,6 +145,7 @@ ToolTab *HostWindow::startTool()
 
     auto *tab = new ToolTab(*m_tabs, m_store, address);
     m_tools.append(tab);
+    m_panel->setWizardsAtWork(toolCount());
     connect(&tab->run(), &ToolRun::logged, this,
             [this, tab](ToolRun::Line line, const QString &text) { m_log->append(tab->run().name(), line, text); });
     connect(&tab->run(), &ToolRun::commandTaken, this, [this, tab](const ToolCommand &command) { obey(tab, command); });
@@ -220,6 +221,7 @@ void HostWindow::removeTool(ToolTab *tab)
 {
     emit toolEnded(tab);
     m_tools.removeOne(tab);
+    m_panel->setWizardsAtWork(toolCount());
     m_keyboard->takeFrom(tab->area().windowNumber());
     m_tabs->removeTab(m_tabs->indexOf(tab));
     tab->deleteLater();

@@ -72,8 +72,9 @@ public:
     /// Makes a free draft the run's own, in the place of what it had, and reads it into `draft`.
     virtual TakeEnd takeOver(const std::string &name, Draft &draft) = 0;
 
-    /// Deletes a free draft; one that is in use or gone stays as it is.
-    virtual void discard(const std::string &name) = 0;
+    /// Deletes a free draft; one that is in use, or that another run has gone on with since it was found, stays as it
+    /// is.
+    virtual void discard(const DraftEntry &draft) = 0;
 
     /// Leaves the run's own draft as a free one, which any run can take. The next write makes a new draft.
     virtual void leave() = 0;

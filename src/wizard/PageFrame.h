@@ -87,7 +87,8 @@ public:
     /// Runs each time before the page is shown; an error raised here leaves the page that is shown as it is.
     virtual void enter() {}
 
-    /// Runs each time the page is come back to from the page of an index, before it is shown.
+    /// Runs each time the page is come back to from the page of an index, or passed on the way back from there, before
+    /// a page is shown.
     virtual void comeBackFrom(int) {}
 
     /// Runs when the host has put its own record into slot 1. Whether what the page holds did not fit it and was built
@@ -147,6 +148,9 @@ public:
 signals:
     /// What stands on the page may have changed.
     void changed();
+
+    /// All that the page holds has been put there at once, whether it is shown or not: a table has been pasted.
+    void filled();
 
 protected:
     /// The widget that takes the page's form.

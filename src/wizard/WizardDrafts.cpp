@@ -84,8 +84,8 @@ WizardDrafts::WizardDrafts(WizardWindow &window, const Closing &closing, std::un
 
 WizardDrafts::~WizardDrafts()
 {
-    for (const std::string &draft : m_discarded)
-        m_keeper.discard(draft);
+    for (const auto &[name, head] : m_discarded)
+        m_keeper.discard({name, head});
 }
 
 void WizardDrafts::followWindow()
@@ -98,8 +98,10 @@ void WizardDrafts::followWindow()
     connect(&m_window, &WizardWindow::startingAnew, this, &WizardDrafts::leave);
     connect(&m_window, &WizardWindow::cancelled, this, &WizardDrafts::drop);
     connect(&m_window, &WizardWindow::fileTaken, this, &WizardDrafts::finish);
-    for (int page = 0; page < kPageCount; ++page)
+    for (int page = 0; page < kPageCount; ++page) {
         connect(&m_window.page(page), &PageFrame::changed, this, [this, page] { noteChange(page); });
+        connect(&m_window.page(page), &PageFrame::filled, this, [this, page] { m_replay.giveUp(page); });
+    }
 }
 
 void WizardDrafts::turnTo(int page)
@@ -138,9 +140,11 @@ void WizardDrafts::keepIfChanged()
 }
 
 /// Leaves the draft behind where a start takes away what stands on a page, and offers it: what is kept from then on is
-/// another one.
+/// another one. Where nothing has been typed since a finished file, offers what any start does.
 void WizardDrafts::leave()
 {
+    if (!m_isTyped && !m_isReplayDue)
+        return look();
     if (!m_isTyped || m_isReplayDue || !m_window.page(kCandelaPage).losesByStart())
         return;
     keep();
@@ -256,15 +260,18 @@ void WizardDrafts::takeOverDraft(const std::string &name)
 {
     if (m_hasTaken)  // a second one, brought back by undo: the first stays a draft
         m_keeper.leave();
+    m_isReplayDue = true;
     m_keeper.takeOver(name, [this, name](const TakenDraft &taken) {
         std::erase_if(m_found.free, [&](const DraftEntry &draft) { return draft.name == name; });
         if (taken.end != TakeEnd::Taken) {
+            m_isReplayDue = false;
+            if (m_isTyped)
+                keep();
             offerAgain();
             return tell(toQString(takeEndText(taken.end)));
         }
         closeLine();
         m_hasTaken = true;
-        m_isReplayDue = true;
         replay(taken.draft);
     });
 }
@@ -286,7 +293,7 @@ void WizardDrafts::discard()
 
 void WizardDrafts::putAway(const DraftEntry &draft)
 {
-    m_discarded.insert(draft.name);
+    m_discarded.insert_or_assign(draft.name, draft.head);
     forgetDiscarded();
     offerAgain();
 }
@@ -301,7 +308,10 @@ void WizardDrafts::bringBack(const DraftEntry &draft, std::size_t place)
 
 void WizardDrafts::forgetDiscarded()
 {
-    std::erase_if(m_found.free, [this](const DraftEntry &draft) { return m_discarded.contains(draft.name); });
+    std::erase_if(m_found.free, [this](const DraftEntry &draft) {
+        const auto it = m_discarded.find(draft.name);
+        return it != m_discarded.end() && it->second == draft.head;  // else another run has gone on with it
+    });
 }
 
 void WizardDrafts::offerAgain()

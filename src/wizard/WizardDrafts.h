@@ -3,9 +3,9 @@
 #include <QObject>
 
 #include <bitset>
+#include <map>
 #include <memory>
 #include <optional>
-#include <set>
 #include <string>
 
 #include "draft/DraftKeeper.h"
@@ -63,15 +63,15 @@ private:
     DraftLine *m_line;
     DraftReplay m_replay;
     DraftKeeper m_keeper;
-    QTimer *m_timer;                    ///< runs from the first change that is not kept
-    std::bitset<kPageCount> m_visited;  ///< pages that have been shown or changed, and so may hold something
-    bool m_isReplayDue = false;         ///< a draft has been taken over that no page holds yet
-    bool m_hasTaken = false;            ///< the run's own draft was one of another run
-    bool m_isTyped = false;             ///< something has been typed since the last finished file
-    DraftsFound m_found;                ///< what is still offered
-    std::size_t m_offered = 0;          ///< which of them the line shows
-    std::set<std::string> m_discarded;  ///< by name, to be deleted when the program ends
-    QString m_trouble;                  ///< what was said when drafts could not be kept, "" when they can
+    QTimer *m_timer;                               ///< runs from the first change that is not kept
+    std::bitset<kPageCount> m_visited;             ///< pages that have been shown or changed, and so may hold something
+    bool m_isReplayDue = false;                    ///< a draft is being taken over that no page holds yet
+    bool m_hasTaken = false;                       ///< the run's own draft was one of another run
+    bool m_isTyped = false;                        ///< something has been typed since the last finished file
+    DraftsFound m_found;                           ///< what is still offered
+    std::size_t m_offered = 0;                     ///< which of them the line shows
+    std::map<std::string, DraftHead> m_discarded;  ///< by name, to be deleted when the program ends
+    QString m_trouble;                             ///< what was said when drafts could not be kept, "" when they can
 };
 
 }  // namespace penwright

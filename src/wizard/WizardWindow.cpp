@@ -149,7 +149,8 @@ void WizardWindow::turnTo(int index, Arrival arrival)
     m_shownPage = index;
     PageFrame *page = m_pages[static_cast<std::size_t>(index)];
     if (arrival == Arrival::Back)
-        page->comeBackFrom(from);
+        for (int passed = index; passed < from; ++passed)  // Next comes to those between without asking them again
+            m_pages[static_cast<std::size_t>(passed)]->comeBackFrom(from);
     emit pageTurned(index);
     page->show();
     for (QScrollBar *bar : {m_scroll->horizontalScrollBar(), m_scroll->verticalScrollBar()})

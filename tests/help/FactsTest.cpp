@@ -42,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(
         {"turning", {"angles.html", "zero", {"they run counterclockwise", "they run clockwise"}}},
         {"aim", {"angles.html", "zero", {"straight down until the luminaire is aimed"}}},
         {"olderSymmetry",
-         {"angles.html", "symmetry", {"2002 knows none", "Older versions know 90 to 270", "refused here"}}},
+         {"angles.html", "symmetry", {"2002 knows no lists from 90", "Older versions have 90 to 270, which do not"}}},
         {"equalAngles",
          {"angles.html", "messages", {"Equal angles pass, here and in all programs, but each takes them differently"}}},
         {"polesOfTypeB", {"candela.html", "poles", {"Type B has no nadir row", "the columns of -90 and 90"}}},
@@ -54,6 +54,9 @@ INSTANTIATE_TEST_SUITE_P(
     testing::ValuesIn(std::vector<Fact>{
         {"pastedTooLarge", {"candela.html", "paste", {"values of 9999999 and more never are"}}},
         {"fourWays", {"lamp.html", "absolute", {"luminaire's own lumens", "-1 lumens of the luminaire \u00F7 1000"}}},
+        {"perKilolumen", {"lamp.html", "absolute", {"give 300 to 1000 at multiplier 1"}}},
+        {"lumensByHand", {"finish.html", "lumens", {"Page 6 shows them", "in equal steps", "a single one whole"}}},
+        {"changesByHand", {"format.html", "trouble", {"numbers 4 and 5 of the photometric line"}}},
         {"boundOfLumens", {"finish.html", "check", {"lamps \u00D7 lumens per lamp \u00D7 ballast factor"}}},
         {"folds", {"format.html", "width", {"one splits a number there, one stumbles over the blank"}}},
         {"lines",

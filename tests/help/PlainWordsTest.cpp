@@ -17,8 +17,8 @@ constexpr const char *kStiffWords[]{
 };
 
 /// All words that somebody sees who reads the whole help, and those that are no messages of the wizard itself.
-constexpr long kMostWords = 8000;
-constexpr long kMostOwnWords = 5725;
+constexpr long kMostWords = 8080;
+constexpr long kMostOwnWords = 5800;
 
 bool isLetterAt(const std::string &text, std::size_t place)
 {

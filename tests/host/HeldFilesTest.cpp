@@ -23,6 +23,17 @@ TEST(HeldFiles, theTwentySixthIsNotAdded)
     EXPECT_EQ(files.count(), 25);
 }
 
+TEST(HeldFiles, oneThatNeedNotBeHeldLeavesRoomForWhatWizardsBring)
+{
+    HeldFiles files;
+    for (int place = 0; place < 23; ++place)
+        EXPECT_EQ(files.addBesides({}, 2), place);
+    EXPECT_EQ(files.addBesides({}, 2), -1);
+    EXPECT_EQ(files.add({}), 23);
+    EXPECT_EQ(files.addBesides({}, 1), -1);
+    EXPECT_EQ(files.add({}), 24);
+}
+
 TEST(HeldFiles, aSavedFileReplacesTheOneOfItsName)
 {
     HeldFiles files;

@@ -90,8 +90,20 @@ TEST_F(HostFilesTest, theTwentySixthIsRefused)
     for (int i = 0; i < 25; ++i)
         m_window->addFile({sampleLuminaire(), false, {}});
     const QString path = write("more.ies", kSample);
-    EXPECT_EQ(boxTextOf([&] { m_window->openFiles({path}); }), "more.ies was not opened: 25 files are held already.");
+    EXPECT_EQ(boxTextOf([&] { m_window->openFiles({path}); }),
+              "more.ies was not opened: there is room for 25 files, those of wizards at work among them.");
     EXPECT_EQ(m_window->files().count(), 25);
+}
+
+TEST_F(HostFilesTest, aFileOfTheDiskLeavesRoomForWhatAWizardBrings)
+{
+    for (int i = 0; i < 24; ++i)
+        m_window->addFile({sampleLuminaire(), false, {}});
+    m_window->startTool();
+    ASSERT_TRUE(waitNoted("START"));
+    const QString path = write("more.ies", kSample);
+    EXPECT_NE(boxTextOf([&] { m_window->openFiles({path}); }), "");
+    EXPECT_EQ(m_window->files().count(), 24);
 }
 
 TEST_F(HostFilesTest, saveAsProposesTheCatalogNumber)

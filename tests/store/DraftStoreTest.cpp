@@ -109,7 +109,7 @@ TEST_F(DraftStoreTest, discardedDraftIsGoneAndOthersStay)
 {
     leave("one");
     const std::string name = leave("two");
-    SqliteDraftStore(drafts).discard(name);
+    SqliteDraftStore(drafts).discard({name, headOf("two")});
     EXPECT_EQ(offered(), "one\n");
 }
 

@@ -17,7 +17,7 @@ TEST_F(DraftTakeTest, draftOfARunThatLivesIsNotOffered)
         Draft draft;
         SqliteDraftStore other(drafts);
         EXPECT_NE(other.takeOver(name, draft), TakeEnd::Taken) << name;
-        other.discard(name);
+        other.discard({name, headOf("alive")});
     }
     EXPECT_EQ(files().size(), 2U);
 }
@@ -32,7 +32,7 @@ TEST_F(DraftTakeTest, bothAreOfferedTheDraftAndOneGetsIt)
     Draft draft;
     EXPECT_EQ(first.takeOver(name, draft), TakeEnd::Taken);
     EXPECT_EQ(second.takeOver(name, draft), TakeEnd::InUse);
-    second.discard(name);
+    second.discard({name, headOf("wanted")});
     EXPECT_EQ(files().size(), 2U);
     EXPECT_EQ(offered(second.look()), "");
 }
@@ -80,10 +80,26 @@ TEST_F(DraftTakeTest, draftThatARunLeavesIsFreeForItTooAndItsNextOneIsAnother)
 TEST_F(DraftTakeTest, draftThatIsGoneIsGone)
 {
     const std::string name = leave("one");
-    SqliteDraftStore(drafts).discard(name);
+    SqliteDraftStore(drafts).discard({name, headOf("one")});
     Draft draft;
     EXPECT_EQ(SqliteDraftStore(drafts).takeOver(name, draft), TakeEnd::Gone);
     EXPECT_EQ(SqliteDraftStore(drafts).takeOver("../../etc/passwd", draft), TakeEnd::Gone);
+    EXPECT_TRUE(files().empty());
+}
+
+TEST_F(DraftTakeTest, draftThatAnotherRunHasGoneOnWithIsNotDiscarded)
+{
+    const std::string name = leave("one");
+    const DraftEntry found = SqliteDraftStore(drafts).look().free.at(0);
+    {
+        SqliteDraftStore another(drafts);
+        Draft draft;
+        ASSERT_EQ(another.takeOver(name, draft), TakeEnd::Taken);
+        another.write({kTime + 1, 2, "one"}, sourceOf(kTexts));
+    }
+    SqliteDraftStore(drafts).discard(found);
+    EXPECT_EQ(offered(), "one\n");
+    SqliteDraftStore(drafts).discard({name, {kTime + 1, 2, "one"}});
     EXPECT_TRUE(files().empty());
 }
 

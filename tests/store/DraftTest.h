@@ -22,9 +22,12 @@ inline DraftTextSource sourceOf(const std::vector<DraftText> &texts)
 /// Drafts in a folder of their own. A run is a store: it ends, or is killed, when the object goes.
 class DraftTest : public testing::Test {
 protected:
+    /// What a draft says of itself that `write` has written.
+    static DraftHead headOf(const std::string &about) { return {kTime, 2, about}; }
+
     static void write(SqliteDraftStore &run, const std::string &about, const std::vector<DraftText> &texts = kTexts)
     {
-        run.write({kTime, 2, about}, sourceOf(texts));
+        run.write(headOf(about), sourceOf(texts));
     }
 
     /// A run that wrote a draft and is gone; the draft's name.

@@ -5,7 +5,22 @@
 namespace penwright::test {
 namespace {
 
-using DraftKeep = DraftsTest;
+class DraftKeep : public DraftsTest {
+protected:
+    /// Pastes a table of 2 x 1 values on page 4.
+    void pasteSmallTable()
+    {
+        QGuiApplication::clipboard()->setText("\t0\n0\t5.5\n90\t4\n");
+        bool isTaken = false;
+        whenDialogIsUp([&](QDialog &dialog) {
+            isTaken = true;
+            QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+        });
+        find("phoGridVert")->setFocus();
+        press(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
+        EXPECT_TRUE(spinUntil([&] { return isTaken; }));
+    }
+};
 
 TEST_F(DraftKeep, runInWhichNothingIsTypedLeavesNothing)
 {
@@ -76,15 +91,7 @@ TEST_F(DraftKeep, tableThatIsPastedBeforeItsPageWasShownIsKeptToo)
     startRun();
     fillPagesBefore(kDistributionPage);
     click("rdoC");
-    QGuiApplication::clipboard()->setText("\t0\n0\t5.5\n90\t4\n");
-    bool isTaken = false;
-    whenDialogIsUp([&](QDialog &dialog) {
-        isTaken = true;
-        QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
-    });
-    find("phoGridVert")->setFocus();
-    press(Qt::Key_V, Qt::ControlModifier | Qt::ShiftModifier);
-    EXPECT_TRUE(spinUntil([&] { return isTaken; }));
+    pasteSmallTable();
     waitUntilKept();
     kill();
     EXPECT_EQ(textOf(leftDraft(), kCandelaPage, "cdaGridCd"), "5.5d\n4d\n");
@@ -93,6 +100,36 @@ TEST_F(DraftKeep, tableThatIsPastedBeforeItsPageWasShownIsKeptToo)
     ASSERT_EQ(shownPage(), kDistributionPage);
     click("cmdNext30");
     EXPECT_EQ(textsOf(window->page(kCandelaPage)).at("cdaGridCd"), "5.5d\n4d\n");
+}
+
+TEST_F(DraftKeep, tableThatIsPastedBeforeThatOfTheLastFileCameTakesItsPlace)
+{
+    startRun();
+    fillPagesBefore(kFinishPage);
+    emit window->fileTaken();
+    kill();
+    startRun();
+    takeOver();
+    for (const char *next : {"cmdNext10", "cmdNext15", "cmdNext20"})
+        click(next);
+    ASSERT_EQ(shownPage(), kDistributionPage);
+    pasteSmallTable();
+    waitUntilKept();
+    click("cmdNext30");
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    EXPECT_EQ(textsOf(window->page(kCandelaPage)).at("cdaGridCd"), "5.5d\n4d\n");
+    kill();
+    EXPECT_EQ(textOf(leftDraft(), kCandelaPage, "cdaGridCd"), "5.5d\n4d\n");
+}
+
+TEST_F(DraftKeep, secondStartAfterAFinishedFileOffersThatFile)
+{
+    startRun();
+    fillPagesBefore(kFinishPage);
+    emit window->fileTaken();
+    window->StartWizard();
+    waitForOffer();
+    EXPECT_EQ(offer().substr(0, 19), "Start from EL-2054,");
 }
 
 TEST_F(DraftKeep, secondStartLeavesTheDraftWithItsTableAndOffersIt)

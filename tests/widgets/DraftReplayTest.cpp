@@ -1,3 +1,4 @@
+#include "review/RecordPlace.h"
 #include "widgets/DraftsTest.h"
 
 namespace penwright::test {
@@ -14,6 +15,27 @@ protected:
             texts.push_back({kLampPage, box, "1"});
         texts.push_back({kLampPage, "chkIncludeTilt", "1"});
         return texts;
+    }
+
+    /// Comes to page 5, has its table built anew for other angles, and brings the first one back by undo; what it
+    /// holds.
+    PageText bringBackATable()
+    {
+        fillPagesBefore(kCandelaPage);
+        fillPageFive();
+        PageText values = textsOf(window->page(kCandelaPage));
+        click("cmdBack50");
+        click("rdoB");
+        for (const char *list : {"phoCmbVert", "phoCmbHorz"}) {
+            find(list)->setFocus();
+            press(Qt::Key_Down);
+        }
+        click("cmdNext30");
+        EXPECT_EQ(shownPage(), kCandelaPage);
+        EXPECT_NE(textsOf(window->page(kCandelaPage)), values);
+        press(Qt::Key_Z, Qt::ControlModifier);
+        EXPECT_EQ(textsOf(window->page(kCandelaPage)), values);
+        return values;
     }
 };
 
@@ -145,20 +167,7 @@ TEST_F(DraftReplayTest, valuesOfATableWhoseCountsWereChangedAreKeptAsFarAsTheyFi
 TEST_F(DraftReplayTest, tableThatUndoBroughtBackComesWithItsAngles)
 {
     startRun();
-    fillPagesBefore(kCandelaPage);
-    fillPageFive();
-    const PageText values = textsOf(window->page(kCandelaPage));
-    click("cmdBack50");
-    click("rdoB");
-    for (const char *list : {"phoCmbVert", "phoCmbHorz"}) {
-        find(list)->setFocus();
-        press(Qt::Key_Down);
-    }
-    click("cmdNext30");
-    ASSERT_EQ(shownPage(), kCandelaPage);
-    EXPECT_NE(textsOf(window->page(kCandelaPage)), values);
-    press(Qt::Key_Z, Qt::ControlModifier);
-    ASSERT_EQ(textsOf(window->page(kCandelaPage)), values);
+    const PageText values = bringBackATable();
     waitUntilKept();
     const PhotometricRecord record = state.PhotFiles(1);
     kill();
@@ -169,6 +178,34 @@ TEST_F(DraftReplayTest, tableThatUndoBroughtBackComesWithItsAngles)
     EXPECT_EQ(state.PhotFiles(1).VertAngles, record.VertAngles);
     EXPECT_EQ(state.PhotFiles(1).HorAngles, record.HorAngles);
     EXPECT_EQ(state.PhotFiles(1).PhotometricType, kTypeC);
+}
+
+TEST_F(DraftReplayTest, tableThatUndoBroughtBackComesWithItsAnglesFromAPageThatARemarkLedTo)
+{
+    startRun();
+    bringBackATable();
+    click("cmdNext50");
+    ASSERT_EQ(shownPage(), kFinishPage);
+    // Values as they are shown, whether they were typed there or come from the record.
+    const auto shownValues = [this] {
+        std::string values = textsOf(window->page(kCandelaPage)).at("cdaGridCd");
+        std::erase(values, 'd');
+        return values;
+    };
+    const std::string values = shownValues();
+    window->goToPlace({RecordField::NumLamps});
+    ASSERT_EQ(shownPage(), kLampPage);
+    waitUntilKept();
+    for (const char *next : {"cmdNext10", "cmdNext15", "cmdNext20", "cmdNext30"})
+        click(next);
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    EXPECT_EQ(shownValues(), values);
+    kill();
+    startRun();
+    takeOver();
+    window->ShowPage(kDistributionPage);
+    click("cmdNext30");
+    EXPECT_EQ(shownValues(), values);
 }
 
 TEST_F(DraftReplayTest, tableThatTheHostSentComesWithItsAngles)

@@ -216,6 +216,17 @@ TEST_F(GridPaste, blockDropsATextThatCannotStand)
     EXPECT_EQ(dialogs.transcript, "");
 }
 
+TEST_F(GridPaste, blockOfWhatStandsAlreadyComesOverASlipInAnOpenEditor)
+{
+    const std::string stood = table.all();
+    grid->goTo(1, 0);
+    type("abc");
+    paste("A1\tB1");
+    settle();
+    EXPECT_FALSE(grid->isEditing());
+    EXPECT_EQ(table.all(), stood);
+}
+
 TEST_F(GridPaste, refusedBlockLeavesTheEditorOpen)
 {
     grid->goTo(2, 0);

@@ -194,6 +194,21 @@ TEST_F(Numbered, comesBitByBitWhereItsRestIsLong)
     EXPECT_EQ(QGuiApplication::clipboard()->text().count('\n'), 99'999);
 }
 
+TEST_F(Numbered, copiesWholeByTheMenuWhileTheRestIsOnItsWay)
+{
+    show(linesUpTo(100'000));
+    QTest::keySequence(&box, QKeySequence(QKeySequence::SelectAll));
+    QTest::mousePress(box.viewport(), Qt::RightButton, {}, QPoint(20, 20));
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, QPoint(20, 20), box.mapToGlobal(QPoint(20, 20)));
+    QApplication::sendEvent(box.viewport(), &asked);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    ASSERT_TRUE(menu);
+    menu->findChild<QAction *>("edit-copy")->trigger();
+    menu->close();
+    QTest::mouseRelease(box.viewport(), Qt::RightButton, {}, QPoint(20, 20));
+    EXPECT_EQ(QGuiApplication::clipboard()->text().count('\n'), 99'999);
+}
+
 TEST_F(Numbered, letsTabLeaveIt)
 {
     QWidget window;

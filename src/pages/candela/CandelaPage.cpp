@@ -109,6 +109,7 @@ bool CandelaPage::pasteTable(const PhotometricRecord &angles, OneBasedTable<Cand
         m_form->cdaGridCd->makeCurrent(1, 1);
     showCurrentCell();
     steps().endAct();
+    emit filled();
     return hadTable;
 }
 

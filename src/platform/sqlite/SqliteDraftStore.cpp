@@ -137,7 +137,7 @@ DraftsFound SqliteDraftStore::look()
     std::vector<Sight> sights = sightsOf(m_folder.drafts());
     std::erase_if(sights, [&](const Sight &sight) {
         if (sight.kind == Sight::Kind::Empty) {
-            discard(sight.entry.name);
+            discard(sight.entry);
             return true;
         }
         const bool isAside = sight.kind == Sight::Kind::NotUnderstood && putAside(sight.entry.name);
@@ -224,13 +224,26 @@ TakeEnd SqliteDraftStore::takeOver(const std::string &name, Draft &draft)
     }
 }
 
-void SqliteDraftStore::discard(const std::string &name)
+void SqliteDraftStore::discard(const DraftEntry &draft)
 {
-    if (!DraftFolder::isDraftName(name) || !m_folder.isThere(name))
+    if (!DraftFolder::isDraftName(draft.name) || !m_folder.isThere(draft.name))
         return;
-    if (auto lock = lockAlone(m_folder.lockOf(name))) {
-        m_folder.remove(name);
+    auto lock = lockAlone(m_folder.lockOf(draft.name));
+    if (lock && isAsFound(draft)) {
+        m_folder.remove(draft.name);
         lock->remove();
+    }
+}
+
+bool SqliteDraftStore::isAsFound(const DraftEntry &draft) const
+{
+    if (!m_folder.isThere(draft.name) || !m_folder.isFileOfOurs(draft.name))
+        return false;
+    try {
+        const SqliteHandle database = openDraftFile(m_folder.pathOf(draft.name));
+        return readDraftMark(database.get()).head == draft.head;
+    } catch (const SqliteFailure &) {
+        return false;
     }
 }
 

@@ -31,7 +31,7 @@ public:
     DraftsFound look() override;
     void write(const DraftHead &head, const DraftTextSource &texts) override;
     TakeEnd takeOver(const std::string &name, Draft &draft) override;
-    void discard(const std::string &name) override;
+    void discard(const DraftEntry &draft) override;
     void leave() override { m_own.reset(); }
     void drop() override;
     void finish() override;
@@ -51,6 +51,7 @@ private:
     Sight sightOf(const std::string &name) const;
     std::vector<Sight> sightsOf(const std::vector<std::string> &names) const;
     bool putAside(const std::string &name) const;
+    bool isAsFound(const DraftEntry &draft) const;
     void removeOldest(std::vector<Sight> &sights) const;
     void keepLatest();
     std::optional<Draft> readUnlocked(const std::string &name, bool withTexts, int &putAside) const;

@@ -74,9 +74,9 @@ public:
         draft = {{7, 1, "EL-1"}, {{0, "box", "text"}}};
         return TakeEnd::Taken;
     }
-    void discard(const std::string &name) override
+    void discard(const DraftEntry &draft) override
     {
-        m_notes->add("discard " + name);
+        m_notes->add("discard " + draft.name);
         failIfWanted();
     }
     void leave() override { m_notes->add("leave"); }
@@ -180,7 +180,7 @@ TEST_F(DraftKeeperTest, whatWasAskedIsDoneInItsOrder)
     keeper->leave();
     keeper->keep(snapshot("d"));
     keeper->drop();
-    keeper->discard("one");
+    keeper->discard({"one", {}});
     notes->hold(false);
     EXPECT_TRUE(keeper->flush(10s));
     const std::string front = "write 1000 page 0 EL-1 0:box=";
@@ -237,7 +237,7 @@ TEST_F(DraftKeeperTest, failureOfAnythingButKeepingIsNoTrouble)
 {
     notes->failure = "/f: disk is gone";
     keeper->look([](const DraftsFound &) {});
-    keeper->discard("one");
+    keeper->discard({"one", {}});
     keeper->finish();
     obey();
     EXPECT_EQ(troubles, std::vector<std::string>());

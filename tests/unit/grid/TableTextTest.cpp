@@ -102,6 +102,18 @@ TEST(TableText, aMillionValuesAreRead)
     EXPECT_EQ(table.values(3, 5), 108.5);
 }
 
+TEST(TableText, numberedLineThatLacksAValueIsRefusedFarFromTheGuess)
+{
+    std::string text = "No. Gamma C0 C90\n";
+    for (int line = 1; line <= 400; ++line)
+        text += std::to_string(line) + " " + std::to_string(line / 4) + "." + std::to_string(line % 4 * 25) + " 10" +
+                (line == 350 ? "\n" : " 11\n");
+    const auto table = readTable(text, guessTable(text));
+    ASSERT_TRUE(std::holds_alternative<TableFault>(table));
+    EXPECT_EQ(std::get<TableFault>(table).text,
+              "Line 351: 2 cells where the lines above have 3. Read before it: 349 lines of 2 values.");
+}
+
 TEST(TableText, oneLineHasNoMoreValuesThanThereAreAngles)
 {
     const std::string oneLine = [] {
@@ -153,7 +165,8 @@ TEST(TableText, takesTimeInProportion)
             readTable(text, reading);
         }
     };
-    for (const char *part : {"1,2\t3 4\n", "\"x\"\"", "\"", "\"\",", ",,,,,,,,", "a b\n", "\n", "     \t", "\r\"a\n"})
+    for (const char *part :
+         {"1,2\t3 4\n", "\"x\"\"", "\"", "\"\",", ",,,,,,,,", "a b\n", "\n", "     \t", "\r\"a\n", "1 cd "})
         EXPECT_LT(test::growth(part, 500, read), test::kMostGrowth) << part;
 }
 
