@@ -15,7 +15,7 @@ namespace penwright::test {
 template <typename Condition>
 bool spinUntil(Condition condition)
 {
-    return QTest::qWaitFor(condition, 10000);
+    return QTest::qWaitFor(condition, 60'000);
 }
 
 /// Runs `act` once a modal dialog is on the screen; takes the dialog away, as a failure, when it outlives that.
