@@ -143,9 +143,11 @@ void WizardDrafts::keepIfChanged()
 /// another one. Where nothing has been typed since a finished file, offers what any start does.
 void WizardDrafts::leave()
 {
-    if (!m_isTyped && !m_isReplayDue)
+    if (m_isReplayDue)
+        return;
+    if (!m_isTyped)
         return look();
-    if (!m_isTyped || m_isReplayDue || !m_window.page(kCandelaPage).losesByStart())
+    if (!m_window.page(kCandelaPage).losesByStart())
         return;
     keep();
     m_isTyped = false;

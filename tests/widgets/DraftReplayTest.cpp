@@ -24,14 +24,7 @@ protected:
         fillPagesBefore(kCandelaPage);
         fillPageFive();
         PageText values = textsOf(window->page(kCandelaPage));
-        click("cmdBack50");
-        click("rdoB");
-        for (const char *list : {"phoCmbVert", "phoCmbHorz"}) {
-            find(list)->setFocus();
-            press(Qt::Key_Down);
-        }
-        click("cmdNext30");
-        EXPECT_EQ(shownPage(), kCandelaPage);
+        buildOtherTable();
         EXPECT_NE(textsOf(window->page(kCandelaPage)), values);
         press(Qt::Key_Z, Qt::ControlModifier);
         EXPECT_EQ(textsOf(window->page(kCandelaPage)), values);

@@ -184,14 +184,7 @@ TEST_F(StepsTest, bringBackTheTableOfOtherAnglesWithTheAnglesOfTheRecord)
     fillPageFive();
     const PageText filled = texts();
     const PhotometricRecord before = state.PhotFiles(1);
-    click("cmdBack50");
-    click("rdoB");
-    for (const char *list : {"phoCmbVert", "phoCmbHorz"}) {
-        find(list)->setFocus();
-        press(Qt::Key_Down);
-    }
-    click("cmdNext30");
-    ASSERT_EQ(shownPage(), kCandelaPage);
+    buildOtherTable();
     const PageText rebuilt = texts();
     EXPECT_NE(rebuilt, filled);
     EXPECT_FALSE(find("rtbHorz")->isVisible());

@@ -40,19 +40,6 @@ protected:
         EXPECT_EQ(list("phoGridHorz"), record.HorAngles);
     }
 
-    /// Chooses other angles on page 4 and goes on.
-    void buildOtherTable()
-    {
-        click("cmdBack50");
-        click("rdoB");
-        for (const char *box : {"phoCmbVert", "phoCmbHorz"}) {
-            find(box)->setFocus();
-            press(Qt::Key_Down);
-        }
-        click("cmdNext30");
-        ASSERT_EQ(shownPage(), kCandelaPage);
-    }
-
     /// Has the host send a table of other angles.
     void hostSends(const OneBased<float> &horizontal, const OneBased<float> &vertical)
     {

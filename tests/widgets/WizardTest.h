@@ -162,6 +162,19 @@ protected:
         }
     }
 
+    /// Goes back from page 5, chooses other angles on page 4 and comes to a table of those.
+    void buildOtherTable()
+    {
+        click("cmdBack50");
+        click("rdoB");
+        for (const char *box : {"phoCmbVert", "phoCmbHorz"}) {
+            find(box)->setFocus();
+            press(Qt::Key_Down);
+        }
+        click("cmdNext30");
+        ASSERT_EQ(shownPage(), kCandelaPage);
+    }
+
     /// Gives page 5, built from what fillPageFour chose, values that pass its checks.
     void fillPageFive()
     {
