@@ -113,6 +113,8 @@ protected:
                 ::kill(tool, SIGKILL);
         }
         m_killed = FileClock::now();
+        m_isOver = tool == 0;
+        EXPECT_TRUE(!m_isOver || writtenInThisWalk("walk/luminaire.ies") < m_killed) << "the tool went before its end";
         m_host->signal(SIGKILL);
         m_host->waitForEnd();
         EXPECT_TRUE(tool == 0 || waitUntil([&] { return !isRunning(tool); }, 20s)) << "an orphan stays behind";
@@ -133,18 +135,16 @@ protected:
     /// When all that belongs there stood on a page in this walk; never, where it did not.
     FileClock::time_point wholeSince(int page) const
     {
-        std::error_code missing;
-        const auto written =
-            std::filesystem::last_write_time(m_folder.file("walk/page-" + std::to_string(page + 1) + ".png"), missing);
-        return !missing && written > m_begun ? written : FileClock::time_point::max() - 1h;
+        return writtenInThisWalk("walk/page-" + std::to_string(page + 1) + ".png");
     }
     bool isWhole(int page) const { return wholeSince(page) < FileClock::now(); }
 
     /// Whether a page was whole two seconds before the kill.
     bool isDue(int page) const { return wholeSince(page) + 2s < m_killed; }
 
-    /// Whether the host has taken the finished file, so that there is nothing to be lost any more.
-    bool isFinished() const { return SqliteDraftStore(drafts()).look().last.has_value(); }
+    /// Whether the host has taken the finished file, so that there is nothing to be lost any more. A walk that is over
+    /// clears the folder of its drafts.
+    bool isFinished() const { return m_isOver || SqliteDraftStore(drafts()).look().last.has_value(); }
 
     /// Whether a text is one on the way to the one that stood at the end: of a table each cell, of a box its beginning,
     /// of options and lists an entry before it.
@@ -188,10 +188,19 @@ private:
 
     std::string temporary() const { return m_folder.file("tmp"); }
 
+    /// When this walk has written a file; never, where it has not.
+    FileClock::time_point writtenInThisWalk(const std::string &name) const
+    {
+        std::error_code missing;
+        const auto written = std::filesystem::last_write_time(m_folder.file(name), missing);
+        return !missing && written > m_begun ? written : FileClock::time_point::max() - 1h;
+    }
+
     ReadBackFolder m_folder;
     std::unique_ptr<Process> m_host;
     FileClock::time_point m_begun;
     FileClock::time_point m_killed;
+    bool m_isOver = false;
 };
 
 TEST_F(WalkKill, ofToolOrHostAtAnyMomentCostsTwoSecondsOfTypingAtMostAndNeverMakesAWrongValue)
