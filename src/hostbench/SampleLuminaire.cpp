@@ -65,7 +65,7 @@ PhotometricRecord sampleLuminaire()
                        "[LAMP] Two 54 W linear fluorescent lamps"};
     setTilt(record);
     record.NumLamps = 2;
-    record.LumensPerLamp = 4450;
+    record.LumensPerLamp = 5000;
     record.CandelaMultiplier = 1;
     record.UnitsType = kMeters;
     record.Width = 0.18F;

@@ -42,7 +42,7 @@ const std::string kKeywords =
 
 const std::string kFromShell =
     "File: new_file_1\n"
-    "Lamps: 2 of 4450 lumens, multiplier 1, ballast factor .95, 117.4 W\n"
+    "Lamps: 2 of 5000 lumens, multiplier 1, ballast factor .95, 117.4 W\n"
     "Type 1, units 2, opening .18 x 1.183 x .06\n"
     "Horizontal angles (count first): 5,0,22.5,45,67.5,90\n"
     "Candela values: 185\n" +
@@ -50,7 +50,7 @@ const std::string kFromShell =
 
 const std::string kFromPython =
     "File: new_file_1\n"
-    "Lamps: 2 of 4450 lumens, 117.4 W\n"
+    "Lamps: 2 of 5000 lumens, 117.4 W\n"
     "Tilt factors: [1.0, 0.985, 0.962, 0.94, 0.921, 0.905, 0.9]\n"
     "H 0: 37 values, the largest 2480.4\n"
     "H 22.5: 37 values, the largest 2480.4\n"
