@@ -118,6 +118,24 @@ OneBased<float> singlesOf(const AngleCells &cells)
 
 }  // namespace
 
+std::optional<DistributionFields> fieldsOf(const PhotometricRecord &record)
+{
+    const auto isList = [](const OneBased<float> &angles, int count) {
+        return count >= 1 && count <= angles.size() && count <= AngleList::kMostAngles;
+    };
+    if (!isList(record.VertAngles, record.NumVertAngles) || !isList(record.HorAngles, record.NumHorzAngles))
+        return std::nullopt;
+    return DistributionFields{record.PhotometricType == kTypeB ? kTypeB : kTypeC,
+                              cellsOf(record.VertAngles, record.NumVertAngles),
+                              cellsOf(record.HorAngles, record.NumHorzAngles)};
+}
+
+bool areSameDistribution(const DistributionFields &one, const DistributionFields &other)
+{
+    return one.photometricType == other.photometricType && areSameAngles(one.vertical, other.vertical) &&
+           areSameAngles(one.horizontal, other.horizontal);
+}
+
 void checkDistribution(const DistributionFields &fields, WarningList &dlgWarn)
 {
     if (!isAllocated(fields.vertical) || !isAllocated(fields.horizontal)) {

@@ -153,41 +153,29 @@ PageText DistributionPage::textOf(const DistributionFields &lists, bool evenIfSa
     return text;
 }
 
-/// The lists of the record, which page 5's table is of wherever that page has been left; nothing where there are none,
-/// or more angles than a list holds.
-std::optional<DistributionPage::TableLists> DistributionPage::tableLists() const
+/// The lists of the record, which page 5's table is of wherever that page has been left.
+std::optional<DistributionFields> DistributionPage::tableLists() const
 {
-    if (state().PhotFiles.empty())
-        return std::nullopt;
-    const PhotometricRecord &record = state().PhotFiles(1);
-    const auto isList = [](const OneBased<float> &angles, int count) {
-        return count >= 1 && count <= angles.size() && count <= AngleList::kMostAngles;
-    };
-    if (!isList(record.VertAngles, record.NumVertAngles) || !isList(record.HorAngles, record.NumHorzAngles))
-        return std::nullopt;
-    return TableLists{record.PhotometricType == kTypeB ? kTypeB : kTypeC,
-                      cellsOf(record.VertAngles, record.NumVertAngles),
-                      cellsOf(record.HorAngles, record.NumHorzAngles)};
+    return state().PhotFiles.empty() ? std::nullopt : fieldsOf(state().PhotFiles(1));
 }
 
 bool DistributionPage::isOf(const DistributionFields &lists) const
 {
-    return hasType() && photometricType() == lists.photometricType &&
-           areSameAngles(m_vertical->cells(), lists.vertical) && areSameAngles(m_horizontal->cells(), lists.horizontal);
+    return hasType() && areSameDistribution(readFields(), lists);
 }
 
 void DistributionPage::comeBackFrom(int)
 {
     const auto lists = tableLists();
-    if (lists && !steps().seek([&] { return isOf(lists->fields()); }))
-        showValue(textOf(lists->fields(), false), "New Table");
+    if (lists && !steps().seek([&] { return isOf(*lists); }))
+        showValue(textOf(*lists, false), "New Table");
 }
 
 PageValue DistributionPage::valueOnReturn() const
 {
     PageValue value = this->value();
     const auto lists = tableLists();
-    const PageText other = lists ? textOf(lists->fields(), false) : PageText();
+    const PageText other = lists ? textOf(*lists, false) : PageText();
     for (HeldText &held : value)
         if (const auto it = other.find(held.name); it != other.end())
             held.text = [text = it->second] { return text; };

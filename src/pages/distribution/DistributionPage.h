@@ -53,15 +53,6 @@ protected:
     void focusFault(const FaultPlace &place) override;
 
 private:
-    /// The type and the lists that a table is of.
-    struct TableLists {
-        std::int16_t type;
-        AngleCells vertical;
-        AngleCells horizontal;
-
-        DistributionFields fields() const { return {type, vertical, horizontal}; }
-    };
-
     void rdoC_Click();
     void rdoB_Click();
     void phoCmbVert_Change();
@@ -73,7 +64,7 @@ private:
     static void tellSign(AngleListBox &list, QLabel &hint, bool isPending);
     void resizeAngles(AngleListBox &list, AngleList &angles, AngleGrid &grid);
     std::int16_t photometricType() const;
-    std::optional<TableLists> tableLists() const;
+    std::optional<DistributionFields> tableLists() const;
     bool isOf(const DistributionFields &lists) const;
 
     std::unique_ptr<Ui::DistributionPage> m_form;

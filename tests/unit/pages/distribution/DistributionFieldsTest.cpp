@@ -248,5 +248,57 @@ TEST(DistributionStore, changesNothingWhenACellCannotBeConverted)
     EXPECT_EQ(record, before);
 }
 
+PhotometricRecord recordWith(std::int16_t type, const OneBased<float> &vertical, const OneBased<float> &horizontal)
+{
+    PhotometricRecord record;
+    record.PhotometricType = type;
+    record.NumVertAngles = static_cast<std::int16_t>(vertical.size());
+    record.NumHorzAngles = static_cast<std::int16_t>(horizontal.size());
+    record.VertAngles = vertical;
+    record.HorAngles = horizontal;
+    return record;
+}
+
+TEST(FieldsOfARecord, areItsTypeAndAsManyAnglesAsItCounts)
+{
+    PhotometricRecord record = recordWith(kTypeB, {-90, 0, 90}, {0, 90, 91});
+    record.NumHorzAngles = 2;
+    const auto fields = fieldsOf(record);
+    ASSERT_TRUE(fields);
+    EXPECT_EQ(fields->photometricType, kTypeB);
+    EXPECT_EQ(fields->vertical, (Cells{-90.0F, 0.0F, 90.0F}));
+    EXPECT_EQ(fields->horizontal, (Cells{0.0F, 90.0F}));
+}
+
+TEST(FieldsOfARecord, areOfTypeCWhereItIsNoneOfTheTwo)
+{
+    for (const std::int16_t type : {std::int16_t{0}, std::int16_t{3}, kTypeC})
+        EXPECT_EQ(fieldsOf(recordWith(type, {0, 90}, {0})).value().photometricType, kTypeC) << type;
+}
+
+TEST(FieldsOfARecord, areNoneWithoutAListThatThePageCanShow)
+{
+    const OneBased<float> most(AngleList::kMostAngles);
+    EXPECT_TRUE(fieldsOf(recordWith(kTypeC, most, {0})));
+    EXPECT_FALSE(fieldsOf(recordWith(kTypeC, OneBased<float>(AngleList::kMostAngles + 1), {0})));
+    EXPECT_FALSE(fieldsOf(recordWith(kTypeC, {0, 90}, OneBased<float>(AngleList::kMostAngles + 1))));
+    EXPECT_FALSE(fieldsOf(recordWith(kTypeC, {}, {0})));
+    EXPECT_FALSE(fieldsOf(recordWith(kTypeC, {0, 90}, {})));
+    PhotometricRecord lacking = recordWith(kTypeC, {0, 90}, {0});
+    lacking.NumVertAngles = 3;
+    EXPECT_FALSE(fieldsOf(lacking));
+    lacking.NumVertAngles = -1;
+    EXPECT_FALSE(fieldsOf(lacking));
+}
+
+TEST(TwoDistributions, areTheSameByTypeAndByTheAnglesAsSingles)
+{
+    const DistributionFields one{kTypeC, {"0", 45.0F, "9e1"}, {"0"}};
+    EXPECT_TRUE(areSameDistribution(one, {kTypeC, {0.0F, "45.00000001", 90.0F}, {" 0.0"}}));
+    EXPECT_FALSE(areSameDistribution(one, {kTypeB, one.vertical, one.horizontal}));
+    EXPECT_FALSE(areSameDistribution(one, {kTypeC, {"0", "45", "91"}, one.horizontal}));
+    EXPECT_FALSE(areSameDistribution(one, {kTypeC, one.vertical, {"0", "90"}}));
+}
+
 }  // namespace
 }  // namespace penwright::test
