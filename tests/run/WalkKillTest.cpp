@@ -147,13 +147,14 @@ protected:
     bool isFinished() const { return m_isOver || SqliteDraftStore(drafts()).look().last.has_value(); }
 
     /// Whether a text is one on the way to the one that stood at the end: of a table each cell, of a box its beginning,
-    /// of options and lists an entry before it.
+    /// of options and lists an entry before it, of the height what a flat shape before the chosen one writes there.
     bool isOnTheWay(const std::pair<int, std::string> &place, const std::string &text) const
     {
         const auto whole = m_whole.find(place);
         if (whole == m_whole.end())
             return place.second.ends_with(".editor");
-        if (whole->second.starts_with(text) || std::set<std::string>{"-1", "0", "1", "2"}.contains(text))
+        if (whole->second.starts_with(text) || std::set<std::string>{"-1", "0", "1", "2"}.contains(text) ||
+            (place.second == "txtHeight" && text == " 0"))
             return true;
         std::set<std::string> known = cellsOf(whole->second);
         known.insert({"", " ", "0"});
