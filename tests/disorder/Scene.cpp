@@ -62,12 +62,18 @@ void Scene::follow()
                          [this] { m_isTyped = m_isTyped || window->shownPage() < kPageCount; });
     QObject::connect(window.get(), &WizardWindow::fileTaken, window.get(), [this] { m_isTyped = false; });
     QObject::connect(window.get(), &WizardWindow::cancelled, window.get(), [this] { m_isTyped = false; });
+    // A start that empties a table leaves the draft to a later run.
+    QObject::connect(window.get(), &WizardWindow::startingAnew, window.get(),
+                     [this] { m_isTyped = m_isTyped && !window->page(kCandelaPage).losesByStart(); });
     QObject::connect(window->findChild<QAbstractButton *>("draftTakeOver"), &QAbstractButton::clicked, window.get(),
                      [this] { hasTakenOver = true; });
     QObject::connect(&closing, &Closing::begun, window.get(), [this] {
         lastWords = LastWords{{}, m_isTyped};
-        for (int page = 0; page < kFinishPage; ++page)
-            lastWords->pages[static_cast<std::size_t>(page)] = textsOf(window->page(page));
+        for (int page = 0; page < kFinishPage; ++page) {
+            const PageFrame &frame = window->page(page);
+            const PageValue value = page < window->shownPage() ? frame.valueOnReturn() : frame.value();
+            lastWords->pages[static_cast<std::size_t>(page)] = textsOf(value);
+        }
     });
 }
 

@@ -7,13 +7,17 @@
 
 namespace penwright::test {
 
-/// What stands on a page, made into texts.
-inline PageText textsOf(const PageFrame &page)
+/// What a page holds, made into texts.
+inline PageText textsOf(const PageValue &value)
 {
     PageText texts;
-    for (const HeldText &held : page.value())
+    for (const HeldText &held : value)
         texts.emplace(held.name, held.text());
     return texts;
+}
+inline PageText textsOf(const PageFrame &page)
+{
+    return textsOf(page.value());
 }
 
 }  // namespace penwright::test
