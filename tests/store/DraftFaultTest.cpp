@@ -271,6 +271,22 @@ TEST_F(DraftFaultTest, draftThatMayNotGrowStaysWhatItWas)
     EXPECT_EQ(offered(), "before\nsound\n");
 }
 
+TEST_F(DraftFaultTest, draftThatIsLockedIsAnErrorUntilTheLockHasGone)
+{
+    SqliteDraftStore run(drafts);
+    write(run, "before");
+    const std::vector<std::string> names = files();
+    const std::string own = *std::find_if(names.begin(), names.end(), [&](const std::string &name) {
+        return name.ends_with(".sqlite3") && Peer(pathOf(name)).sql("SELECT about FROM draft") == "before\n";
+    });
+    Peer other(pathOf(own));
+    other.sql("BEGIN IMMEDIATE");
+    EXPECT_EQ(errorOf([&] { write(run, "after"); }), "55\n" + pathOf(own) + ": database is locked");
+    other.sql("COMMIT");
+    write(run, "after the lock");
+    EXPECT_EQ(other.sql("SELECT about FROM draft"), "after the lock\n");
+}
+
 TEST_F(DraftFaultTest, readOnlyFolderIsAnErrorOnlyForWhoWrites)
 {
     for (std::filesystem::path up = drafts; up != folder.path().parent_path(); up = up.parent_path())
