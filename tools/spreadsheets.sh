@@ -41,13 +41,19 @@ to_wizard() {
     until_it has_keyboard
 }
 
+# office OPTION...: the user's own office may be running; its settings stay untouched. The first run of a new user makes
+# his settings and ends.
+office() {
+    set -- /usr/lib/libreoffice/program/soffice.bin "-env:UserInstallation=file://$HOME/office" "$@"
+    [ -d "$HOME/office" ] || "$1" "$2" --headless --terminate_after_init || true
+    exec "$@"
+}
+
 # open_sheet TABLE: shows a table in the spreadsheet.
 open_sheet() {
     case "$program" in
         localc)
-            # The user's own office may be running; its settings stay untouched.
-            /usr/lib/libreoffice/program/soffice.bin "-env:UserInstallation=file://$HOME/office" --norestore --nologo \
-                --calc --infilter=CSV:44,34,76,1,,1033 "$work/$1.csv" &
+            office --norestore --nologo --calc --infilter=CSV:44,34,76,1,,1033 "$work/$1.csv" &
             ;;
         *) "$program" "$work/$1.csv" & ;;
     esac >>"$work/$program.log" 2>&1
