@@ -140,6 +140,8 @@ TEST_F(PlotSteps, aPlaceStaysInAnotherPictureThatHasIt)
         "", kTypeB, {0}, {0, 90}, [](double, double) { return 5; }, 0, 0));
     EXPECT_FALSE(readingAgain(shorter, *reading));
     EXPECT_EQ(readingText(*readingAfter(shorter, reading, PlotStep::Next)), "H 0, V 0: 5 cd");
+    reading->place = readingsOf(shorter, false).size();
+    EXPECT_EQ(readingText(*readingAfter(shorter, reading, PlotStep::Last)), "H 0, V 0: 5 cd");
 }
 
 }  // namespace
