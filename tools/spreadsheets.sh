@@ -30,13 +30,30 @@ window_with() {
     sleep 1
 }
 
+# has_keyboard: whether what is typed goes into the wizard, in its host's window.
+has_keyboard() {
+    case "$(xdotool getwindowfocus -f getwindowname 2>/dev/null)" in *' of 6) '*) ;; *) return 1 ;; esac
+}
+
+# to_wizard: turns to the wizard.
+to_wizard() {
+    window_with '^Photometric Toolbox'
+    until_it has_keyboard
+}
+
+# office OPTION...: the user's own office may be running; its settings stay untouched. The first run of a new user makes
+# his settings and ends.
+office() {
+    set -- /usr/lib/libreoffice/program/soffice.bin "-env:UserInstallation=file://$HOME/office" "$@"
+    [ -d "$HOME/office" ] || "$1" "$2" --headless --terminate_after_init || true
+    exec "$@"
+}
+
 # open_sheet TABLE: shows a table in the spreadsheet.
 open_sheet() {
     case "$program" in
         localc)
-            # The user's own office may be running; its settings stay untouched.
-            /usr/lib/libreoffice/program/soffice.bin "-env:UserInstallation=file://$HOME/office" --norestore --nologo \
-                --calc --infilter=CSV:44,34,76,1,,1033 "$work/$1.csv" &
+            office --norestore --nologo --calc --infilter=CSV:44,34,76,1,,1033 "$work/$1.csv" &
             ;;
         *) "$program" "$work/$1.csv" & ;;
     esac >>"$work/$program.log" 2>&1
@@ -67,7 +84,7 @@ there_and_back() {
     open_sheet "$table"
     copy_sheet
     if expect "$table" "the spreadsheet copies"; then
-        window_with '^Photometric Toolbox'
+        to_wizard
         keys ctrl+v
         sleep 1
         forget
@@ -87,7 +104,7 @@ there_and_back() {
     fi
     kill -KILL "$sheet"
     wait "$sheet" 2>/dev/null || true
-    window_with '^Photometric Toolbox'
+    to_wizard
 }
 
 # page NUMBER: turns to the wizard's next page.
@@ -110,10 +127,10 @@ walk() {
     page 4
     keys space Tab
     xdotool type --delay 20 "$(printf '4\t')"
-    there_and_back vertical ctrl+Home ctrl+shift+Right ctrl+c
+    there_and_back vertical ctrl+a ctrl+c
     keys ctrl+Tab
     xdotool type --delay 20 "$(printf '3\t')"
-    there_and_back horizontal ctrl+Home ctrl+shift+Right ctrl+c
+    there_and_back horizontal ctrl+a ctrl+c
     page 5
     there_and_back candelas ctrl+c
 }

@@ -17,9 +17,10 @@ struct ErrnoRow {
 };
 
 constexpr ErrnoRow kErrnoRows[]{
-    {ENAMETOOLONG, 52}, {EISDIR, 52}, {EINVAL, 52},  {ETXTBSY, 55},   {EIO, 57},    {ENOSPC, 61},
-    {EDQUOT, 61},       {EMFILE, 67}, {ENODEV, 68},  {ENXIO, 68},     {EACCES, 70}, {EPERM, 70},
-    {EROFS, 75},        {ENOENT, 76}, {ENOTDIR, 76}, {ENOMEM, 31001},
+    {ENAMETOOLONG, 52}, {EISDIR, 52},     {EINVAL, 52},    {ESTALE, 53},   {ETXTBSY, 55}, {EIO, 57},     {EEXIST, 58},
+    {ENOSPC, 61},       {EDQUOT, 61},     {EMFILE, 67},    {ENFILE, 67},   {ENODEV, 68},  {ENXIO, 68},   {EACCES, 70},
+    {EPERM, 70},        {EBUSY, 71},      {ENOMEDIUM, 71}, {EROFS, 75},    {ENOENT, 76},  {ENOTDIR, 76}, {ENOLINK, 440},
+    {ENOTCONN, 440},    {EHOSTDOWN, 440}, {ENOMEM, 31001}, {EBADF, 31036},
 };
 
 /// Number and description of an error that no row names: 75, path/file access error, would claim too much.

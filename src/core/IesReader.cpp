@@ -88,7 +88,7 @@ void IesFileReading::readHeader()
             readVersion(said, begin);
         if (m_content.record.Keywords.size() == kMost)
             return refuse(begin, "no line before this one begins with TILT=; it is no IES file.");
-        m_content.record.Keywords.append(utf8Text(line));
+        m_content.record.Keywords.append(utf8Part(line));
     }
     refuse(m_text.find_last_not_of(" \r\n") + 1,
            "the file ends without a line that begins with TILT=; it is no IES file, or its end is missing.");
@@ -112,7 +112,7 @@ void IesFileReading::readTiltLine(std::string_view what, std::size_t place)
     if (what.empty())
         refuse(place, "NONE, INCLUDE or the name of a file belongs behind TILT=.");
     else if (word != "INCLUDE" && word != "NONE")
-        m_content.tiltFile = utf8Text(what);
+        m_content.tiltFile = utf8Part(what);
 }
 
 void IesFileReading::readNumbers()
@@ -177,7 +177,7 @@ std::variant<IesContent, IesFault> readIesFile(std::string_view bytes, const std
 {
     if (hasUtf16Mark(bytes)) {
         const std::string text = utf8Text(bytes);
-        return IesFileReading(withoutEndMark(text), goOn).run();
+        return IesFileReading(withoutEndMark(withoutUtf8Mark(text)), goOn).run();
     }
     return IesFileReading(withoutEndMark(withoutUtf8Mark(bytes)), goOn).run();
 }

@@ -118,15 +118,21 @@ bool hasUtf16Mark(std::string_view bytes)
 
 std::string_view withoutUtf8Mark(std::string_view bytes)
 {
-    return bytes.starts_with(kUtf8Mark) ? bytes.substr(kUtf8Mark.size()) : bytes;
+    while (bytes.starts_with(kUtf8Mark))
+        bytes.remove_prefix(kUtf8Mark.size());
+    return bytes;
+}
+
+std::string utf8Part(std::string_view bytes)
+{
+    return isUtf8(bytes) ? std::string(bytes) : fromLatin1(bytes);
 }
 
 std::string utf8Text(std::string_view bytes)
 {
     if (hasUtf16Mark(bytes))
         return fromUtf16(bytes);
-    bytes = withoutUtf8Mark(bytes);
-    return isUtf8(bytes) ? std::string(bytes) : fromLatin1(bytes);
+    return utf8Part(withoutUtf8Mark(bytes));
 }
 
 std::string shownWord(std::string_view bytes)

@@ -261,6 +261,7 @@ TEST_F(DraftFaultTest, draftThatMayNotGrowStaysWhatItWas)
                   const rlimit limit{300'000, 300'000};
                   setrlimit(RLIMIT_FSIZE, &limit);
                   SqliteDraftStore small(drafts);
+                  small.look();  // its draft is later than what it has seen
                   write(small, "before");
                   return errorOf([&] {
                              write(small, "after", {{4, "cdaGridCd", std::string(1'000'000, '7')}});
@@ -269,6 +270,22 @@ TEST_F(DraftFaultTest, draftThatMayNotGrowStaysWhatItWas)
               }),
               "57\n");
     EXPECT_EQ(offered(), "before\nsound\n");
+}
+
+TEST_F(DraftFaultTest, draftThatIsLockedIsAnErrorUntilTheLockHasGone)
+{
+    SqliteDraftStore run(drafts);
+    write(run, "before");
+    const std::vector<std::string> names = files();
+    const std::string own = *std::find_if(names.begin(), names.end(), [&](const std::string &name) {
+        return name.ends_with(".sqlite3") && Peer(pathOf(name)).sql("SELECT about FROM draft") == "before\n";
+    });
+    Peer other(pathOf(own));
+    other.sql("BEGIN IMMEDIATE");
+    EXPECT_EQ(errorOf([&] { write(run, "after"); }), "55\n" + pathOf(own) + ": database is locked");
+    other.sql("COMMIT");
+    write(run, "after the lock");
+    EXPECT_EQ(other.sql("SELECT about FROM draft"), "after the lock\n");
 }
 
 TEST_F(DraftFaultTest, readOnlyFolderIsAnErrorOnlyForWhoWrites)

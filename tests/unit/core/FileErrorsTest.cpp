@@ -62,22 +62,11 @@ class Errno : public testing::TestWithParam<ErrnoCase> {};
 
 INSTANTIATE_TEST_SUITE_P(Table, Errno,
                          testing::ValuesIn(std::vector<ErrnoCase>{
-                             {ENOENT, 76},
-                             {ENOTDIR, 76},
-                             {EACCES, 70},
-                             {EPERM, 70},
-                             {EROFS, 75},
-                             {ENOSPC, 61},
-                             {EDQUOT, 61},
-                             {EIO, 57},
-                             {EISDIR, 52},
-                             {ENAMETOOLONG, 52},
-                             {EINVAL, 52},
-                             {EMFILE, 67},
-                             {ENODEV, 68},
-                             {ENXIO, 68},
-                             {ETXTBSY, 55},
-                             {ENOMEM, 31001},
+                             {ENOENT, 76},    {ENOTDIR, 76},   {EACCES, 70},   {EPERM, 70},      {EROFS, 75},
+                             {ENOSPC, 61},    {EDQUOT, 61},    {EIO, 57},      {EISDIR, 52},     {ENAMETOOLONG, 52},
+                             {EINVAL, 52},    {EMFILE, 67},    {ENODEV, 68},   {ENXIO, 68},      {ETXTBSY, 55},
+                             {ENOMEM, 31001}, {ESTALE, 53},    {EEXIST, 58},   {ENFILE, 67},     {EBUSY, 71},
+                             {ENOMEDIUM, 71}, {ENOTCONN, 440}, {ENOLINK, 440}, {EHOSTDOWN, 440}, {EBADF, 31036},
                          }));
 
 TEST_P(Errno, hasItsNumber)

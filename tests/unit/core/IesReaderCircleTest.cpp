@@ -78,6 +78,17 @@ TEST(IesReaderCircle, theStoresRandomRecordsComeBack)
     EXPECT_GT(readBack(next, 400), 240);
 }
 
+// A line that were read as UTF-16 for its first two bytes would be another one each time that its file is written.
+TEST(IesReaderCircle, whatIsAMarkAtTheBeginningOfAFileIsTextWithinIt)
+{
+    const std::string marks = "\xFF\xFE\xFF\xFE[A] 1\r\n\xEF\xBB\xBF[B] 2\r\nTILT=INCLUDE";
+    const PhotometricRecord read = iesContentOf(test::with(test::kWholeFile, "TILT=INCLUDE", marks)).record;
+    const int last = static_cast<int>(read.Keywords.size());
+    EXPECT_EQ(read.Keywords(last - 1), "\xC3\xBF\xC3\xBE\xC3\xBF\xC3\xBE[A] 1");
+    EXPECT_EQ(read.Keywords(last), "\xEF\xBB\xBF[B] 2");
+    EXPECT_EQ(iesContentOf(iesFileText(read)).record, read);
+}
+
 TEST(IesReaderCircle, aTableThatFoldsBetweenBlanksComesBack)
 {
     PhotometricRecord record = test::smallRecord();

@@ -89,6 +89,19 @@ TEST_F(LeftOverFiles, nameInUseIsPassedOver)
     EXPECT_EQ(contentOf(inUse), "half");
 }
 
+// Somebody who can write into the folder may have put it there to have his file written, or another one.
+TEST_F(LeftOverFiles, linkInTheNameOfATemporaryFileIsNotFollowed)
+{
+    const std::string victim = make("victim", "kept");
+    fs::create_symlink("victim", folder.path() / temporaryOf(getpid()));
+    fs::create_symlink("nowhere", folder.path() / temporaryOf(getpid(), 2));
+    EXPECT_EQ(files.replace(folder.file("a.ies"), "text"), 0);
+    EXPECT_EQ(contentOf(folder.file("a.ies")), "text");
+    EXPECT_FALSE(fs::is_symlink(folder.file("a.ies")));
+    EXPECT_EQ(contentOf(victim), "kept");
+    EXPECT_FALSE(isThere("nowhere"));
+}
+
 TEST_F(LeftOverFiles, whatIsNotOursByNameOrKindStays)
 {
     for (const char *name :

@@ -78,6 +78,18 @@ TEST(PlotReading, inTheLinearShapeIsTheNearestToo)
     EXPECT_EQ(at(lobeCurves(60, PlotShape::Linear), 5 * 270, -495, scales), "H 270, V 60: 500 cd");
 }
 
+TEST(PlotReading, isOfASlopingLineWhoseCornersAreFartherThanTheOtherCurve)
+{
+    // The plane's last piece falls from (850, -150) to (900, -100), where the cone lies level. The pointer is 3.5 from
+    // that piece, 32 from its nearer end, and 20 from the cone.
+    const PlotTableCase table = plotTable(
+        "", kTypeC, {0, 90}, {0, 90}, [](double, double v) { return v == 0 ? 1000 : 100; }, 0, 90);
+    const PlotCurves curves = plotCurves(table.record, table.cells, 0, 90, PlotShape::Linear);
+    const PlotScales scales{{{0, 0}, 10, 1}, {{0, 0}, 5, 1}};
+    EXPECT_EQ(at(curves, 875, -120, scales), "H 0, V 90: 100 cd");
+    EXPECT_EQ(at(curves, 875, -105, scales), "H 180, V 90: 100 cd");
+}
+
 class PlotSteps : public testing::Test {
 protected:
     std::string step(PlotStep step)
@@ -128,6 +140,8 @@ TEST_F(PlotSteps, aPlaceStaysInAnotherPictureThatHasIt)
         "", kTypeB, {0}, {0, 90}, [](double, double) { return 5; }, 0, 0));
     EXPECT_FALSE(readingAgain(shorter, *reading));
     EXPECT_EQ(readingText(*readingAfter(shorter, reading, PlotStep::Next)), "H 0, V 0: 5 cd");
+    reading->place = readingsOf(shorter, false).size();
+    EXPECT_EQ(readingText(*readingAfter(shorter, reading, PlotStep::Last)), "H 0, V 0: 5 cd");
 }
 
 }  // namespace

@@ -35,6 +35,30 @@ std::string shown(const AngleCells &cells)
     return text;
 }
 
+AngleCells cells(const std::vector<AngleCell> &values)
+{
+    AngleCells list;
+    for (const AngleCell &value : values)
+        list.append(value);
+    return list;
+}
+
+TEST(SameAngles, areComparedAsSinglesWhetherTypedOrPredefined)
+{
+    EXPECT_TRUE(areSameAngles(cells({0.0F, std::string("22.50")}), cells({std::string("0"), 22.5F})));
+    EXPECT_TRUE(areSameAngles(cells({std::string("0.1")}), cells({0.1F})));
+    EXPECT_TRUE(areSameAngles({}, {}));
+}
+
+TEST(SameAngles, areNotWhereOneDiffersOrIsNoneOrIsLacking)
+{
+    EXPECT_FALSE(areSameAngles(cells({0.0F, 45.0F}), cells({0.0F, 90.0F})));
+    EXPECT_FALSE(areSameAngles(cells({0.0F, 45.0F}), cells({0.0F})));
+    EXPECT_FALSE(areSameAngles(cells({0.0F}), cells({0.0F, 45.0F})));
+    EXPECT_FALSE(areSameAngles(cells({std::string(kBlankAngle)}), cells({std::string(kBlankAngle)})));
+    EXPECT_FALSE(areSameAngles(cells({0.0F}), cells({std::string("x")})));
+}
+
 struct CountCase {
     std::string text;
     Resizing done;
