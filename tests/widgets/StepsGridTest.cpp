@@ -384,6 +384,29 @@ TEST_F(StepsTest, areNoneForAnEditorThatIsLeftAsItWasOpened)
     EXPECT_EQ(undoName(), "Undo Typing");
 }
 
+TEST_F(StepsTest, bringBackTheDefaultsThatWereSavedOverWithALineOfIt)
+{
+    const auto saved = [this] { return store.read("Lumentor32", "Tool_DefaultKeywords", "B[TEST]", "(none)"); };
+    const auto note = [this] { return find<QLabel>("note2")->text().toStdString(); };
+    window->ShowPage(kKeywordPage);
+    typeCell("keyGrid", 2, 1, "No. 7");
+    click("cmdSaveDefaults");
+    typeCell("keyGrid", 2, 1, "No. 8");
+    click("cmdSaveDefaults");
+    EXPECT_EQ(undoName(), "Undo Save As Defaults");
+    EXPECT_EQ(saved(), "No. 8");
+    undo();
+    EXPECT_EQ(saved(), "No. 7");
+    EXPECT_EQ(note(), "The former defaults are back.");
+    redo();
+    EXPECT_EQ(saved(), "No. 8");
+    EXPECT_EQ(note(), "");
+    for (int step = 0; step < 3; ++step)
+        undo();
+    EXPECT_EQ(saved(), "(none)");
+    EXPECT_EQ(shown("keyGrid", 2, 1), "No. 7");
+}
+
 TEST_F(StepsTest, takeAWordForACountAsOneGoOfTyping)
 {
     window->ShowPage(kDistributionPage);
