@@ -14,6 +14,7 @@
 
 #include "controls/FieldFocus.h"
 #include "controls/ScreenReader.h"
+#include "grid/GridView.h"
 #include "hostlink/HostPost.h"
 #include "platform/Dialogs.h"
 #include "platform/EventWait.h"
@@ -205,6 +206,9 @@ bool WizardWindow::isBusy() const
 
 void WizardWindow::StartWizard()
 {
+    if (m_shownPage < kPageCount)
+        for (GridView *grid : page(m_shownPage).fields().grids())
+            grid->commitEditIfValid();
     if (m_hasStarted)
         emit startingAnew();
     for (PageFrame *page : m_pages) {

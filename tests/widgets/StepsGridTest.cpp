@@ -384,6 +384,15 @@ TEST_F(StepsTest, areNoneForAnEditorThatIsLeftAsItWasOpened)
     EXPECT_EQ(undoName(), "Undo Typing");
 }
 
+TEST_F(StepsTest, takeWhatIsBeingTypedWhenTheWizardStartsAgain)
+{
+    window->ShowPage(kKeywordPage);
+    grid("keyGrid").goTo(2, 1);
+    typeText("No. 7");
+    window->StartWizard();
+    EXPECT_EQ(shown("keyGrid", 2, 1), "No. 7");
+}
+
 TEST_F(StepsTest, bringBackTheDefaultsThatWereSavedOverWithALineOfIt)
 {
     const auto saved = [this] { return store.read("Lumentor32", "Tool_DefaultKeywords", "B[TEST]", "(none)"); };
