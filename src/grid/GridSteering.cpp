@@ -37,9 +37,7 @@ KeyUse GridSteering::gridKey(const QKeyEvent &event)
 
 KeyUse GridSteering::editorKey(const QKeyEvent &event)
 {
-    if (event.key() == Qt::Key_Escape) {
-        m_editor.drop();
-    } else if (isEnter(event)) {
+    if (isEnter(event)) {
         if (m_editor.commit())
             walk(GridKey::Enter, isForward(event));
     } else if (isTab(event)) {

@@ -234,6 +234,15 @@ void GridView::dropEdit()
     m_editor->drop();
 }
 
+void GridView::giveUpEdit()
+{
+    const GridText cell = halfTyped().value();
+    const bool isTyped = cell.text != currentIndex().data(Qt::EditRole).toString().toStdString();
+    dropEdit();
+    if (isTyped)
+        emit givenUp(cell);
+}
+
 bool GridView::edit(const QModelIndex &index, EditTrigger trigger, QEvent *event)
 {
     const bool isDone = QTableView::edit(index, trigger, event);
@@ -281,6 +290,8 @@ bool GridView::eventFilter(QObject *watched, QEvent *event)
     auto &key = *static_cast<QKeyEvent *>(event);
     if (asksForTable(key))
         return askForTable(), true;
+    if (key.key() == Qt::Key_Escape)
+        return giveUpEdit(), true;
     return follow(m_steering.editorKey(key), key) || QTableView::eventFilter(watched, event);
 }
 

@@ -97,6 +97,9 @@ signals:
     /// The text in an open editor has changed; no cell holds it yet.
     void halfTypedChanged();
 
+    /// A text that was typed into a cell's editor has been given up with Escape.
+    void givenUp(const penwright::GridText &cell);
+
     /// A new text has been written into one cell, by typing, clearing or pasting.
     void cellWritten(int row, int column);
 
@@ -136,6 +139,7 @@ protected slots:
 
 private:
     bool follow(KeyUse use, QKeyEvent &event);
+    void giveUpEdit();
     bool asksForTable(const QKeyEvent &event) const;
     void askForTable();
     void announceCurrent();

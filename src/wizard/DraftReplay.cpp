@@ -32,6 +32,7 @@ void DraftReplay::run(const Draft &draft)
 void DraftReplay::readPages(const Draft &draft)
 {
     m_waiting = {};
+    m_aside = {};
     m_halfTyped.clear();
     m_about = draft.head.about;
     for (const DraftText &held : draft.texts)

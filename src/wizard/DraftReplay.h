@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "draft/PageValue.h"
 #include "platform/DraftStore.h"
@@ -27,6 +28,9 @@ public:
     /// waits on.
     void fill(int page);
 
+    /// What waits is not filled in any more, until it is called again.
+    void setAside() { std::swap(m_waiting, m_aside); }
+
     /// What waits for a page waits no more: the user has put something else there.
     void giveUp(int page);
 
@@ -40,7 +44,10 @@ private:
     void readPages(const Draft &draft);
 
     WizardWindow &m_window;
-    std::array<std::optional<PageText>, kPageCount> m_waiting;
+    using Waiting = std::array<std::optional<PageText>, kPageCount>;
+
+    Waiting m_waiting;
+    Waiting m_aside;
     PageText m_halfTyped;  ///< on the page that was shown
     std::string m_about;
     bool m_hasRefused = false;  ///< a page could not hold what waited for it

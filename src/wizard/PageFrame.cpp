@@ -20,6 +20,7 @@
 #include "controls/ScreenReader.h"
 #include "grid/GridView.h"
 #include "platform/qt/QtText.h"
+#include "wizard/GivenUpTexts.h"
 #include "wizard/HandlerGuard.h"
 #include "wizard/PageSteps.h"
 #include "wizard/StepKeys.h"
@@ -190,7 +191,7 @@ void PageFrame::addButtons(const Handler &next, const Handler &back)
             emit changed();
         },
         [this] { return navigator().isBusy(); });
-    new StepKeys(*this, m_fields, *m_steps);
+    new StepKeys(*this, m_fields, *m_steps, *new GivenUpTexts(*this, m_fields, *m_steps));
     m_nextHandler = next;
     watchFields();
 }

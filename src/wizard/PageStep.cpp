@@ -70,8 +70,22 @@ PageStep::~PageStep()
         m_content->pair->sideOf(*this).step = nullptr;
 }
 
+std::shared_ptr<const bool> PageStep::stands() const
+{
+    if (!m_content->stands)
+        m_content->stands = std::make_shared<bool>(true);
+    return m_content->stands;
+}
+
+void PageStep::tellWhetherItStands(bool stands) const
+{
+    if (m_content->stands)
+        *m_content->stands = stands;
+}
+
 void PageStep::undo()
 {
+    tellWhetherItStands(false);
     if (m_content->change)
         m_content->change(true);
     for (const ChangedBox &changed : m_content->boxes)
@@ -85,6 +99,7 @@ void PageStep::redo()
 {
     if (std::exchange(m_isMade, false))
         return;
+    tellWhetherItStands(true);
     if (m_content->change)
         m_content->change(false);
     for (const ChangedBox &changed : m_content->boxes)

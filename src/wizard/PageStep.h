@@ -71,6 +71,9 @@ public:
     /// The pair that it is half of, if it is.
     const StepPair *pair() const { return m_content->pair.get(); }
 
+    /// Whether it is made, as long as it is asked; false while it is undone and once it is gone with that.
+    std::shared_ptr<const bool> stands() const;
+
     /// Whether it can be undone, or redone, on its own page.
     bool isInReach(bool isUndo) const;
 
@@ -83,11 +86,13 @@ private:
         std::vector<ChangedGrid> grids;
         std::function<void(bool isUndo)> change;  ///< beside them
         std::shared_ptr<StepPair> pair;
+        std::shared_ptr<bool> stands;  ///< where somebody has asked
         std::size_t bytes = 0;
         bool isForgotten = false;
     };
 
     void measure() const;
+    void tellWhetherItStands(bool stands) const;
     QWidget *changedBox() const;
     bool isOfCountTypedAgain() const;
 

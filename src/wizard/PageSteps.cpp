@@ -335,6 +335,11 @@ void PageSteps::pairLatest(PageSteps &other, bool isUndoneThere)
     other.showActions();
 }
 
+std::shared_ptr<const bool> PageSteps::latestStands() const
+{
+    return m_stack.canUndo() ? stepAt(m_stack.index() - 1)->stands() : nullptr;
+}
+
 const PageStep *PageSteps::stepAt(int index) const
 {
     return static_cast<const PageStep *>(m_stack.command(index));

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <vector>
 
 #include "wizard/PageStep.h"
@@ -63,6 +64,9 @@ public:
     /// Goes back or forth over steps of this page alone to the nearest state of which `isSought` says so, the present
     /// one first; false, and nothing has changed, where there is none.
     bool seek(const std::function<bool()> &isSought);
+
+    /// Whether the latest step is made, now and later on; none where there is no step.
+    std::shared_ptr<const bool> latestStands() const;
 
     /// Gives up all steps; what stands now is where undo ends.
     void forgetAll();

@@ -10,6 +10,7 @@
 
 #include "grid/GridCellEditor.h"
 #include "grid/GridView.h"
+#include "wizard/GivenUpTexts.h"
 #include "wizard/PageFields.h"
 #include "wizard/PageSteps.h"
 
@@ -30,8 +31,8 @@ StepKey stepKeyOf(const QKeyEvent &event)
 
 }  // namespace
 
-StepKeys::StepKeys(QWidget &page, const PageFields &fields, PageSteps &steps)
-    : QObject(&page), m_page(page), m_fields(fields), m_steps(steps)
+StepKeys::StepKeys(QWidget &page, const PageFields &fields, PageSteps &steps, const GivenUpTexts &givenUp)
+    : QObject(&page), m_page(page), m_fields(fields), m_steps(steps), m_givenUp(givenUp)
 {
     qApp->installEventFilter(this);
 }
@@ -60,7 +61,7 @@ bool StepKeys::press(const QWidget &widget, const QKeyEvent &event)
     if (key == StepKey::None)
         return false;
     const bool isUndo = key == StepKey::Undo;
-    if (const GridView *grid = gridOfEditor(widget))
+    if (const GridView *grid = gridOfEditor(widget); grid && !m_givenUp.isBackIn(*grid))
         isUndo ? grid->editor().line()->undo() : grid->editor().line()->redo();
     else
         isUndo ? m_steps.undo() : m_steps.redo();

@@ -77,6 +77,7 @@ WizardDrafts::WizardDrafts(WizardWindow &window, const Closing &closing, std::un
     connect(qApp, &QCoreApplication::aboutToQuit, this, &WizardDrafts::keepIfChanged);
     followWindow();
     m_window.page(kLampPage).addTopLine(*m_line);
+    connect(&m_window.page(kLampPage).steps(), &PageSteps::stepped, this, &WizardDrafts::followTakeOver);
     connect(m_line, &DraftLine::takeOverPressed, this, &WizardDrafts::takeOver);
     connect(m_line, &DraftLine::discardPressed, this, &WizardDrafts::discard);
     connect(m_line, &DraftLine::morePressed, this, &WizardDrafts::openList);
@@ -151,7 +152,7 @@ void WizardDrafts::leave()
         return;
     keep();
     m_isTyped = false;
-    m_hasTaken = false;
+    forgetTaken();
     m_keeper.leave();
     look();
 }
@@ -172,7 +173,7 @@ void WizardDrafts::finish()
 {
     keep();
     m_isTyped = false;
-    m_hasTaken = false;
+    forgetTaken();
     m_keeper.finish();
 }
 
@@ -207,6 +208,8 @@ void WizardDrafts::offer(const DraftsFound &found)
     m_found = found;
     m_offered = 0;
     forgetDiscarded();
+    if (m_hasTaken)
+        std::erase_if(m_found.free, [this](const DraftEntry &draft) { return draft.name == m_taken.name; });
     if (found.putAside > 0)
         tell(toQString(putAsideText(found.putAside)));
     showOffer();
@@ -245,7 +248,8 @@ void WizardDrafts::takeOver()
 {
     if (m_window.isBusy())
         return;
-    m_line->setEnabled(false);  // until there is an answer
+    m_window.page(kLampPage).focusFirstField();  // for what is typed meanwhile
+    m_line->setEnabled(false);                   // until there is an answer
     if (m_offered < m_found.free.size())
         takeOverDraft(m_found.free[m_offered].name);
     else
@@ -260,8 +264,10 @@ void WizardDrafts::takeOver()
 
 void WizardDrafts::takeOverDraft(const std::string &name)
 {
-    if (m_hasTaken)  // a second one, brought back by undo: the first stays a draft
+    if (m_hasTaken) {  // a second one, which undo has brought back: the first stays a draft
         m_keeper.leave();
+        forgetTaken();
+    }
     m_isReplayDue = true;
     m_keeper.takeOver(name, [this, name](const TakenDraft &taken) {
         std::erase_if(m_found.free, [&](const DraftEntry &draft) { return draft.name == name; });
@@ -274,8 +280,61 @@ void WizardDrafts::takeOverDraft(const std::string &name)
         }
         closeLine();
         m_hasTaken = true;
+        noteTakenOver(name, taken.draft);
         replay(taken.draft);
     });
+}
+
+void WizardDrafts::noteTakenOver(const std::string &name, const Draft &draft)
+{
+    m_taken = {.name = name, .head = draft.head, .wasTyped = m_isTyped};
+    for (const DraftText &text : draft.texts)
+        if (text.page == kLampPage)
+            m_taken.firstPage.emplace(text.name, text.text);
+}
+
+void WizardDrafts::followTakeOver()
+{
+    if (m_taken.isMade && *m_taken.isMade != m_hasTaken)
+        m_hasTaken ? giveBack() : takeBack();
+}
+
+/// Leaves the draft behind as it was taken over, with what has been done on the other pages since, and offers it again.
+void WizardDrafts::giveBack()
+{
+    DraftSnapshot taken = snapshot();
+    taken.page = m_taken.head.page;
+    if (taken.about.empty())
+        taken.about = m_taken.head.about;
+    for (HeldPage &page : taken.pages)
+        if (page.page == kLampPage && !page.value.empty())
+            page.value = asValue(m_taken.firstPage);
+    m_keeper.keep(std::move(taken));
+    m_keeper.leave();
+    m_replay.setAside();
+    m_hasTaken = false;
+    m_isTyped = m_taken.wasTyped;
+    if (!m_isTyped)
+        m_timer->stop();
+    look();
+}
+
+/// Goes on with the draft that was given back, unless another run has it by now.
+void WizardDrafts::takeBack()
+{
+    m_keeper.takeOver(m_taken.name, [](const TakenDraft &) {});
+    m_replay.setAside();
+    m_hasTaken = true;
+    m_isTyped = true;
+    std::erase_if(m_found.free, [this](const DraftEntry &draft) { return draft.name == m_taken.name; });
+    m_line->hide();
+    keep();
+}
+
+void WizardDrafts::forgetTaken()
+{
+    m_hasTaken = false;
+    m_taken = {};
 }
 
 /// Takes the draft out of the line. It is there until the program ends, so that this can be undone.
@@ -333,7 +392,11 @@ void WizardDrafts::replay(const Draft &draft)
     }
     if (m_window.shownPage() != kLampPage)
         m_window.ShowPage(kLampPage);
+    const PageSteps &steps = m_window.page(kLampPage).steps();
+    const int count = steps.count();
     m_replay.run(draft);
+    if (m_hasTaken && steps.count() > count)
+        m_taken.isMade = steps.latestStands();
     m_isReplayDue = false;
     if (draft.head.page == kLampPage)
         m_window.page(kLampPage).focusFirstField();  // again: its text is another one, to be typed over
@@ -343,9 +406,11 @@ void WizardDrafts::replay(const Draft &draft)
 
 void WizardDrafts::closeLine()
 {
+    const QWidget *focus = m_window.focusWidget();
+    const bool isInUse = focus && !m_line->isAncestorOf(focus);  // somebody is typing there
     m_line->hide();
     m_line->setEnabled(true);
-    if (m_window.shownPage() == kLampPage)
+    if (!isInUse && m_window.shownPage() == kLampPage)
         m_window.page(kLampPage).focusFirstField();
 }
 

@@ -48,6 +48,11 @@ private:
     void openList();
     void takeOver();
     void takeOverDraft(const std::string &name);
+    void noteTakenOver(const std::string &name, const Draft &draft);
+    void followTakeOver();
+    void giveBack();
+    void takeBack();
+    void forgetTaken();
     void discard();
     void putAway(const DraftEntry &draft);
     void bringBack(const DraftEntry &draft, std::size_t place);
@@ -58,15 +63,25 @@ private:
     void followTrouble(const std::string &reason);
     void tell(const QString &line);
 
+    /// The draft of another run that this one has taken over.
+    struct Taken {
+        std::string name{};
+        DraftHead head{};
+        PageText firstPage{};                  ///< as it was taken
+        bool wasTyped = false;                 ///< something had been typed before
+        std::shared_ptr<const bool> isMade{};  ///< false while that is undone on page 1; none where it has put nothing
+    };
+
     WizardWindow &m_window;
     const Closing &m_closing;
     DraftLine *m_line;
     DraftReplay m_replay;
     DraftKeeper m_keeper;
-    QTimer *m_timer;                               ///< runs from the first change that is not kept
-    std::bitset<kPageCount> m_visited;             ///< pages that have been shown or changed, and so may hold something
-    bool m_isReplayDue = false;                    ///< a draft is being taken over that no page holds yet
-    bool m_hasTaken = false;                       ///< the run's own draft was one of another run
+    QTimer *m_timer;                    ///< runs from the first change that is not kept
+    std::bitset<kPageCount> m_visited;  ///< pages that have been shown or changed, and so may hold something
+    bool m_isReplayDue = false;         ///< a draft is being taken over that no page holds yet
+    bool m_hasTaken = false;            ///< the run's own draft was one of another run
+    Taken m_taken;
     bool m_isTyped = false;                        ///< something has been typed since the last finished file
     DraftsFound m_found;                           ///< what is still offered
     std::size_t m_offered = 0;                     ///< which of them the line shows

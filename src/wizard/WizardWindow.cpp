@@ -14,6 +14,8 @@
 
 #include "controls/FieldFocus.h"
 #include "controls/ScreenReader.h"
+#include "core/RecordAngles.h"
+#include "grid/GridView.h"
 #include "hostlink/HostPost.h"
 #include "platform/Dialogs.h"
 #include "platform/EventWait.h"
@@ -32,6 +34,7 @@ constexpr QSize kDesignSize{720, 560};
 constexpr int kPollInterval = 100;
 constexpr int kDeathInterval = 10000;
 constexpr const char *kNewDataNote = "The host has sent new data; the candela table has been built anew.";
+constexpr const char *kNoAnglesNote = "The host has sent data without angles. Next goes on with these.";
 
 }  // namespace
 
@@ -205,6 +208,9 @@ bool WizardWindow::isBusy() const
 
 void WizardWindow::StartWizard()
 {
+    if (m_shownPage < kPageCount)
+        for (GridView *grid : page(m_shownPage).fields().grids())
+            grid->commitEditIfValid();
     if (m_hasStarted)
         emit startingAnew();
     for (PageFrame *page : m_pages) {
@@ -238,8 +244,13 @@ void WizardWindow::followRecord()
     bool isRebuilt = false;
     for (PageFrame *page : m_pages)
         isRebuilt = page->followRecord() || isRebuilt;
-    if (isRebuilt && m_shownPage < kPageCount)
-        m_pages[static_cast<std::size_t>(m_shownPage)]->showNote(kNewDataNote);
+    if (m_shownPage == kPageCount)
+        return;
+    const bool lacksAngles = m_shownPage > kDistributionPage && !hasAngles(m_state.PhotFiles(1));
+    if (lacksAngles)  // the page that gives a record its angles
+        ShowPage(kDistributionPage);
+    if (lacksAngles || isRebuilt)
+        page(m_shownPage).showNote(lacksAngles ? kNoAnglesNote : kNewDataNote);
 }
 
 void WizardWindow::showLog()

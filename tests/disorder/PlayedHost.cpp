@@ -80,7 +80,7 @@ void PlayedHost::storeBroken(unsigned seed)
 {
     static constexpr std::array kNonsense{"", "x", "1", "99999", "-1", "1,2", ",,,,", "32767,1", "1e400", "\n\n"};
     storeRecord(seed);
-    m_isBroken = m_hasStoredNonsense = true;
+    m_isBroken = true;
     m_settings.write(kApplication, kSection, recordValueName(kRecordWords[seed % kRecordWords.size()], 1),
                      kNonsense[seed / 11 % kNonsense.size()]);
 }

@@ -34,10 +34,6 @@ public:
     void storeRecord(unsigned seed);
     void storeBroken(unsigned seed);
 
-    /// Whether it has ever stored a record that cannot be read. One without angles is taken as it is, and no reader
-    /// takes the file that is made of it.
-    bool hasStoredNonsense() const { return m_hasStoredNonsense; }
-
     /// Keeps the store locked for so many ticks.
     void lock(int ticks);
 
@@ -72,7 +68,6 @@ private:
     std::string m_last;
     Taking m_taking = Taking::AtOnce;
     int m_lateTicks = 0;
-    bool m_hasStoredNonsense = false;
     bool m_isBroken = false;     ///< by the host, since the tool has stored last
     bool m_isRewritten = false;  ///< by the host, or held up, since it has taken something
 };

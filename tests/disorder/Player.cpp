@@ -41,7 +41,7 @@ void Player::run(bool isEmbedded)
     require(faultAtEnd(*m_scene, status));
     m_scene->window.reset();
     require(faultOfDrafts(*m_scene));
-    require(m_ground.faultOfFiles(!m_host.hasStoredNonsense()));
+    require(m_ground.faultOfFiles());
     m_tally.draftsTaken += m_scene->hasTakenOver ? 1 : 0;
     m_tally.draftsLeft += m_scene->lastWords && m_scene->lastWords->isTyped ? 1 : 0;
     m_scene.reset();

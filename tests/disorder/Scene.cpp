@@ -19,7 +19,7 @@ Ground::Ground()
         std::ofstream(files + name) << iesFileText(smallRecord());
 }
 
-std::string Ground::faultOfFiles(bool isReadable) const
+std::string Ground::faultOfFiles() const
 {
     for (const auto &entry : std::filesystem::directory_iterator(files)) {
         if (entry.is_directory())
@@ -27,7 +27,7 @@ std::string Ground::faultOfFiles(bool isReadable) const
         const std::string name = entry.path().filename();
         if (!name.ends_with(".ies") && !name.ends_with(".txt"))
             return "a file of another name is left: " + name;
-        if (isReadable && !std::holds_alternative<IesContent>(readIesFile(contentOf(entry.path()))))
+        if (!std::holds_alternative<IesContent>(readIesFile(contentOf(entry.path()))))
             return "a file cannot be read: " + name;
     }
     return {};

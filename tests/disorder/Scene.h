@@ -30,8 +30,8 @@ struct Ground {
     Ground();
 
     /// What is wrong with the files, "" for nothing: each is one that was there, untouched, or a new one, which can
-    /// be read where `isReadable`; nothing else is left.
-    std::string faultOfFiles(bool isReadable) const;
+    /// be read; nothing else is left.
+    std::string faultOfFiles() const;
 
     TempFolder folder;
     std::string store = folder.file("settings.sqlite3");

@@ -1,11 +1,51 @@
+#include <atomic>
+#include <thread>
+
 #include "widgets/DraftsTest.h"
 #include "wizard/PageSteps.h"
 
 namespace penwright::test {
 namespace {
 
+/// Drafts on a disk that lets none be read before it is told.
+class SlowDrafts : public SqliteDraftStore {
+public:
+    SlowDrafts(const std::string &folder, const std::atomic<bool> &isReadable)
+        : SqliteDraftStore(folder), m_isReadable(isReadable)
+    {
+    }
+
+    TakeEnd takeOver(const std::string &name, Draft &draft) override
+    {
+        while (!m_isReadable.load())
+            std::this_thread::yield();
+        return SqliteDraftStore::takeOver(name, draft);
+    }
+
+private:
+    const std::atomic<bool> &m_isReadable;
+};
+
 class DraftOffer : public DraftsTest {
 protected:
+    std::atomic<bool> isReadable{false};
+
+    /// Begins a run whose draft does not come before it `isReadable`.
+    void startSlowRun()
+    {
+        drafts = std::make_unique<SlowDrafts>(draftFolder, isReadable);
+        startWizard();
+    }
+
+    std::string lampsOf(const DraftEntry &entry, int page = kLampPage, const char *box = "txtNumLamps")
+    {
+        SqliteDraftStore other(draftFolder);
+        Draft draft;
+        EXPECT_EQ(other.takeOver(entry.name, draft), TakeEnd::Taken);
+        other.leave();
+        return textOf(draft, page, box);
+    }
+
     void leaveLamps(const std::string &about, const std::string &lamps)
     {
         leave(kLampPage, about, {{kLampPage, "txtNumLamps", lamps}});
@@ -114,6 +154,128 @@ TEST_F(DraftOffer, discardIsAStepThatBringsTheDraftBack)
     EXPECT_EQ(text("txtNumLamps"), "3");
     kill();
     EXPECT_EQ(left().free.size(), 1U);
+}
+
+TEST_F(DraftOffer, draftWhoseTakingOverIsUndoneIsOfferedAgainAsItWas)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    const std::string offered = offer();
+    takeOver();
+    ASSERT_EQ(text("txtNumLamps"), "3");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text("txtNumLamps"), "");
+    waitForOffer();
+    EXPECT_EQ(offer().substr(0, 24), offered.substr(0, 24));
+    EXPECT_FALSE(find<QTimer>("draftTimer")->isActive()) << "nothing has been typed";
+    typeText("5");
+    waitUntilKept();
+    kill();
+    const DraftsFound found = left();
+    ASSERT_EQ(found.free.size(), 2U);
+    EXPECT_EQ(lampsOf(found.free[0]), "5");
+    EXPECT_EQ(lampsOf(found.free[1]), "3");
+}
+
+TEST_F(DraftOffer, takingOverThatIsMadeAgainGoesOnWithTheDraft)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    takeOver();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    waitForOffer();
+    press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(text("txtNumLamps"), "3");
+    QTest::qWait(50);
+    EXPECT_TRUE(find("draftLine")->isHidden());
+    typeText("4");
+    waitUntilKept();
+    kill();
+    const DraftsFound found = left();
+    ASSERT_EQ(found.free.size(), 1U);
+    EXPECT_EQ(lampsOf(found.free[0]), "4");
+}
+
+TEST_F(DraftOffer, secondDraftThatUndoBringsBackIsTakenOverAndTheFirstKeepsAllItsPages)
+{
+    leave(kLampPage, "first", {{kLampPage, "txtNumLamps", "1"}, {kTiltPage, "lmpTxtNumAngles", "2"}});
+    leaveLamps("second", "2");
+    startRun();
+    waitForOffer();
+    click("draftDiscard");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isEnabled(); }));
+    takeOver();
+    ASSERT_EQ(text("txtNumLamps"), "1");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return offer() == momentOf("Draft of second, page 1"); }));
+    takeOver();
+    EXPECT_EQ(text("txtNumLamps"), "2");
+    waitUntilKept();
+    kill();
+    const DraftsFound found = left();
+    ASSERT_EQ(found.free.size(), 2U);
+    EXPECT_EQ(found.free[1].head.about, "first");
+    EXPECT_EQ(lampsOf(found.free[1]), "1");
+    EXPECT_EQ(lampsOf(found.free[1], kTiltPage, "lmpTxtNumAngles"), "2");
+}
+
+TEST_F(DraftOffer, pagesOfADraftThatWasGivenBackAreNotFilledFromIt)
+{
+    for (const bool isMadeAgain : {false, true}) {
+        leave(kLampPage, "", {{kLampPage, "txtNumLamps", "1"}, {kTiltPage, "lmpTxtNumAngles", "2"}});
+        startRun();
+        takeOver();
+        press(Qt::Key_Z, Qt::ControlModifier);
+        if (isMadeAgain)
+            press(Qt::Key_Y, Qt::ControlModifier);
+        window->ShowPage(kTiltPage);
+        EXPECT_EQ(text("lmpTxtNumAngles"), isMadeAgain ? "2" : "");
+        emit window->cancelled();
+        kill();
+    }
+}
+
+TEST_F(DraftOffer, draftThatComesLaterThanWhatIsTypedIsKeptTakesItsPlaceAsAStep)
+{
+    leaveLamps("EL-2054", "3");
+    startSlowRun();
+    waitForOffer();
+    click("draftTakeOver");
+    EXPECT_EQ(focusName(), "txtNumLamps");
+    typeText("9");
+    waitUntilKept();
+    EXPECT_EQ(text("txtNumLamps"), "9");
+    EXPECT_TRUE(find("draftLine")->isVisible());
+    isReadable.store(true);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isHidden(); }));
+    EXPECT_EQ(text("txtNumLamps"), "3");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(text("txtNumLamps"), "9");
+    press(Qt::Key_Y, Qt::ControlModifier);
+    EXPECT_EQ(text("txtNumLamps"), "3");
+    kill();
+    EXPECT_EQ(textOf(leftDraft(), kLampPage, "txtNumLamps"), "3");
+}
+
+TEST_F(DraftOffer, whatIsTypedWhileADraftIsAwaitedThatDoesNotComeIsKept)
+{
+    leaveLamps("EL-2054", "3");
+    startSlowRun();
+    waitForOffer();
+    click("draftTakeOver");
+    EXPECT_EQ(focusName(), "txtNumLamps");
+    typeText("9");
+    waitUntilKept();
+    std::filesystem::remove_all(draftFolder);
+    isReadable.store(true);
+    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isHidden(); }));
+    EXPECT_EQ(note(kLampPage), "This draft is not there any more.");
+    typeText("8");
+    waitUntilKept();
+    kill();
+    EXPECT_EQ(textOf(leftDraft(), kLampPage, "txtNumLamps"), "98");
 }
 
 TEST_F(DraftOffer, draftThatWasDiscardedGoesWithTheRunAndNotWithAKill)

@@ -1,3 +1,4 @@
+#include "wizard/GivenUpTexts.h"
 #include "wizard/PageSteps.h"
 
 #include "widgets/GridViewTest.h"
@@ -19,7 +20,7 @@ protected:
         fields = PageFields(window);
         steps = std::make_unique<PageSteps>(
             window, fields, [this] { ++followed; }, [this] { return isBusy; }, kMost);
-        keys = std::make_unique<StepKeys>(window, fields, *steps);
+        keys = std::make_unique<StepKeys>(window, fields, *steps, *new GivenUpTexts(window, fields, *steps));
     }
 
     /// Puts cells of a text that takes about so much memory into the grid, in an act of its own.

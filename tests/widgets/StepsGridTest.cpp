@@ -320,6 +320,102 @@ TEST_F(StepsTest, leaveWhatIsBeingTypedOpenWhereATableIsRefused)
     EXPECT_EQ(shown("cdaGridCd", 1, 1), "775");
 }
 
+TEST_F(StepsTest, bringBackTheTextThatEscapeHasGivenUp)
+{
+    window->ShowPage(kKeywordPage);
+    typeCell("keyGrid", 2, 1, "No. 7");
+    grid("keyGrid").goTo(3, 1);
+    typeText("Night Lab");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(undoName(), "Undo Escape");
+    undo();
+    ASSERT_TRUE(grid("keyGrid").isEditing());
+    typeText("s");
+    undo();
+    EXPECT_EQ(grid("keyGrid").halfTyped().value().text, "Night Lab") << "in the editor the key is the editor's";
+    typeText("s");
+    press(Qt::Key_Return);
+    EXPECT_EQ(shown("keyGrid", 3, 1), "Night Labs");
+}
+
+TEST_F(StepsTest, goBackOverATextThatWasGivenUpAndComeToItAgain)
+{
+    window->ShowPage(kKeywordPage);
+    typeCell("keyGrid", 2, 1, "No. 7");
+    const PageText typed = texts();
+    grid("keyGrid").goTo(3, 1);
+    typeText("Night");
+    press(Qt::Key_Escape);
+    undo();
+    typeText(" Lab");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(redoName(), "Redo") << "the longer text takes the place of the shorter one";
+    undo();
+    undo();
+    EXPECT_FALSE(grid("keyGrid").isEditing());
+    EXPECT_EQ(shown("keyGrid", 2, 1), "");
+    redo();
+    EXPECT_EQ(texts(), typed);
+    redo();
+    undo();
+    EXPECT_EQ(grid("keyGrid").halfTyped().value().text, "Night Lab");
+}
+
+TEST_F(StepsTest, areNotLostForATextThatIsGivenUpAfterUndo)
+{
+    window->ShowPage(kKeywordPage);
+    typeCell("keyGrid", 2, 1, "No. 7");
+    undo();
+    grid("keyGrid").goTo(3, 1);
+    typeText("x");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(redoName(), "Redo Typing");
+    redo();
+    EXPECT_EQ(shown("keyGrid", 2, 1), "No. 7");
+}
+
+TEST_F(StepsTest, areNoneForAnEditorThatIsLeftAsItWasOpened)
+{
+    window->ShowPage(kKeywordPage);
+    typeCell("keyGrid", 2, 1, "No. 7");
+    grid("keyGrid").goTo(2, 1);
+    press(Qt::Key_F2);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(undoName(), "Undo Typing");
+}
+
+TEST_F(StepsTest, takeWhatIsBeingTypedWhenTheWizardStartsAgain)
+{
+    window->ShowPage(kKeywordPage);
+    grid("keyGrid").goTo(2, 1);
+    typeText("No. 7");
+    window->StartWizard();
+    EXPECT_EQ(shown("keyGrid", 2, 1), "No. 7");
+}
+
+TEST_F(StepsTest, bringBackTheDefaultsThatWereSavedOverWithALineOfIt)
+{
+    const auto saved = [this] { return store.read("Lumentor32", "Tool_DefaultKeywords", "B[TEST]", "(none)"); };
+    const auto note = [this] { return find<QLabel>("note2")->text().toStdString(); };
+    window->ShowPage(kKeywordPage);
+    typeCell("keyGrid", 2, 1, "No. 7");
+    click("cmdSaveDefaults");
+    typeCell("keyGrid", 2, 1, "No. 8");
+    click("cmdSaveDefaults");
+    EXPECT_EQ(undoName(), "Undo Save As Defaults");
+    EXPECT_EQ(saved(), "No. 8");
+    undo();
+    EXPECT_EQ(saved(), "No. 7");
+    EXPECT_EQ(note(), "The former defaults are back.");
+    redo();
+    EXPECT_EQ(saved(), "No. 8");
+    EXPECT_EQ(note(), "");
+    for (int step = 0; step < 3; ++step)
+        undo();
+    EXPECT_EQ(saved(), "(none)");
+    EXPECT_EQ(shown("keyGrid", 2, 1), "No. 7");
+}
+
 TEST_F(StepsTest, takeAWordForACountAsOneGoOfTyping)
 {
     window->ShowPage(kDistributionPage);

@@ -134,6 +134,46 @@ TEST_F(StepsTurn, backShowsTheListsOfTheTableThatTheHostHasSentAsAStep)
     expectListsOfTheTable();
 }
 
+TEST_F(StepsTurn, dataWithoutAnglesLeadToTheAnglesThatPageFourHas)
+{
+    openPageFive();
+    fillPageFive();
+    const OneBasedTable<double> values = numbers();
+    for (const bool isFinished : {false, true}) {
+        if (isFinished)
+            click("cmdNext50");
+        hostSends({}, {0, 90});
+        ASSERT_EQ(shownPage(), kDistributionPage);
+        EXPECT_EQ(find<QLabel>("note3")->text().toStdString(),
+                  "The host has sent data without angles. Next goes on with these.");
+        click("cmdNext30");
+        ASSERT_EQ(shownPage(), kCandelaPage);
+        EXPECT_EQ(numbers(), values);
+    }
+}
+
+TEST_F(StepsTurn, valueThatIsBeingTypedWhenDataWithoutAnglesComeIsTaken)
+{
+    openPageFive();
+    fillPageFive();
+    grid("cdaGridCd").goTo(2, 1);
+    typeText("77");
+    hostSends({}, {});
+    ASSERT_EQ(shownPage(), kDistributionPage);
+    click("cmdNext30");
+    EXPECT_EQ(shown("cdaGridCd", 2, 1), "77");
+}
+
+TEST_F(StepsTurn, dataWithoutAnglesLeaveThePagesBeforeThemAlone)
+{
+    openPageFive();
+    click("cmdBack50");
+    click("cmdBack30");
+    hostSends({}, {});
+    EXPECT_EQ(shownPage(), kKeywordPage);
+    EXPECT_TRUE(find<QLabel>("note2")->isHidden());
+}
+
 TEST_F(StepsTurn, undoOfWhatTheHostHasSentBringsThePagesTogetherAgain)
 {
     openPageFive();

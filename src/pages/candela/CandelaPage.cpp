@@ -6,6 +6,7 @@
 #include <QTimer>
 
 #include "core/NumberText.h"
+#include "core/RecordAngles.h"
 #include "grid/GridModel.h"
 #include "pages/candela/CandelaChecks.h"
 #include "pages/candela/StoreCandela.h"
@@ -121,6 +122,8 @@ bool CandelaPage::followRecord()
         const QSignalBlocker unseen(m_form->cdaGridCd);  // no plot of the old cells under the new angles
         m_form->cdaGridCd->commitEditIfValid();
     }
+    if (!hasAngles(state().PhotFiles(1)))
+        return false;  // the table stays for the angles that page 4 still has
     steps().endAct();  // what was typed is a step of its own
     buildTable();
     m_form->cdaGridCd->makeCurrent(1, 1);  // another page may be shown, and has the focus

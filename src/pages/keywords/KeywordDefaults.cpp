@@ -2,7 +2,6 @@
 
 #include "core/CodePoints.h"
 #include "platform/RunTimeError.h"
-#include "platform/SettingsStore.h"
 
 namespace penwright {
 namespace {
@@ -65,6 +64,23 @@ void gsbKeyDefaultSave(SettingsStore &store, const OneBased<KeywordRow> &rows)
             ignoringErrors([&] { writeRow(row); });
     };
     // One transaction: nobody reads half a block, and a locked store is waited for once, not once for each row.
+    ignoringErrors([&] { store.transact(writeAll); });
+}
+
+std::optional<std::vector<Setting>> storedDefaults(SettingsStore &store)
+{
+    std::optional<std::vector<Setting>> block;
+    ignoringErrors([&] { block = store.readAll(kApplication, kSection); });
+    return block;
+}
+
+void restoreDefaults(SettingsStore &store, const std::vector<Setting> &block)
+{
+    const auto writeAll = [&] {
+        store.removeSection(kApplication, kSection);
+        for (const Setting &setting : block)
+            store.write(kApplication, kSection, setting.name, setting.data);
+    };
     ignoringErrors([&] { store.transact(writeAll); });
 }
 

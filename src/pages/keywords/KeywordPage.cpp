@@ -60,7 +60,15 @@ void KeywordPage::cmdSaveDefaults_Click()
                  "want to fill in later."});
     if (answer == Answer::Dismissed || !m_form->keyGrid->commitEdit())
         return;
+    const auto before = storedDefaults(m_store);
     gsbKeyDefaultSave(m_store, m_rows->rows());
+    const auto after = storedDefaults(m_store);
+    if (!before || !after || before == after)
+        return;
+    steps().addAct("Save As Defaults", [this, before, after](bool isUndo) {
+        restoreDefaults(m_store, isUndo ? *before : *after);
+        showNote(isUndo ? "The former defaults are back." : "");
+    });
 }
 
 void KeywordPage::cmdNext20_Click()
