@@ -250,6 +250,7 @@ void WizardDrafts::takeOver()
         return;
     m_window.page(kLampPage).focusFirstField();  // for what is typed meanwhile
     m_line->setEnabled(false);                   // until there is an answer
+    leaveWhatIsTyped();
     if (m_offered < m_found.free.size())
         takeOverDraft(m_found.free[m_offered].name);
     else
@@ -262,12 +263,19 @@ void WizardDrafts::takeOver()
         });
 }
 
+/// Leaves the run's own draft behind where it is one that was taken over, or more than what page 1 holds: until undo
+/// has brought that back, there would be no other place that has it.
+void WizardDrafts::leaveWhatIsTyped()
+{
+    if (!m_hasTaken && !(m_isTyped && m_visited.count() > 1))
+        return;
+    keep();
+    m_keeper.leave();
+    forgetTaken();
+}
+
 void WizardDrafts::takeOverDraft(const std::string &name)
 {
-    if (m_hasTaken) {  // a second one, which undo has brought back: the first stays a draft
-        m_keeper.leave();
-        forgetTaken();
-    }
     m_isReplayDue = true;
     m_keeper.takeOver(name, [this, name](const TakenDraft &taken) {
         std::erase_if(m_found.free, [&](const DraftEntry &draft) { return draft.name == name; });

@@ -47,6 +47,7 @@ private:
     void showOffer();
     void openList();
     void takeOver();
+    void leaveWhatIsTyped();
     void takeOverDraft(const std::string &name);
     void noteTakenOver(const std::string &name, const Draft &draft);
     void followTakeOver();

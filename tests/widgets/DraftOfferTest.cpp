@@ -237,6 +237,26 @@ TEST_F(DraftOffer, pagesOfADraftThatWasGivenBackAreNotFilledFromIt)
     }
 }
 
+TEST_F(DraftOffer, pagesThatWereTypedBeforeADraftIsTakenOverAreADraftOfTheirOwn)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    fillPageOne();
+    click("cmdNext10");
+    ASSERT_EQ(shownPage(), kKeywordPage);
+    fillPageThree();
+    click("cmdBack20");
+    takeOver();
+    EXPECT_EQ(text("txtNumLamps"), "3");
+    kill();
+    const DraftsFound found = left();
+    ASSERT_EQ(found.free.size(), 2U);
+    EXPECT_EQ(lampsOf(found.free[0]), "3");
+    EXPECT_EQ(lampsOf(found.free[1]), "1");
+    EXPECT_NE(lampsOf(found.free[1], kKeywordPage, "keyGrid").find("EL-2054"), std::string::npos);
+}
+
 TEST_F(DraftOffer, draftThatComesLaterThanWhatIsTypedIsKeptTakesItsPlaceAsAStep)
 {
     leaveLamps("EL-2054", "3");

@@ -167,6 +167,9 @@ TEST_F(PageStepsTest, leaveTheKeysOfAnOpenEditorToIt)
     EXPECT_EQ(line()->text(), "a.b");
     EXPECT_EQ(first(), 'a');
     press(Qt::Key_Escape);
+    EXPECT_FALSE(grid->isEditing());
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(line()->text(), "a.b") << "a text that is given up is a step";
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(first(), ' ');
 }

@@ -1,6 +1,7 @@
 #include "pages/candela/CandelaTable.h"
 
 #include <algorithm>
+#include <atomic>
 #include <utility>
 
 #include "core/NumberText.h"
@@ -246,7 +247,12 @@ std::function<std::string()> CandelaTable::held() const
 {
     if (!m_numbers.flags().GridReady)
         return GridSource::held();
-    return [cells = CandelaCells()] { return heldCells(cells); };
+    // Memory that is new costs more than the copy: what was handed out last is taken again once nobody has it.
+    if (!m_handedOut || m_handedOut.use_count() > 1)
+        m_handedOut = std::make_shared<OneBasedTable<CandelaCell>>();
+    std::atomic_thread_fence(std::memory_order_acquire);  // another thread may have had it
+    *m_handedOut = CandelaCells();
+    return [cells = std::shared_ptr<const OneBasedTable<CandelaCell>>(m_handedOut)] { return heldCells(*cells); };
 }
 
 std::optional<GridEdit> CandelaTable::fromHeld(std::string_view text)

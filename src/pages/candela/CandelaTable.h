@@ -114,6 +114,7 @@ private:
     ToolState &m_state;
     CandelaNumbers m_numbers;
     std::string m_title;
+    mutable std::shared_ptr<OneBasedTable<CandelaCell>> m_handedOut;  ///< to `held` last
 };
 
 }  // namespace penwright
