@@ -64,7 +64,8 @@ protected:
     void send(const std::string &command)
     {
         write("PenwrightPE|7", command);
-        ASSERT_TRUE(waitUntil([&] { return inbox().empty(); }, 60s)) << command.substr(0, 100) << " is not taken";
+        // Megabytes take a tool that is looked after by sanitizers seconds of a core of its own.
+        ASSERT_TRUE(waitUntil([&] { return inbox().empty(); }, 240s)) << command.substr(0, 100) << " is not taken";
     }
 
     /// The next command from the tool, taken from the host's inbox; "" when none comes.

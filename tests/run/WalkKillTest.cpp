@@ -103,8 +103,9 @@ protected:
         m_host->signal(SIGCONT);
     }
 
-    /// Kills the tool, or the host first. The host is held before the tool is killed: it would clear its folder.
-    void killOne(bool isHost)
+    /// Kills the tool, or the host first; false when the walk had come to its end before. The host is held before the
+    /// tool is killed: it would clear its folder.
+    bool killOne(bool isHost)
     {
         const pid_t tool = childOf(m_host->pid());
         if (!isHost) {
@@ -116,8 +117,9 @@ protected:
         m_isOver = tool == 0;
         EXPECT_TRUE(!m_isOver || writtenInThisWalk("walk/luminaire.ies") < m_killed) << "the tool went before its end";
         m_host->signal(SIGKILL);
-        m_host->waitForEnd();
+        const bool isKilled = m_host->waitForEnd() != 0;
         EXPECT_TRUE(tool == 0 || waitUntil([&] { return !isRunning(tool); }, 20s)) << "an orphan stays behind";
+        return isKilled;
     }
 
     /// What a run that is gone has left as a draft; nothing where there is none.
@@ -206,16 +208,20 @@ private:
 
 TEST_F(WalkKill, ofToolOrHostAtAnyMomentCostsTwoSecondsOfTypingAtMostAndNeverMakesAWrongValue)
 {
-    const Milliseconds whole = walkToTheLastPage();
+    auto longest = static_cast<unsigned>(walkToTheLastPage().count() / 4);
     ASSERT_FALSE(m_whole.empty());
     std::mt19937 chance(20260514);
     for (int round = 0; round < killRounds(2); ++round) {
         startWalk();
         ASSERT_TRUE(waitUntil([this] { return hasDraft(); }, 60s)) << "nothing was typed";
         for (auto pauses = chance() % 4; pauses > 0; --pauses)
-            pauseTyping(Milliseconds(chance() % static_cast<unsigned>(whole.count() / 4)));
-        std::this_thread::sleep_for(Milliseconds(chance() % static_cast<unsigned>(whole.count() / 4)));
-        killOne(round % 2 == 0);
+            pauseTyping(Milliseconds(chance() % longest));
+        std::this_thread::sleep_for(Milliseconds(chance() % longest));
+        if (!killOne(round % 2 == 0)) {  // on a machine that has become less busy since
+            longest = std::max(longest / 2, 1U);
+            --round;
+            continue;
+        }
         const Kept kept = left();
         for (const auto &[place, text] : kept)
             EXPECT_TRUE(isOnTheWay(place, text)) << "round " << round << ": " << place.second << " holds " << text;
