@@ -160,6 +160,7 @@ QComboBox *FileView::makeChoice(const char *name, const QString &accessibleName)
     auto *choice = new QComboBox;
     choice->setObjectName(name);
     choice->setAccessibleName(accessibleName);
+    choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(choice, &QComboBox::currentIndexChanged, this, &FileView::drawCurves);
     return choice;
 }
@@ -181,6 +182,8 @@ QWidget *FileView::makePicture()
     m_cone = makeChoice("cone", tr("Vertical angle of the cone shown"));
     m_planeLabel = new QLabel;
     m_coneLabel = new QLabel;
+    m_planeLabel->setWordWrap(true);  // rather than cut a long angle off
+    m_coneLabel->setWordWrap(true);
     m_planeLabel->setBuddy(m_plane);
     m_coneLabel->setBuddy(m_cone);
     auto *layout = new QGridLayout(whole);
