@@ -19,17 +19,6 @@ namespace {
 constexpr std::size_t kLongestPiece = 4096;  // bytes: the time of a line grows faster than its length
 constexpr int kNumberMargin = 8;
 
-/// Line ends, and what stands behind the last one.
-int linesOf(std::string_view text)
-{
-    // Without a branch, so that a text of 100 MB takes no time that is felt.
-    std::size_t ends = 0;
-    for (std::size_t at = 0; at + 1 < text.size(); ++at)
-        ends += static_cast<unsigned>(text[at] == '\n') |
-                (static_cast<unsigned>(text[at] == '\r') & static_cast<unsigned>(text[at + 1] != '\n'));
-    return static_cast<int>(ends) + 1;
-}
-
 /// As much of a line as makes a piece: not between the bytes of a character.
 std::string_view pieceOf(std::string_view line)
 {
@@ -77,16 +66,15 @@ void NumberedText::showText(std::string text)
 
 void NumberedText::showText(Text text)
 {
-    const int lines = linesOf(*text);
-    begin(std::move(text), lines);
+    begin(std::move(text), true);
 }
 
 void NumberedText::showSentence(const std::string &sentence)
 {
-    begin(std::make_shared<const std::string>(sentence), 0);
+    begin(std::make_shared<const std::string>(sentence), false);
 }
 
-void NumberedText::begin(Text text, int lines)
+void NumberedText::begin(Text text, bool hasNumbers)
 {
     m_more->stop();
     m_text = std::make_shared<const std::string>();
@@ -94,9 +82,8 @@ void NumberedText::begin(Text text, int lines)
     m_isInLine = false;
     clear();  // scrolls, which asks for more
     m_text = std::move(text);
-    m_lines = lines;
+    m_hasNumbers = hasNumbers;
     m_continued.clear();
-    layOutNumbers();
     appendPieces(kFirstLines);
     moveCursor(QTextCursor::Start);
 }
@@ -129,6 +116,7 @@ void NumberedText::appendPieces(int count)
     QTextCursor cursor(document());
     cursor.movePosition(QTextCursor::End);
     cursor.insertText(added);
+    layOutNumbers();
 }
 
 void NumberedText::showRest(const std::function<void()> &goThere)
@@ -206,8 +194,9 @@ void NumberedText::changeEvent(QEvent *event)
 
 void NumberedText::layOutNumbers()
 {
-    const QString widest(std::to_string(m_lines).size(), '0');
-    m_numberWidth = m_lines == 0 ? 0 : fontMetrics().horizontalAdvance(widest) + 2 * kNumberMargin;
+    // As wide as what is shown needs: counting the lines of 100 MB would hold the window up.
+    const QString widest(std::to_string(numberOf(blockCount() - 1)).size(), '0');
+    m_numberWidth = m_hasNumbers ? fontMetrics().horizontalAdvance(widest) + 2 * kNumberMargin : 0;
     setViewportMargins(m_numberWidth, 0, 0, 0);
 }
 

@@ -23,7 +23,7 @@ public:
     static constexpr int kFirstLines = 2000;
 
     /// As many lines, or pieces of them, as are shown in a moment.
-    static constexpr int kMostAtOnce = 40'000;
+    static constexpr int kMostAtOnce = 10'000;
     static constexpr qsizetype kLongestAtOnce = 10'000'000;  ///< characters, whatever the pieces
 
     explicit NumberedText(QWidget *parent = nullptr);
@@ -46,7 +46,7 @@ protected:
 private:
     using Text = std::shared_ptr<const std::string>;
 
-    void begin(Text text, int lines);
+    void begin(Text text, bool hasNumbers);
     bool isWhole() const { return m_shown == m_text->size(); }
     std::string_view nextPiece();
     void appendPieces(int count);
@@ -63,7 +63,7 @@ private:
     Text m_text;
     std::size_t m_shown = 0;       ///< bytes of it that are in the box
     bool m_isInLine = false;       ///< they end within a line
-    int m_lines = 0;               ///< of the whole text; 0 for a sentence
+    bool m_hasNumbers = false;     ///< a sentence has none
     int m_numberWidth = 0;         ///< pixels
     std::vector<int> m_continued;  ///< the blocks that go on with the line of the block before
 };

@@ -190,12 +190,12 @@ bool PasteTableDialog::ask()
         return false;
     takeClipboard();
     m_preview->setFocus();
-    return exec() == Accepted && !m_closing.isClosing() && std::holds_alternative<TableContent>(m_table);
+    return exec() == Accepted && !m_closing.isClosing() && m_table && std::holds_alternative<TableContent>(*m_table);
 }
 
 double PasteTableDialog::factor() const
 {
-    return m_choices->reading().isPerKilolumen ? m_purpose.unit.factor() : 1;
+    return m_purpose.unit.factor(m_choices->reading().unit);
 }
 
 void PasteTableDialog::takeClipboard()
@@ -243,7 +243,8 @@ void PasteTableDialog::takeText(const SharedText &text, const QString &source)
     m_source->setText(source);
     m_choices->setEnabled(true);
     TableReading reading = guessTable(*text);
-    reading.isPerKilolumen = reading.isPerKilolumen && !m_purpose.unit.isInMultiplier();
+    if (m_purpose.unit.isInMultiplier(reading.unit))
+        reading.unit = ValueUnit::Candela;
     m_choices->setReading(reading);
     m_preview->setFocus();
     readAgain();
@@ -254,7 +255,7 @@ void PasteTableDialog::takeNothing(const QString &problem)
 {
     m_run.stop();
     m_text = nullptr;
-    m_table = TableFault();
+    m_table = nullptr;
     m_source->setText(QString());
     m_choices->setEnabled(false);
     m_preview->showLines({}, 0, 0);
@@ -278,33 +279,33 @@ void PasteTableDialog::showFirstPart()
 {
     const std::string_view part = firstPart(*m_text);
     const TableReading reading = m_choices->reading();
-    const auto table = readTable(part, reading);
-    m_table = TableFault();
-    if (const auto *content = std::get_if<TableContent>(&table))
-        m_preview->showTable(*content, factor());
+    auto table = readTable(part, reading);
+    m_table = nullptr;
+    if (auto *content = std::get_if<TableContent>(&table))
+        m_preview->showTable(std::make_shared<const TableContent>(std::move(*content)), factor());
     else
         m_preview->showLines(cutLines(part, reading, 0), 0, 0);
     say(readingWords(reading), "The whole text is being read.", false);
 }
 
-void PasteTableDialog::showWhole(const std::variant<TableContent, TableFault> &table)
+void PasteTableDialog::showWhole(const SharedTable &table)
 {
     m_progress->hide();
     m_table = table;
-    if (const auto *content = std::get_if<TableContent>(&m_table))
-        showTable(*content);
+    if (const auto *content = std::get_if<TableContent>(m_table.get()))
+        showTable({m_table, content});
     else
-        showFault(std::get<TableFault>(m_table));
+        showFault(std::get<TableFault>(*m_table));
 }
 
-void PasteTableDialog::showTable(const TableContent &table)
+void PasteTableDialog::showTable(const std::shared_ptr<const TableContent> &table)
 {
     const TableReading reading = m_choices->reading();
-    const std::string words = readingWords(reading) + " " + contentWords(table, reading);
+    const std::string words = readingWords(reading) + " " + contentWords(*table, reading);
     m_preview->showTable(table, factor());
-    if (reading.isPerKilolumen && !m_purpose.unit.isKnown())
+    if (reading.unit == ValueUnit::PerKilolumen && !m_purpose.unit.isKnown())
         return say(words, m_purpose.unit.whyNone, false);
-    const TableVerdict verdict = m_purpose.judge(table, factor());
+    const TableVerdict verdict = m_purpose.judge(*table, factor());
     say(words, verdict.text, verdict.isTaken);
 }
 
@@ -332,7 +333,7 @@ void PasteTableDialog::say(const std::string &words, const std::string &problem,
 
 void PasteTableDialog::sayOfUnit()
 {
-    m_choices->sayOfUnit(toQString(m_purpose.unit.words(m_choices->reading().isPerKilolumen)));
+    m_choices->sayOfUnit(toQString(m_purpose.unit.words(m_choices->reading().unit)));
 }
 
 }  // namespace penwright

@@ -54,7 +54,7 @@ public:
     bool ask();
 
     /// The table that is taken, and what its values are to be multiplied by.
-    const TableContent &table() const { return std::get<TableContent>(m_table); }
+    const TableContent &table() const { return std::get<TableContent>(*m_table); }
     double factor() const;
 
 private:
@@ -73,8 +73,8 @@ private:
     void takeNothing(const QString &problem);
     void readAgain();
     void showFirstPart();
-    void showWhole(const std::variant<TableContent, TableFault> &table);
-    void showTable(const TableContent &table);
+    void showWhole(const SharedTable &table);
+    void showTable(const std::shared_ptr<const TableContent> &table);
     void showFault(const TableFault &fault);
     void say(const std::string &words, const std::string &problem, bool isTaken);
     void sayOfUnit();
@@ -85,8 +85,8 @@ private:
     const Closing &m_closing;
     TableRun m_run;
     SharedText m_text;
-    std::string m_path;  ///< of the file that is read
-    std::variant<TableContent, TableFault> m_table;
+    std::string m_path;   ///< of the file that is read
+    SharedTable m_table;  ///< none while one is read
 
     QLabel *m_source;
     TablePreview *m_preview;

@@ -199,9 +199,12 @@ std::string_view oneAngle(std::string_view cell)
     if (cell.find_first_of("dD") == std::string_view::npos)
         return firstPlane(cell);
     const std::size_t digit = cell.find_first_of("0123456789");
-    const std::size_t unit = lowerCase(cell).find("cd", std::min(digit, cell.size()));
+    const std::string letters = lowerCase(cell);
+    std::size_t unit = letters.find("cd", std::min(digit, cell.size()));
     if (unit == std::string::npos)
         return firstPlane(cell);
+    if (unit > 0 && (letters[unit - 1] == 'k' || letters[unit - 1] == 'm'))
+        --unit;
     constexpr std::string_view kBetween = " ([,/";
     const std::string_view angle = firstPlane(cell.substr(0, cell.find_last_not_of(kBetween, unit - 1) + 1));
     const std::optional<AngleParts> parts = angleParts(angle);
@@ -262,7 +265,9 @@ bool isSummary(std::string_view heading)
     const bool isIntensity = isThere("cd") || isThere("candela");
     // Whole words, for they are parts of many others.
     const bool isExtreme = std::find(std::begin(kExtremes), std::end(kExtremes), letters) != std::end(kExtremes);
-    return isExtreme || std::any_of(std::begin(kMeans), std::end(kMeans), isThere) ||
+    // A column of percents, but not one of values whose angle is named too.
+    const bool isPercent = isThere("%") && std::none_of(letters.begin(), letters.end(), isDigit);
+    return isExtreme || isPercent || std::any_of(std::begin(kMeans), std::end(kMeans), isThere) ||
            (!isIntensity && std::any_of(std::begin(kFluxes), std::end(kFluxes), isThere));
 }
 

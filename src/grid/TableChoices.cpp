@@ -21,6 +21,8 @@ constexpr int kMostSkipped = 1'000'000;
 constexpr std::array kSeparators{TableSeparator::Tab, TableSeparator::Semicolon, TableSeparator::Comma,
                                  TableSeparator::Blanks};
 constexpr std::array kDecimalSigns{'.', ','};
+constexpr std::array kUnits{ValueUnit::Candela, ValueUnit::PerKilolumen, ValueUnit::Kilocandela,
+                            ValueUnit::Millicandela};
 constexpr std::array kThousandsSigns{kNoSign, '.', ',', '\'', ' '};
 
 template <typename Values, typename Value>
@@ -57,7 +59,8 @@ TableChoices::TableChoices(QWidget *parent) : QWidget(parent)
     m_angleRow = addCheck(*form, "tableAngleRow", "First line holds angles");
     m_angleColumn = addCheck(*form, "tableAngleColumn", "First column holds angles");
     m_direction = addList(*form, "tableDirection", "Vertical angles", {"Down the text", "Across the text"});
-    m_unit = addList(*form, "tableUnit", "Values are", {"Candela", "Candela per kilolumen"});
+    m_unit =
+        addList(*form, "tableUnit", "Values are", {"Candela", "Candela per kilolumen", "Kilocandela", "Millicandela"});
     m_unitNote = new QuietLabel;
     m_unitNote->setObjectName("tableUnitNote");
     m_unitNote->setWordWrap(true);
@@ -94,7 +97,7 @@ void TableChoices::setReading(const TableReading &reading)
     m_angleRow->setChecked(reading.hasAngleRow);
     m_angleColumn->setChecked(reading.hasAngleColumn);
     m_direction->setCurrentIndex(reading.verticalDown ? 0 : 1);
-    m_unit->setCurrentIndex(reading.isPerKilolumen ? 1 : 0);
+    m_unit->setCurrentIndex(placeOf(kUnits, reading.unit));
 }
 
 TableReading TableChoices::reading() const
@@ -106,7 +109,7 @@ TableReading TableChoices::reading() const
             .hasAngleRow = m_angleRow->isChecked(),
             .hasAngleColumn = m_angleColumn->isChecked(),
             .verticalDown = m_direction->currentIndex() == 0,
-            .isPerKilolumen = m_unit->currentIndex() == 1};
+            .unit = chosen(kUnits, *m_unit)};
 }
 
 void TableChoices::sayOfUnit(const QString &sentence)

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <string>
 
 #include "core/Ascii.h"
@@ -45,6 +46,39 @@ bool namesKilolumen(std::string_view text)
     return false;
 }
 
+/// Whether a unit stands there by itself, as the unit of a table does and that of one value does not: "I [kcd]", but
+/// not "2.48 kcd".
+bool namesUnit(const std::string &text, std::string_view unit)
+{
+    const auto isPartOfWord = [](char c) { return (c >= 'a' && c <= 'z') || isDigit(c) || c == '/'; };
+    for (std::size_t at = text.find(unit); at != std::string::npos; at = text.find(unit, at + 1)) {
+        const std::size_t end = at + unit.size();
+        const std::size_t before = at == 0 ? std::string::npos : text.find_last_not_of(' ', at - 1);
+        const bool isBehindNumber = before != std::string::npos && isDigit(text[before]);
+        const bool isWord =
+            (at == 0 || !isPartOfWord(text[at - 1])) && (end == text.size() || !isPartOfWord(text[end]));
+        if (isWord && !isBehindNumber)
+            return true;
+    }
+    return false;
+}
+
+ValueUnit unitOf(std::string_view beginning)
+{
+    if (namesKilolumen(beginning))
+        return ValueUnit::PerKilolumen;
+    const std::string text = lowerCase(beginning);
+    const auto isOneOf = [&text](std::initializer_list<std::string_view> units) {
+        return std::any_of(units.begin(), units.end(),
+                           [&text](std::string_view unit) { return namesUnit(text, unit); });
+    };
+    if (isOneOf({"cd"}))
+        return ValueUnit::Candela;
+    if (isOneOf({"kcd", "kilocandela", "kilocandelas"}))
+        return ValueUnit::Kilocandela;
+    return isOneOf({"mcd", "millicandela", "millicandelas"}) ? ValueUnit::Millicandela : ValueUnit::Candela;
+}
+
 }  // namespace
 
 TableReading guessTable(std::string_view text)
@@ -55,7 +89,7 @@ TableReading guessTable(std::string_view text)
     reading.separator = sample.separator;
     if (sample.width == 0)
         return reading;
-    reading.isPerKilolumen = namesKilolumen(beginning);
+    reading.unit = unitOf(beginning);
     findSigns(sample, reading);
     findAxes(sample, reading);
     return reading;

@@ -16,11 +16,17 @@ bool hasNoCorner(const std::vector<std::string_view> &cells, const TableReading 
 
 }  // namespace
 
-std::size_t headedWidth(const std::vector<std::string_view> &cells, std::size_t width, const TableReading &reading)
+std::size_t namedAtEnd(const std::vector<std::string_view> &cells)
 {
     std::size_t named = 0;
     while (named < cells.size() && isSummary(cells[cells.size() - named - 1]))
         ++named;
+    return named;
+}
+
+std::size_t headedWidth(const std::vector<std::string_view> &cells, std::size_t width, const TableReading &reading)
+{
+    const std::size_t named = namedAtEnd(cells);
     const std::size_t whole = cells.size() + (hasNoCorner(cells, reading) ? 1 : 0);
     return width < whole && width + named >= whole ? whole : width;
 }

@@ -18,6 +18,9 @@ struct TableHeading {
     std::optional<std::size_t> wrong;  ///< the first cell of the line of angles that is none
 };
 
+/// How many cells at the end of a line name averages, sums or the like.
+std::size_t namedAtEnd(const std::vector<std::string_view> &cells);
+
 /// The width of the lines below a line of angles, of which the first has `width` cells: more than it has where the
 /// names of averages or sums end the line of angles and it has no cells for them.
 std::size_t headedWidth(const std::vector<std::string_view> &cells, std::size_t width, const TableReading &reading);

@@ -18,8 +18,16 @@ constexpr std::size_t kSampleLines = 300;
 constexpr std::size_t kLongestQuoted = 2000;
 
 /// What stands around a cell without being seen, the end of a printed page among it.
-constexpr std::array<std::string_view, 7> kBlanks{" ",           "\t", "\f", "\xC2\xA0", "\xE2\x80\xAF", "\xE2\x80\x89",
-                                                  "\xE2\x80\x8B"};
+constexpr std::array<std::string_view, 10> kBlanks{" ",
+                                                   "\t",
+                                                   "\f",
+                                                   "\xC2\xA0",
+                                                   "\xE2\x80\xAF",
+                                                   "\xE2\x80\x89",
+                                                   "\xE2\x80\x8B",
+                                                   "\xE2\x80\x8E",  // marks of direction
+                                                   "\xE2\x80\x8F",
+                                                   "\xEF\xBB\xBF"};
 
 bool isBlank(char c)
 {

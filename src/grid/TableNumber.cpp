@@ -103,7 +103,10 @@ std::optional<double> plainValue(std::string_view cell)
 {
     double value = 0;
     const char *end = cell.data() + cell.size();
-    const bool begins = !cell.empty() && (isDigit(cell.front()) || cell.front() == '-' || cell.front() == '.');
+    // What is longer is no number, and would take its time.
+    constexpr std::size_t kLongest = 1000;
+    const bool begins = !cell.empty() && cell.size() <= kLongest &&
+                        (isDigit(cell.front()) || cell.front() == '-' || cell.front() == '.');
     if (!begins || !(isDigit(cell.back()) || cell.back() == '.'))
         return std::nullopt;
     const auto read = std::from_chars(cell.data(), end, value);

@@ -16,7 +16,7 @@ class TablePreview::Cells : public QAbstractTableModel {
 public:
     using QAbstractTableModel::QAbstractTableModel;
 
-    void set(TableContent table, double factor, std::vector<CutLine> lines)
+    void set(std::shared_ptr<const TableContent> table, double factor, std::vector<CutLine> lines)
     {
         beginResetModel();
         m_table = std::move(table);
@@ -37,12 +37,12 @@ public:
 
     int rowCount(const QModelIndex &parent = {}) const override
     {
-        return parent.isValid() ? 0 : m_lines.empty() ? m_table.values.columns() : static_cast<int>(m_lines.size());
+        return parent.isValid() ? 0 : m_lines.empty() ? m_table->values.columns() : static_cast<int>(m_lines.size());
     }
 
     int columnCount(const QModelIndex &parent = {}) const override
     {
-        return parent.isValid() ? 0 : m_lines.empty() ? m_table.values.rows() : m_width;
+        return parent.isValid() ? 0 : m_lines.empty() ? m_table->values.rows() : m_width;
     }
 
     QVariant data(const QModelIndex &index, int role) const override
@@ -66,7 +66,7 @@ private:
     std::string text(int row, int column) const
     {
         if (m_lines.empty())
-            return generalText(m_table.values(column + 1, row + 1) * m_factor);
+            return generalText(m_table->values(column + 1, row + 1) * m_factor);
         const auto &cells = m_lines[static_cast<std::size_t>(row)].cells;
         return static_cast<std::size_t>(column) < cells.size() ? cells[static_cast<std::size_t>(column)] : "";
     }
@@ -76,13 +76,13 @@ private:
         if (!m_lines.empty())
             return isRow ? "Line " + std::to_string(m_lines[static_cast<std::size_t>(section) - 1].number)
                          : "Cell " + std::to_string(section);
-        const OneBased<double> &angles = isRow ? m_table.vertical : m_table.horizontal;
+        const OneBased<double> &angles = isRow ? m_table->vertical : m_table->horizontal;
         if (angles.empty())
             return (isRow ? "Row " : "Column ") + std::to_string(section);
         return (isRow ? "V " : "H ") + generalText(angles(section));
     }
 
-    TableContent m_table;
+    std::shared_ptr<const TableContent> m_table = std::make_shared<const TableContent>();
     double m_factor = 1;
     std::vector<CutLine> m_lines;
     int m_width = 0;
@@ -112,15 +112,15 @@ TablePreview::TablePreview(QWidget *parent) : QTableView(parent), m_cells(new Ce
     verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
 }
 
-void TablePreview::showTable(const TableContent &table, double factor)
+void TablePreview::showTable(std::shared_ptr<const TableContent> table, double factor)
 {
-    m_cells->set(table, factor, {});
+    m_cells->set(std::move(table), factor, {});
     showCells();
 }
 
 void TablePreview::showLines(std::vector<CutLine> lines, std::size_t line, std::size_t cell)
 {
-    m_cells->set({}, 1, std::move(lines));
+    m_cells->set(std::make_shared<const TableContent>(), 1, std::move(lines));
     showCells();
     const QModelIndex index = m_cells->index(m_cells->rowOf(line), std::max(static_cast<int>(cell) - 1, 0));
     if (!index.isValid())
@@ -131,7 +131,14 @@ void TablePreview::showLines(std::vector<CutLine> lines, std::size_t line, std::
 
 void TablePreview::showCells()
 {
-    resizeColumnsToContents();
+    // Those beyond are seen by who scrolls there, and as wide as the widest of these.
+    constexpr int kFitted = 100;
+    int widest = 0;
+    for (int column = 0; column < std::min(kFitted, m_cells->columnCount()); ++column) {
+        resizeColumnToContents(column);
+        widest = std::max(widest, columnWidth(column));
+    }
+    horizontalHeader()->setDefaultSectionSize(std::max(widest, horizontalHeader()->minimumSectionSize()));
     setCurrentIndex(m_cells->index(0, 0));
 }
 

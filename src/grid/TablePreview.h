@@ -2,6 +2,7 @@
 
 #include <QTableView>
 
+#include <memory>
 #include <vector>
 
 #include "grid/TableText.h"
@@ -18,7 +19,7 @@ public:
     explicit TablePreview(QWidget *parent = nullptr);
 
     /// Shows values multiplied by a factor.
-    void showTable(const TableContent &table, double factor);
+    void showTable(std::shared_ptr<const TableContent> table, double factor);
 
     /// Shows lines, and goes to the one that is to blame and its cell, counted from 1; 0 for none.
     void showLines(std::vector<CutLine> lines, std::size_t line, std::size_t cell);

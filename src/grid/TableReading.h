@@ -4,6 +4,9 @@ namespace penwright {
 
 enum class TableSeparator { Tab, Semicolon, Comma, Blanks };
 
+/// What the values of a table are. Per kilolumen: candela for 1000 lm of the lamps.
+enum class ValueUnit { Candela, PerKilolumen, Kilocandela, Millicandela };
+
 /// Stands for the sign between thousands where there is none.
 inline constexpr char kNoSign = '\0';
 
@@ -16,7 +19,7 @@ struct TableReading {
     bool hasAngleRow = false;      ///< the table's first line holds angles
     bool hasAngleColumn = false;   ///< each line begins with an angle
     bool verticalDown = true;      ///< vertical angles change from line to line, horizontal ones within a line
-    bool isPerKilolumen = false;   ///< candela per 1000 lm of the lamps, not candela
+    ValueUnit unit = ValueUnit::Candela;
 
     bool operator==(const TableReading &) const = default;
 };

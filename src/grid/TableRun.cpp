@@ -46,7 +46,7 @@ void TableRun::readTable(const SharedText &text, const TableReading &reading)
             *table = penwright::readTable(*text, reading, goOn);
         } catch (const std::bad_alloc &) {  // it is the fault that it was
         }
-        return [this, table] { emit tableRead(*table); };
+        return [this, table] { emit tableRead(table); };
     };
     if (text->size() > kShortText)
         return m_run->start(work);

@@ -16,6 +16,9 @@ class TextFiles;
 /// A text that is shared with the thread that reads it.
 using SharedText = std::shared_ptr<const std::string>;
 
+/// A table that was read, or why there is none: as large as the text, so it is not copied.
+using SharedTable = std::shared_ptr<const std::variant<TableContent, TableFault>>;
+
 /// Reads texts and tables without holding up the window: what takes longer than a blink runs on a thread of its own,
 /// and what was asked for last is all that is told.
 class TableRun : public QObject {
@@ -43,7 +46,7 @@ signals:
     /// The file's text, or its error, an errno.
     void fileRead(const penwright::SharedText &text, int error);
 
-    void tableRead(const std::variant<penwright::TableContent, penwright::TableFault> &table);
+    void tableRead(const penwright::SharedTable &table);
 
 private:
     SideRun *m_run;

@@ -53,6 +53,7 @@ private:
     void endPart(std::size_t line);
     void readRow(const TableLine &line);
     void readAngle(const TableLine &line);
+    bool hasNumbers(const TableLine &line) const;
     bool isRemark(const TableLine &line) const;
     std::size_t firstNoNumber(const TableLine &line) const;
     void refuse(std::size_t line, std::size_t cell, const std::string &wrong);
@@ -68,6 +69,7 @@ private:
     TableReading m_reading;
     TableLines m_lines;
     std::optional<TableLine> m_heading;  ///< the line of angles over the values
+    std::size_t m_summariesAbove = 0;    ///< names of averages and sums at the end of the line over it
     std::size_t m_width = 0;             ///< cells of a whole line, 0 before the first line of values
     std::size_t m_least = 0;             ///< cells of a line that lacks averages and sums
     std::vector<std::size_t> m_columns;  ///< cells with values
@@ -75,6 +77,7 @@ private:
     std::vector<double> m_down;
     std::vector<TablePart> m_parts{TablePart()};  ///< the last one is read
     std::size_t m_rows = 0;                       ///< of the first part
+    std::size_t m_rowsAbovePage = 0;              ///< above the line of angles that came again last
     std::size_t m_lastLine = 0;
     std::optional<TableFault> m_remarkAbove;  ///< the first line without numbers above the values
     std::optional<TableFault> m_remark;       ///< a remark behind the values, which is a fault when more values follow
@@ -94,6 +97,8 @@ std::variant<TableContent, TableFault> TableTextReading::run(const std::function
         }
         if (line.number > static_cast<std::size_t>(std::max(m_reading.linesToSkip, 0)))
             readLine(line);
+        else
+            m_summariesAbove = namedAtEnd(line.cells);
     }
     if (!m_fault && m_rows == 0)
         m_fault = nothingRead();
@@ -114,6 +119,9 @@ void TableTextReading::readLine(const TableLine &line)
     if (isNamedSummary || (m_rows > 0 && goesOn(line)) || (m_remark && isRemark(line)))
         return;
     if (isRemark(line)) {
+        const bool isUnderNewAngles = m_parts.size() > 1 && m_parts.back().rows == 0;
+        if (isUnderNewAngles && !hasNumbers(line))
+            return;
         std::optional<TableFault> &remark = m_rows > 0 ? m_remark : m_remarkAbove;
         if (!remark) {
             refuseCell(line, firstNoNumber(line));
@@ -144,6 +152,7 @@ bool TableTextReading::goesOn(const TableLine &line)
     if (!m_heading || !m_reading.hasAngleColumn)
         return false;
     if (line.cells == m_heading->cells) {
+        m_rowsAbovePage = m_parts.back().rows;
         m_remark.reset();
         return true;
     }
@@ -192,13 +201,19 @@ void TableTextReading::endPart(std::size_t line)
                    std::to_string(m_rows) + ".");
 }
 
+bool TableTextReading::hasNumbers(const TableLine &line) const
+{
+    return std::any_of(line.cells.begin(), line.cells.end(),
+                       [this](std::string_view cell) { return tableNumber(cell, m_reading).has_value(); });
+}
+
 /// Whether a line says something instead of holding values: it begins with a word, and has hardly a number.
 bool TableTextReading::isRemark(const TableLine &line) const
 {
     const auto isNumber = [this](std::string_view cell) { return tableNumber(cell, m_reading).has_value(); };
     const std::string_view first = line.cells.front();
     const bool beginsWithAngle = m_reading.hasAngleColumn && tableAngle(first, m_reading);
-    if (!beginsWithAngle && std::none_of(line.cells.begin(), line.cells.end(), isNumber))
+    if (!beginsWithAngle && !hasNumbers(line))
         return true;
     const bool beginsWithWord = !first.empty() && first.find_first_of("0123456789") != 0 && !isNumber(first);
     if (beginsWithAngle || !beginsWithWord)
@@ -229,12 +244,17 @@ void TableTextReading::begin(const TableLine &line)
     for (std::size_t place = m_width; areCellsCut && place < angles.size(); ++place)
         if (tableAngle(angles[place], m_reading))
             return refuseWidth(line, angles.size());
+    // One column more may be an unnamed average; several are numbers cut in two, at their decimal commas or at blanks.
+    if (m_width > angles.size() + 1)
+        return refuseWidth(line, angles.size());
     m_width = headedWidth(angles, m_width, m_reading);
     const TableHeading heading = tableHeading(angles, m_width, m_reading);
     if (heading.wrong)
         return refuse(m_heading->number, m_heading->before + *heading.wrong + 1,
                       shownWord(angles[*heading.wrong]) + " is no angle.");
     m_columns = heading.columns;
+    const bool isUnderSummaries = !areCellsCut && namedAtEnd(angles) == 0 && heading.columns.size() + 1 == m_width;
+    m_width += isUnderSummaries ? m_summariesAbove : 0;
     // Between blanks a cell that is missing may be any: only where the first line lacks some others may.
     if (areCellsCut && !m_columns.empty())
         m_least = m_columns.back() + 1;
@@ -284,7 +304,9 @@ void TableTextReading::readAngle(const TableLine &line)
                    "angle " + generalText(angle->degrees) + " does not stand in that place of the planes above.");
         return;
     }
-    if (!m_down.empty() && angle->degrees < m_down.back())
+    if (!m_down.empty() && angle->degrees < m_down.back() && m_rowsAbovePage == m_rows)
+        refuseOther(line);
+    else if (!m_down.empty() && angle->degrees < m_down.back())
         refuseFall(line.number, line.before + 1, angle->degrees, m_down.back());
     m_down.push_back(angle->degrees);
 }

@@ -12,24 +12,36 @@ constexpr double kSame = 0.01;
 
 }  // namespace
 
-double TableUnit::factor() const
+double TableUnit::factor(ValueUnit unit) const
 {
-    return lumens / kLumensInKilolumen;
+    switch (unit) {
+        case ValueUnit::PerKilolumen:
+            return lumens / kLumensInKilolumen;
+        case ValueUnit::Kilocandela:
+            return 1000;
+        case ValueUnit::Millicandela:
+            return 0.001;
+        default:
+            return 1;
+    }
 }
 
-bool TableUnit::isInMultiplier() const
+bool TableUnit::isInMultiplier(ValueUnit unit) const
 {
-    return isKnown() && multiplier != 1 && std::fabs(multiplier - factor()) < kSame * factor();
+    const bool hasFactor = unit != ValueUnit::PerKilolumen || isKnown();
+    return hasFactor && multiplier != 1 && std::fabs(multiplier - factor(unit)) < kSame * factor(unit);
 }
 
-std::string TableUnit::words(bool isPerKilolumen) const
+std::string TableUnit::words(ValueUnit unit) const
 {
-    if (!isKnown())
+    const bool isOfLamps = unit == ValueUnit::Candela || unit == ValueUnit::PerKilolumen;
+    if (isOfLamps && !isKnown())
         return whyNone;
-    std::string sentence = "The lamps give " + generalText(lumens) + " lm";
-    if (!isPerKilolumen)
-        return sentence + ".";
-    sentence += ": the values are multiplied by " + generalText(factor()) + ".";
+    const std::string lamps = "The lamps give " + generalText(lumens) + " lm";
+    if (unit == ValueUnit::Candela)
+        return lamps + ".";
+    const std::string sentence =
+        (isOfLamps ? lamps + ": the" : "The") + " values are multiplied by " + generalText(factor(unit)) + ".";
     return multiplier == 1 ? sentence : sentence + " Page 1 multiplies by " + generalText(multiplier) + " as well.";
 }
 

@@ -2,9 +2,11 @@
 
 #include <string>
 
+#include "grid/TableReading.h"
+
 namespace penwright {
 
-/// What candela per kilolumen are multiplied by, and what the file multiplies by in any case.
+/// What values in another unit are multiplied by, and what the file multiplies by in any case.
 struct TableUnit {
     double lumens = 0;      ///< of all lamps; not above 0 when there are none
     float multiplier = 1;   ///< of the file
@@ -12,14 +14,14 @@ struct TableUnit {
 
     bool isKnown() const { return lumens > 0; }
 
-    /// What turns candela per kilolumen into candela.
-    double factor() const;
+    /// What turns values in a unit into candela.
+    double factor(ValueUnit unit) const;
 
-    /// Whether the file's multiplier is that factor, to one in a hundred: a table per kilolumen goes in as it is then.
-    bool isInMultiplier() const;
+    /// Whether the file's multiplier is the factor of a unit, to one in a hundred: the table goes in as it is then.
+    bool isInMultiplier(ValueUnit unit) const;
 
-    /// What is said of it, in sentences, when values are read as per kilolumen or not.
-    std::string words(bool isPerKilolumen) const;
+    /// What is said of it, in sentences, when values are read in a unit.
+    std::string words(ValueUnit unit) const;
 };
 
 }  // namespace penwright

@@ -15,6 +15,8 @@ constexpr std::size_t kFirstBytes = 200'000;
 constexpr std::size_t kCutLines = 200;
 constexpr std::size_t kLinesAround = 20;
 constexpr std::size_t kMostCells = 1000;
+constexpr std::size_t kLongestCell = 1000;     // bytes of it that are shown
+constexpr std::size_t kMostBytes = 1'000'000;  // that are cut, however long the lines are
 
 std::string separatorWords(TableSeparator separator)
 {
@@ -85,14 +87,15 @@ struct TableCut {
 void appendLines(std::vector<CutLine> &cut, std::string_view text, const TableCut &how, std::size_t before,
                  const LineSpan &span)
 {
-    TableLines lines(text, how.separator, how.frame);
+    const std::size_t first = placeOfLine(text, span.first - before);
+    TableLines lines(text.substr(0, first + kMostBytes), how.separator, how.frame);
     for (TableLine next; lines.next(next) && before + next.number <= span.last;) {
         if (before + next.number < span.first)
             continue;
         CutLine shown{before + next.number, std::vector<std::string>(next.before)};
         for (const std::string_view cell : next.cells)
             if (shown.cells.size() < kMostCells)
-                shown.cells.emplace_back(cell);
+                shown.cells.emplace_back(cell.substr(0, kLongestCell));
         cut.push_back(std::move(shown));
     }
 }

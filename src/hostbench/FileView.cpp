@@ -7,6 +7,8 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "controls/FigureList.h"
 #include "controls/MixedColour.h"
 #include "controls/NumberedText.h"
@@ -108,10 +110,16 @@ std::vector<std::string> sentencesOf(const std::vector<Remark> &remarks)
 void fill(QComboBox *choice, const OneBased<float> &angles)
 {
     QStringList texts;
-    for (const float angle : angles)
+    qsizetype longest = 0;
+    for (const float angle : angles) {
         texts.append(QString::fromStdString(generalText(angle)) + QChar(0xb0));
+        longest = std::max(longest, texts.last().size());
+    }
     choice->clear();
     choice->addItems(texts);
+    // The contents' own width does not count the padding of the host's style.
+    choice->setMinimumContentsLength(static_cast<int>(longest));
+    choice->setMinimumWidth(choice->sizeHint().width());
     choice->setEnabled(!angles.empty());
 }
 
@@ -160,6 +168,7 @@ QComboBox *FileView::makeChoice(const char *name, const QString &accessibleName)
     auto *choice = new QComboBox;
     choice->setObjectName(name);
     choice->setAccessibleName(accessibleName);
+    choice->setSizeAdjustPolicy(QComboBox::AdjustToContents);
     connect(choice, &QComboBox::currentIndexChanged, this, &FileView::drawCurves);
     return choice;
 }

@@ -8,56 +8,40 @@ namespace {
 
 constexpr float kNoCone = 0;  // one is found beside each plane, and left out
 
-using Cells = OneBasedTable<CandelaCell>;
-
-Cells cellsOf(const PhotometricRecord &record)
-{
-    Cells cells(record.Candela.rows(), record.Candela.columns());
-    for (int h = 1; h <= cells.rows(); ++h)
-        for (int v = 1; v <= cells.columns(); ++v)
-            cells(h, v) = record.Candela(h, v);
-    return cells;
-}
-
-/// The lists of a record with those of its two axes exchanged; nothing else of it.
+/// The table of a record with its two axes exchanged; nothing else of it.
 PhotometricRecord turned(const PhotometricRecord &record)
 {
-    PhotometricRecord lists;
-    lists.PhotometricType = record.PhotometricType;
-    lists.NumHorzAngles = record.NumVertAngles;
-    lists.NumVertAngles = record.NumHorzAngles;
-    lists.HorAngles = record.VertAngles;
-    lists.VertAngles = record.HorAngles;
-    return lists;
-}
-
-Cells turned(const Cells &cells)
-{
-    Cells other(cells.columns(), cells.rows());
-    for (int h = 1; h <= cells.rows(); ++h)
-        for (int v = 1; v <= cells.columns(); ++v)
-            other(v, h) = cells(h, v);
+    PhotometricRecord other;
+    other.PhotometricType = record.PhotometricType;
+    other.NumHorzAngles = record.NumVertAngles;
+    other.NumVertAngles = record.NumHorzAngles;
+    other.HorAngles = record.VertAngles;
+    other.VertAngles = record.HorAngles;
+    other.Candela = OneBasedTable<double>(record.Candela.columns(), record.Candela.rows());
+    for (int h = 1; h <= record.Candela.rows(); ++h)
+        for (int v = 1; v <= record.Candela.columns(); ++v)
+            other.Candela(v, h) = record.Candela(h, v);
     return other;
 }
 
-void addTypeC(MainPlanes &planes, const PhotometricRecord &record, const Cells &cells)
+void addTypeC(MainPlanes &planes, const PhotometricRecord &record)
 {
     const PlotCircle circle(record.HorAngles(1), record.HorAngles(record.NumHorzAngles));
     const auto planeOf = [&](double direction) {
         const auto listed = circle.listedAngle(direction);
-        return listed ? plotCurves(record, cells, *listed, kNoCone).plane : PlotCurve();
+        return listed ? plotCurves(record, *listed, kNoCone).plane : PlotCurve();
     };
     planes.picture.curves.plane = planeOf(0);
     if (!planes.second.empty())
         planes.picture.curves.cone = planeOf(90);
 }
 
-void addTypeB(MainPlanes &planes, const PhotometricRecord &record, const Cells &cells)
+void addTypeB(MainPlanes &planes, const PhotometricRecord &record)
 {
     PlotCurves &curves = planes.picture.curves;
     curves.typeC = false;
-    curves.plane = plotCurves(record, cells, 0, kNoCone).plane;
-    curves.cone = plotCurves(turned(record), turned(cells), 0, kNoCone).plane;
+    curves.plane = plotCurves(record, 0, kNoCone).plane;
+    curves.cone = plotCurves(turned(record), 0, kNoCone).plane;
 }
 
 std::string wordsOf(const MainPlanes &planes)
@@ -83,7 +67,7 @@ MainPlanes mainPlanes(const PhotometricRecord &record)
     planes.picture.curves.hasTwoPlanes = true;
     try {
         MainPlanes found = planes;
-        isTypeC ? addTypeC(found, record, cellsOf(record)) : addTypeB(found, record, cellsOf(record));
+        isTypeC ? addTypeC(found, record) : addTypeB(found, record);
         found.picture.rings = plotRings(found.picture.curves.largest());
         found.picture.words = wordsOf(found);
         return found;

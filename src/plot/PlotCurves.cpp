@@ -64,6 +64,21 @@ void addTypeC(PlotCurves &curves, const PlotTable &table, const PlotAngle &horiz
         appendCone(curves.cone, table.cone(*place), circle);
 }
 
+PlotCurves curvesOf(const PhotometricRecord &record, const PlotTable &table, const PlotAngle &horizontal,
+                    const PlotAngle &vertical, PlotShape shape)
+{
+    PlotCurves curves;
+    curves.typeC = record.PhotometricType == kTypeC;
+    curves.horizontalAngle = horizontal.degrees;
+    curves.verticalAngle = vertical.degrees;
+    if (!table.empty() && curves.typeC)
+        addTypeC(curves, table, horizontal, vertical);
+    else if (const auto place = table.horizontalPlace(horizontal))
+        appendHalf(curves.plane, table.plane(*place), PlotSide::AroundFromTheRight);
+    reshape(curves, shape);
+    return curves;
+}
+
 void makeRuns(PlotCurve &curve, PlotShape shape)
 {
     curve.runs.clear();
@@ -82,17 +97,13 @@ double PlotCurves::largest() const
 PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells,
                       const PlotAngle &horizontal, const PlotAngle &vertical, PlotShape shape)
 {
-    const PlotTable table(record, cells);
-    PlotCurves curves;
-    curves.typeC = record.PhotometricType == kTypeC;
-    curves.horizontalAngle = horizontal.degrees;
-    curves.verticalAngle = vertical.degrees;
-    if (!table.empty() && curves.typeC)
-        addTypeC(curves, table, horizontal, vertical);
-    else if (const auto place = table.horizontalPlace(horizontal))
-        appendHalf(curves.plane, table.plane(*place), PlotSide::AroundFromTheRight);
-    reshape(curves, shape);
-    return curves;
+    return curvesOf(record, PlotTable(record, cells), horizontal, vertical, shape);
+}
+
+PlotCurves plotCurves(const PhotometricRecord &record, const PlotAngle &horizontal, const PlotAngle &vertical,
+                      PlotShape shape)
+{
+    return curvesOf(record, PlotTable(record), horizontal, vertical, shape);
 }
 
 void reshape(PlotCurves &curves, PlotShape shape)

@@ -50,6 +50,10 @@ struct PlotCurves {
 PlotCurves plotCurves(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells,
                       const PlotAngle &horizontal, const PlotAngle &vertical, PlotShape shape = PlotShape::Polar);
 
+/// The same of the candela that the record itself holds, which are not copied.
+PlotCurves plotCurves(const PhotometricRecord &record, const PlotAngle &horizontal, const PlotAngle &vertical,
+                      PlotShape shape = PlotShape::Polar);
+
 /// Has the same curves run in another shape.
 void reshape(PlotCurves &curves, PlotShape shape);
 

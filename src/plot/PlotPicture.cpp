@@ -1,14 +1,17 @@
 #include "plot/PlotPicture.h"
 
+#include <utility>
+
 #include "core/NumberText.h"
 
 namespace penwright {
 
-PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells,
-                        const PlotAngle &horizontal, const PlotAngle &vertical, PlotShape shape)
+namespace {
+
+PlotPicture pictureOf(PlotCurves curves, const PlotAngle &horizontal, const PlotAngle &vertical)
 {
     PlotPicture picture;
-    picture.curves = plotCurves(record, cells, horizontal, vertical, shape);
+    picture.curves = std::move(curves);
     picture.rings = plotRings(picture.curves.largest());
     picture.words = plotDescription(picture.curves);
     picture.planeName = "Vertical Plane Through Horizontal Angle " + generalText(horizontal.degrees);
@@ -17,14 +20,18 @@ PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<Can
     return picture;
 }
 
+}  // namespace
+
+PlotPicture plotPicture(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells,
+                        const PlotAngle &horizontal, const PlotAngle &vertical, PlotShape shape)
+{
+    return pictureOf(plotCurves(record, cells, horizontal, vertical, shape), horizontal, vertical);
+}
+
 PlotPicture plotPicture(const PhotometricRecord &record, const PlotAngle &horizontal, const PlotAngle &vertical,
                         PlotShape shape)
 {
-    OneBasedTable<CandelaCell> cells(record.Candela.rows(), record.Candela.columns());
-    for (int h = 1; h <= cells.rows(); ++h)
-        for (int v = 1; v <= cells.columns(); ++v)
-            cells(h, v) = record.Candela(h, v);
-    return plotPicture(record, cells, horizontal, vertical, shape);
+    return pictureOf(plotCurves(record, horizontal, vertical, shape), horizontal, vertical);
 }
 
 }  // namespace penwright

@@ -30,13 +30,23 @@ std::optional<double> between(std::optional<double> low, std::optional<double> h
 
 }  // namespace
 
-PlotTable::PlotTable(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells)
-    : m_record(record), m_cells(cells)
+PlotTable::PlotTable(const PhotometricRecord &record) : m_record(record), m_cells(nullptr)
 {
-    const int horizontal = record.NumHorzAngles;
-    const int vertical = record.NumVertAngles;
-    if (horizontal < 0 || horizontal > record.HorAngles.size() || horizontal > cells.rows() || vertical < 0 ||
-        vertical > record.VertAngles.size() || vertical > cells.columns())
+    checkSize(record.Candela.rows(), record.Candela.columns());
+}
+
+PlotTable::PlotTable(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells)
+    : m_record(record), m_cells(&cells)
+{
+    checkSize(cells.rows(), cells.columns());
+}
+
+void PlotTable::checkSize(int rows, int columns) const
+{
+    const int horizontal = m_record.NumHorzAngles;
+    const int vertical = m_record.NumVertAngles;
+    if (horizontal < 0 || horizontal > m_record.HorAngles.size() || horizontal > rows || vertical < 0 ||
+        vertical > m_record.VertAngles.size() || vertical > columns)
         throw subscriptOutOfRange();
 }
 
@@ -70,7 +80,7 @@ std::vector<PlotNode> PlotTable::cone(const PlotPlace &vertical) const
 
 std::optional<double> PlotTable::value(int h, int v) const
 {
-    const std::optional<double> number = numberOf(m_cells(h, v));
+    const std::optional<double> number = m_cells ? numberOf((*m_cells)(h, v)) : m_record.Candela(h, v);
     if (!number || !std::isfinite(*number) || *number < 0)
         return std::nullopt;
     return number;

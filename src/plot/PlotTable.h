@@ -18,11 +18,13 @@ struct PlotPlace {
     double share = 0;
 };
 
-/// A record's angles with its cells, by (horizontal, vertical), read the way a picture needs them. Refers to both. A
-/// blank cell, a negative value and one that is not finite are gaps; so is what lies between a gap and a value.
+/// A record's angles with its candela, or with a page's cells, by (horizontal, vertical), read the way a picture needs
+/// them. Refers to all of them. A blank cell, a negative value and one that is not finite are gaps; so is what lies
+/// between a gap and a value.
 class PlotTable {
 public:
-    /// Error 9 when the angle lists or the cells are smaller than the record's counts.
+    /// Error 9 when the angle lists or the values are smaller than the record's counts.
+    explicit PlotTable(const PhotometricRecord &record);
     PlotTable(const PhotometricRecord &record, const OneBasedTable<CandelaCell> &cells);
 
     bool empty() const { return m_record.NumHorzAngles == 0 || m_record.NumVertAngles == 0; }
@@ -42,10 +44,11 @@ public:
     std::vector<PlotNode> cone(const PlotPlace &vertical) const;
 
 private:
+    void checkSize(int rows, int columns) const;
     std::optional<double> value(int h, int v) const;
 
     const PhotometricRecord &m_record;
-    const OneBasedTable<CandelaCell> &m_cells;
+    const OneBasedTable<CandelaCell> *m_cells;  ///< none: the record's own candela are read
 };
 
 }  // namespace penwright

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/sqlite/SqliteDraftStore.h"
+#include "run/RunTest.h"
 #include "support/Process.h"
 #include "support/ReadBackFolder.h"
 

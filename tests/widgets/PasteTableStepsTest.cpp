@@ -213,6 +213,18 @@ TEST_F(PasteTableSteps, candelaPerKilolumenAreMultiplied)
     EXPECT_EQ(state.PhotFiles(1).Candela(1, 2), double{6234.45F});
 }
 
+TEST_F(PasteTableSteps, kilocandelaBecomeCandela)
+{
+    openPageFive();
+    open("Gamma\tC0 [kcd]\n0\t2.48\n45\t1.5\n90\t0\n", [&](PasteTableDialog &dialog) {
+        EXPECT_EQ(in<QComboBox>("tableUnit").currentText(), "Kilocandela");
+        EXPECT_EQ(in<QLabel>("tableUnitNote").text(), "The values are multiplied by 1000.");
+        EXPECT_EQ(preview(), "|H 0\nV 0|2480\nV 45|1500\nV 90|0");
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+    });
+    EXPECT_EQ(shown("cdaGridCd", 1, 1), "2480");
+}
+
 TEST_F(PasteTableSteps, kilolumensThatAreInTheMultiplierAreNotMultipliedAgain)
 {
     setText("txtNumLamps", "2");

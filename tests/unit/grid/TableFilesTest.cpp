@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 
 #include "core/NumberText.h"
@@ -12,6 +13,8 @@ namespace penwright {
 namespace {
 
 namespace fs = std::filesystem;
+
+constexpr std::array kUnitNames{"cd", "cd/klm", "kcd", "mcd"};
 
 std::string choicesText(const TableReading &reading)
 {
@@ -26,7 +29,7 @@ std::string choicesText(const TableReading &reading)
            "\ndecimal sign: " + reading.decimalSign + "\nthousands sign: " + signName(reading.thousandsSign) +
            "\nlines to skip: " + std::to_string(reading.linesToSkip) + "\nangles: " + angles +
            "\nvertical: " + (reading.verticalDown ? "down" : "across") +
-           "\nunit: " + (reading.isPerKilolumen ? "cd/klm" : "cd") + "\n";
+           "\nunit: " + kUnitNames[static_cast<std::size_t>(reading.unit)] + "\n";
 }
 
 std::string anglesText(const std::string &name, const OneBased<double> &angles)

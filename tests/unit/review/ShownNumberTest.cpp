@@ -27,11 +27,15 @@ TEST(ShownNumber, hasThreeDigitsBelow)
     EXPECT_EQ(roundedText(0), "0");
 }
 
-TEST(ShownNumber, staysAsItIsWhenItIsHuge)
+TEST(ShownNumber, hasThreeDigitsWhenItIsHugeOrNextToNothing)
 {
     EXPECT_EQ(roundedText(4.2e38), "4.2E+38");
+    EXPECT_EQ(roundedText(6.28318530717959e38), "6.28E+38");
+    EXPECT_EQ(roundedText(-6.28318530717959e37), "-6.28E+37");
     EXPECT_EQ(roundedText(2e16), "2E+16");
-    EXPECT_EQ(roundedText(4.9e-324), "4.94065645841247E-324");
+    EXPECT_EQ(roundedText(123456789012345), "123,456,789,012,345");
+    EXPECT_EQ(roundedText(1234567890123456), "1.23E+15");
+    EXPECT_EQ(roundedText(4.9e-324), "4.94E-324");
 }
 
 TEST(TypedNumber, hasTheDigitsOfTheTable)
