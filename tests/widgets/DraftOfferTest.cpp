@@ -37,6 +37,18 @@ protected:
         startWizard();
     }
 
+    /// Takes a draft over that does not come yet, and types what is to be kept meanwhile.
+    void typeWhileADraftIsAwaited()
+    {
+        leaveLamps("EL-2054", "3");
+        startSlowRun();
+        waitForOffer();
+        click("draftTakeOver");
+        EXPECT_EQ(focusName(), "txtNumLamps");
+        typeText("9");
+        waitUntilKept();
+    }
+
     std::string lampsOf(const DraftEntry &entry, int page = kLampPage, const char *box = "txtNumLamps")
     {
         SqliteDraftStore other(draftFolder);
@@ -259,13 +271,7 @@ TEST_F(DraftOffer, pagesThatWereTypedBeforeADraftIsTakenOverAreADraftOfTheirOwn)
 
 TEST_F(DraftOffer, draftThatComesLaterThanWhatIsTypedIsKeptTakesItsPlaceAsAStep)
 {
-    leaveLamps("EL-2054", "3");
-    startSlowRun();
-    waitForOffer();
-    click("draftTakeOver");
-    EXPECT_EQ(focusName(), "txtNumLamps");
-    typeText("9");
-    waitUntilKept();
+    typeWhileADraftIsAwaited();
     EXPECT_EQ(text("txtNumLamps"), "9");
     EXPECT_TRUE(find("draftLine")->isVisible());
     isReadable.store(true);
@@ -281,13 +287,7 @@ TEST_F(DraftOffer, draftThatComesLaterThanWhatIsTypedIsKeptTakesItsPlaceAsAStep)
 
 TEST_F(DraftOffer, whatIsTypedWhileADraftIsAwaitedThatDoesNotComeIsKept)
 {
-    leaveLamps("EL-2054", "3");
-    startSlowRun();
-    waitForOffer();
-    click("draftTakeOver");
-    EXPECT_EQ(focusName(), "txtNumLamps");
-    typeText("9");
-    waitUntilKept();
+    typeWhileADraftIsAwaited();
     std::filesystem::remove_all(draftFolder);
     isReadable.store(true);
     ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isHidden(); }));
