@@ -111,7 +111,7 @@ TEST_F(AnotherProgram, theFocusComesBackThoughThePointerIsOverTheHost)
     ASSERT_TRUE(spinUntil([this] { return !window->isActiveWindow(); }));
     other->obey("leavefocus");
     settle();
-    give(host);
+    host.obey("takefocus");
     EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
 }
 
