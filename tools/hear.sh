@@ -24,13 +24,13 @@ cd "$(dirname "$0")/.."
 # What has been said so far.
 said() { sed -n "s/.*SPEECH OUTPUT: '\(.*\)'{.*/\1/p" "$log"; }
 
-# Waits until the reader has been silent for two seconds.
+# Waits until the reader has heard and said nothing for two seconds: a busy one is silent while it thinks.
 until_silence() {
     still=0
     heard=-1
     until [ "$still" -ge 20 ]; do
         sleep 0.1
-        now=$(grep -c 'SPEECH OUTPUT' "$log" || true)
+        now=$(wc -c <"$log")
         [ "$now" = "$heard" ] && still=$((still + 1)) || still=0
         heard=$now
     done

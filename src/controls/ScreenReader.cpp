@@ -71,6 +71,23 @@ void tellFocus(QWidget &widget)
     QAccessible::updateAccessibility(&event);
 }
 
+/// Tells what has the focus once a list or menu that hung over its window is gone: a popup takes the keyboard from
+/// another program's window around that one too, which is told as active when it comes back.
+class FocusAfterPopup : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() == QEvent::Hide && object->isWidgetType())
+            if (const auto &closed = static_cast<QWidget &>(*object); closed.windowType() == Qt::Popup)
+                if (QWidget *window = QApplication::activeWindow())
+                    tellFocusSoon(*window);
+        return false;
+    }
+};
+
 /// Lets nothing be told of the text of a box that is about to get the focus before the box itself is told.
 class FocusFirst : public QObject {
 public:
@@ -115,6 +132,7 @@ bool install()
 {
     QAccessible::installFactory(answer);
     qApp->installEventFilter(new FocusFirst(qApp));
+    qApp->installEventFilter(new FocusAfterPopup(qApp));
     return true;
 }
 

@@ -16,6 +16,7 @@ namespace penwright {
 /// group for them, where the toolkit's word for it is read as that for a window. And nothing is told of the text of a
 /// box before the box has been told to have the focus: the toolkit tells first that the text is marked, and a reader
 /// that hears of the text of a box which it does not know yet says nothing more of it, so that an empty box is silence.
+/// And what has the focus is told once more after a list or menu over its window has closed.
 void setScreenReaderRole(QWidget &widget, QAccessible::Role role);
 
 /// Sets what is told of a widget beside its name, when it is something new: each change may be spoken.

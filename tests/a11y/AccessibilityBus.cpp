@@ -80,10 +80,14 @@ std::string AccessibilityBus::focusText() const
     const AccessibleObject object(m_bus, m_focusService, m_focusPath);
     if (!object.exists())
         return {};
-    return (object.roleName() + " \"" + object.name() + '"' +
-            (object.has("Text") ? " = \"" + object.text() + '"' : "") +
-            (object.description().isEmpty() ? "" : " (" + object.description() + ')'))
-        .toStdString();
+    try {
+        return (object.roleName() + " \"" + object.name() + '"' +
+                (object.has("Text") ? " = \"" + object.text() + '"' : "") +
+                (object.description().isEmpty() ? "" : " (" + object.description() + ')'))
+            .toStdString();
+    } catch (const std::runtime_error &) {  // it has gone while it was asked
+        return {};
+    }
 }
 
 void AccessibilityBus::stateChanged(const QDBusMessage &event)
@@ -93,8 +97,15 @@ void AccessibilityBus::stateChanged(const QDBusMessage &event)
     const bool isNew = m_focusService != event.service() || m_focusPath != event.path();
     m_focusService = event.service();
     m_focusPath = event.path();
+    ++m_timesFocused;
     if (isNew)
         m_told += focusText() + "\n";
+}
+
+int AccessibilityBus::timesFocused()
+{
+    QCoreApplication::processEvents();
+    return m_timesFocused;
 }
 
 int AccessibilityBus::textsBeforeFocus()

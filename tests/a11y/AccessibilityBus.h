@@ -32,6 +32,9 @@ public:
     void beginToTell() { m_told.clear(); }
     std::string told();
 
+    /// How often something was told to have the focus, the same thing again included.
+    int timesFocused();
+
     /// How often something was told of a text in a box that had not been told to have the focus.
     int textsBeforeFocus();
 
@@ -48,6 +51,7 @@ private:
     QString m_focusService;
     QString m_focusPath;
     int m_changedDescriptions = 0;
+    int m_timesFocused = 0;
     int m_textsBeforeFocus = 0;
     std::string m_told;
 };

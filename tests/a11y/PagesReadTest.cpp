@@ -167,6 +167,24 @@ TEST_F(ReadRun, aBoxIsToldBeforeItsText)
     expectUnloaded();
 }
 
+// The host's window is told as active when a list closes, and would have the last word.
+TEST_F(ReadRun, aFieldIsToldOnceMoreWhenItsListHasClosed)
+{
+    constexpr const char *kShapes = "combo box \"Rectangle\" (Rectangle)";
+    ASSERT_TRUE(tells("text \"Number Of Lamps\" = \"\""));
+    type("1\t1\t1\t1\t1\t");
+    ASSERT_TRUE(tells("combo box \"Luminous shape\""));
+    typeKeys({"alt+Down", "Down"});
+    ASSERT_TRUE(tells("list item \"Rectangle\""));
+    typeKeys({"Return"});
+    ASSERT_TRUE(tells(kShapes));
+    const int before = bus.timesFocused();
+    EXPECT_TRUE(waitUntil([&] { return bus.timesFocused() > before; }, 20s));
+    EXPECT_TRUE(tells(kShapes));
+    send("CLOSE");
+    expectUnloaded();
+}
+
 TEST_F(ReadRun, focusIsToldWhereverItGoes)
 {
     EXPECT_TRUE(tells("text \"Number Of Lamps\" = \"\""));

@@ -69,6 +69,14 @@ protected:
         std::string name = xdotool({"getwindowname", std::to_string(wizard())});
         return name.substr(0, name.find('\n'));
     }
+    /// The help, which gets the keyboard.
+    void openHelp()
+    {
+        typeKeys({"F1"});
+        const std::string help = windowTitled(kHelpTitle);
+        ASSERT_NE(help, "");
+        ASSERT_TRUE(waitUntil([&] { return std::to_string(display.focus()) == help; }));
+    }
     bool shows(int page)
     {
         return waitUntil([&] { return caption() == kCaptions.at(page); });
@@ -289,10 +297,7 @@ TEST_F(EmbeddedRun, closeEndsItUnderAMessage)
 TEST_F(EmbeddedRun, helpTakesTheKeyboardAndGoesWithTheTool)
 {
     startWizard();
-    typeKeys({"F1"});
-    const std::string help = windowTitled(kHelpTitle);
-    ASSERT_NE(help, "");
-    EXPECT_TRUE(waitUntil([&] { return std::to_string(display.focus()) == help; }));
+    openHelp();
     send("CLOSE");
     expectUnloaded();
     EXPECT_EQ(tool().readAll(), "");
@@ -301,8 +306,7 @@ TEST_F(EmbeddedRun, helpTakesTheKeyboardAndGoesWithTheTool)
 TEST_F(EmbeddedRun, helpStaysUsableWhileTheWizardAsks)
 {
     startWizard();
-    typeKeys({"F1"});
-    ASSERT_NE(windowTitled(kHelpTitle), "");
+    openHelp();
     xdotool({"windowfocus", "--sync", std::to_string(wizard())});
     typeKeys({"Escape"});
     ASSERT_NE(windowTitled("Canceling New File Wizard"), "");

@@ -190,7 +190,8 @@ TEST_F(WithManager, aDialogOfAWizardWithoutAHostKeepsTheKeyboardWhenTheWizardIsC
     whenDialogIsUp([this](QDialog &box) {
         ASSERT_TRUE(spinUntil([&] { return box.isActiveWindow() && display.focus() == idOf(box); }));
         box.move(800, 600);
-        settle();
+        const Rectangle wizard = display.onScreen(id());
+        ASSERT_TRUE(spinUntil([&] { return display.onScreen(idOf(box)).y > wizard.y + wizard.height; }));
         clickAt(*first);
         settle();
         EXPECT_TRUE(spinUntil([&] { return display.focus() == idOf(box); }));

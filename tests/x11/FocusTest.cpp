@@ -71,6 +71,19 @@ TEST_F(Focus, isTakenOnceTheHostIsOnTheScreen)
     typeAndExpect(*first, "abc");
 }
 
+// So does a window manager that turns late to a window that comes back.
+TEST_F(Focus, isTakenBackFromAHostThatTakesItAsItComesBack)
+{
+    embed();
+    host.obey("unmap");
+    window->show();
+    embedding.takeFocus();
+    host.obey("map");
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id() && window->isActiveWindow(); }));
+    host.obey("takefocus");
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+}
+
 TEST_F(Focus, isLetGoWhenTheRestOfTheHostIsPressed)
 {
     embedAndShow();

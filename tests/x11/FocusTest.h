@@ -18,12 +18,12 @@ inline const MessageBox kQuestion{.text = "Lose <b>all</b>?", .flags = kYesNo + 
 class Focus : public EmbeddedWizard {
 protected:
     /// Typed with the pointer far away, so that only the focus can lead the keys to the wizard, and once the window
-    /// manager has come to rest.
+    /// manager has come to rest: one that turns to the host late has the keys until the wizard takes them back.
     void typeAndExpect(QLineEdit &box, const std::string &text)
     {
         movePointerAway();
-        const auto hasTurned = [this] { return display.activeWindow() == host.topWindow(); };
-        ASSERT_TRUE(!hasManager() || spinUntil(hasTurned)) << display.activeWindow();
+        const auto hasTurned = [this] { return display.activeWindow() == host.topWindow() && display.focus() == id(); };
+        ASSERT_TRUE(!hasManager() || spinUntil(hasTurned)) << display.activeWindow() << " " << display.focus();
         xdotool({"type", text});
         EXPECT_TRUE(spinUntil([&] { return box.text().toStdString() == text; }))
             << box.text().toStdString() << ", the keyboard is with "

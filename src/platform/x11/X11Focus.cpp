@@ -13,8 +13,11 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// How long a window manager is given to turn to a new dialog.
+/// How long a window manager is given to turn to a dialog or to the help window.
 constexpr auto kManagersTime = 200ms;
+
+/// How long a window manager that is busy may hand the focus to the host after the wizard has taken it.
+constexpr auto kContested = 2s;
 
 void activateModal()
 {
@@ -135,9 +138,8 @@ bool X11Focus::eventFilter(QObject *object, QEvent *event)
         QCoreApplication::sendEvent(m_window->windowHandle(), event);
     if (object == m_window || object == m_window->windowHandle())
         onOwnWindow(event->type());
-    else if (object->isWidgetType() && (event->type() == QEvent::Show || event->type() == QEvent::Hide)) {
+    else if (object->isWidgetType())
         onOtherWindow(static_cast<QWidget &>(*object), event->type());
-    }
     return false;
 }
 
@@ -149,7 +151,14 @@ void X11Focus::onOwnWindow(QEvent::Type type)
     else if (type == QEvent::Show)
         takeSoon();
     else if (type == QEvent::Expose && m_takeWhenExposed)
-        take();
+        takeAtOnceShown();
+}
+
+// A window manager that turns to the host's window as it comes back may do so after the wizard was given the focus.
+void X11Focus::takeAtOnceShown()
+{
+    m_contested.setRemainingTime(kContested);
+    take();
 }
 
 // Once for what tells of one showing: a user may have pressed elsewhere before the next one is heard.
@@ -164,11 +173,14 @@ void X11Focus::takeSoon()
 
 void X11Focus::onOtherWindow(QWidget &other, QEvent::Type type)
 {
-    if (!other.isWindow() || !other.windowHandle())
+    const bool isTurnedTo = type == QEvent::Show || type == QEvent::ZOrderChange;
+    if ((!isTurnedTo && type != QEvent::Hide) || !other.isWindow() || !other.windowHandle())
         return;
     if (other.windowType() == Qt::Dialog)
         onDialog(other, type);
-    else if (other.windowType() == Qt::Window && type == QEvent::Hide && other.windowHandle() == m_lastFocused)
+    else if (other.windowType() == Qt::Window && isTurnedTo)
+        giveSoonTo(other);  // the help window, asked for
+    else if (other.windowType() == Qt::Window && other.windowHandle() == m_lastFocused)
         takeBack();  // the help window, closed by its user
 }
 
@@ -176,17 +188,24 @@ void X11Focus::onDialog(QWidget &dialog, QEvent::Type type)
 {
     if (type == QEvent::Hide)
         return takeBack();
-    dialog.windowHandle()->setTransientParent(m_foreign.of(x11::topLevelOf(m_host)));
-    // A window manager that counts by its own last press may find itself ignored.
-    QTimer::singleShot(kManagersTime, &dialog, [this, &dialog] {
-        if (dialog.isVisible() && hasIt())
-            x11::focus(static_cast<x11::WindowId>(dialog.winId()));
+    if (type == QEvent::Show) {
+        dialog.windowHandle()->setTransientParent(m_foreign.of(x11::topLevelOf(m_host)));
+        giveSoonTo(dialog);
+    }
+}
+
+// A window manager that counts by its own last press may find itself ignored where it gives a window the focus.
+void X11Focus::giveSoonTo(QWidget &other)
+{
+    QTimer::singleShot(kManagersTime, &other, [this, &other] {
+        if (other.isVisible() && hasIt())
+            x11::focus(static_cast<x11::WindowId>(other.winId()));
     });
 }
 
 void X11Focus::takeBack()
 {
-    m_contested.setRemainingTime(2s);
+    m_contested.setRemainingTime(kContested);
     QTimer::singleShot(0, this, [this] {
         activateModal();
         takeUnlessElsewhere();

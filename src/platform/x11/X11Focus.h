@@ -56,7 +56,9 @@ private:
     void onOwnWindow(QEvent::Type type);
     void onOtherWindow(QWidget &other, QEvent::Type type);
     void onDialog(QWidget &dialog, QEvent::Type type);
+    void giveSoonTo(QWidget &other);
     void takeSoon();
+    void takeAtOnceShown();
     void takeBack();
     void takeInTime(x11::WindowId self);
     void takeUnlessElsewhere();
@@ -76,7 +78,7 @@ private:
     QPointer<QWindow> m_lastFocused;  ///< of this program's windows
     bool m_takeWhenExposed = false;
     bool m_isTakeDue = false;    ///< since it was shown
-    QDeadlineTimer m_contested;  ///< until then a window manager may hand the focus of a closed window to the host
+    QDeadlineTimer m_contested;  ///< until then a window manager may hand the host the focus that is the wizard's
 };
 
 }  // namespace penwright
