@@ -5,6 +5,7 @@
 set -eu
 root=$1
 shift
+mount --bind "$root" "$root"  # a root that is a mount, so that mounts within can be kept from spreading
 mount -t proc proc "$root/proc"
 # Nothing of the machine's own /dev, not even by a bind mount: what is done to a node there is done to the machine's.
 mount -t tmpfs -o mode=755 tmpfs "$root/dev"

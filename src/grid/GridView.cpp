@@ -151,6 +151,8 @@ void GridView::showRefused(int row, int column)
 {
     if (isEditing())
         return m_editor->line()->setFocus(Qt::OtherFocusReason);
+    if (!isVisible())
+        return;  // the host has had another page shown meanwhile
     const QModelIndex cell = m_model->indexOf({row, column});
     const bool wasSeen = viewport()->rect().contains(visualRect(cell));
     goTo(row, column);

@@ -203,8 +203,11 @@ std::string_view oneAngle(std::string_view cell)
     std::size_t unit = letters.find("cd", std::min(digit, cell.size()));
     if (unit == std::string::npos)
         return firstPlane(cell);
-    if (unit > 0 && (letters[unit - 1] == 'k' || letters[unit - 1] == 'm'))
+    if (unit > 0 && (letters[unit - 1] == 'k' || letters[unit - 1] == 'm')) {
         --unit;
+        if (letters.find('/', unit) != std::string::npos)
+            return cell;  // no unit of a table is kcd/klm
+    }
     constexpr std::string_view kBetween = " ([,/";
     const std::string_view angle = firstPlane(cell.substr(0, cell.find_last_not_of(kBetween, unit - 1) + 1));
     const std::optional<AngleParts> parts = angleParts(angle);

@@ -47,17 +47,25 @@ bool namesKilolumen(std::string_view text)
 }
 
 /// Whether a unit stands there by itself, as the unit of a table does and that of one value does not: "I [kcd]", but
-/// not "2.48 kcd".
+/// neither "2.48 kcd" nor "Imax [kcd]: 2.48".
 bool namesUnit(const std::string &text, std::string_view unit)
 {
-    const auto isPartOfWord = [](char c) { return (c >= 'a' && c <= 'z') || isDigit(c) || c == '/'; };
+    const auto isLetter = [](char c) { return c >= 'a' && c <= 'z'; };
+    // "C0 kcd" and "(C0)/kcd" are angles over values in that unit, "2.48 kcd" is a value.
+    const auto endsWithValue = [&](std::string_view before) {
+        const std::size_t last = before.find_last_not_of(' ');
+        if (last == std::string_view::npos || !isDigit(before[last]))
+            return false;
+        const std::size_t first = before.find_last_not_of("0123456789.,", last);
+        return first == std::string_view::npos || !isLetter(before[first]);
+    };
     for (std::size_t at = text.find(unit); at != std::string::npos; at = text.find(unit, at + 1)) {
         const std::size_t end = at + unit.size();
-        const std::size_t before = at == 0 ? std::string::npos : text.find_last_not_of(' ', at - 1);
-        const bool isBehindNumber = before != std::string::npos && isDigit(text[before]);
-        const bool isWord =
-            (at == 0 || !isPartOfWord(text[at - 1])) && (end == text.size() || !isPartOfWord(text[end]));
-        if (isWord && !isBehindNumber)
+        const bool isBegin = at == 0 || (!isLetter(text[at - 1]) && !isDigit(text[at - 1]));
+        const bool isEnd = end == text.size() || (!isLetter(text[end]) && !isDigit(text[end]) && text[end] != '/');
+        const std::size_t behind = text.find_first_not_of(" )]:=;,\t", end);
+        const bool isBeforeValue = behind != std::string::npos && isDigit(text[behind]);
+        if (isBegin && isEnd && !isBeforeValue && !endsWithValue(std::string_view(text).substr(0, at)))
             return true;
     }
     return false;
@@ -76,7 +84,8 @@ ValueUnit unitOf(std::string_view beginning)
         return ValueUnit::Candela;
     if (isOneOf({"kcd", "kilocandela", "kilocandelas"}))
         return ValueUnit::Kilocandela;
-    return isOneOf({"mcd", "millicandela", "millicandelas"}) ? ValueUnit::Millicandela : ValueUnit::Candela;
+    const bool isMilli = isOneOf({"millicandela", "millicandelas"}) || namesUnit(std::string(beginning), "mcd");
+    return isMilli ? ValueUnit::Millicandela : ValueUnit::Candela;  // "MCD" is a name, and "Mcd" is no thousandth
 }
 
 }  // namespace

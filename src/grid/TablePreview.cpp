@@ -133,12 +133,14 @@ void TablePreview::showCells()
 {
     // Those beyond are seen by who scrolls there, and as wide as the widest of these.
     constexpr int kFitted = 100;
-    int widest = 0;
-    for (int column = 0; column < std::min(kFitted, m_cells->columnCount()); ++column) {
-        resizeColumnToContents(column);
-        widest = std::max(widest, columnWidth(column));
-    }
-    horizontalHeader()->setDefaultSectionSize(std::max(widest, horizontalHeader()->minimumSectionSize()));
+    QHeaderView *header = horizontalHeader();
+    std::vector<int> widths;
+    for (int column = 0; column < std::min(kFitted, m_cells->columnCount()); ++column)
+        widths.push_back(std::max(sizeHintForColumn(column), header->sectionSizeHint(column)));
+    const int widest = widths.empty() ? 0 : *std::max_element(widths.begin(), widths.end());
+    header->setDefaultSectionSize(std::max(widest, header->minimumSectionSize()));  // of all sections
+    for (std::size_t column = 0; column < widths.size(); ++column)
+        setColumnWidth(static_cast<int>(column), widths[column]);
     setCurrentIndex(m_cells->index(0, 0));
 }
 

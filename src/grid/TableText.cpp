@@ -69,7 +69,6 @@ private:
     TableReading m_reading;
     TableLines m_lines;
     std::optional<TableLine> m_heading;  ///< the line of angles over the values
-    std::size_t m_summariesAbove = 0;    ///< names of averages and sums at the end of the line over it
     std::size_t m_width = 0;             ///< cells of a whole line, 0 before the first line of values
     std::size_t m_least = 0;             ///< cells of a line that lacks averages and sums
     std::vector<std::size_t> m_columns;  ///< cells with values
@@ -97,8 +96,6 @@ std::variant<TableContent, TableFault> TableTextReading::run(const std::function
         }
         if (line.number > static_cast<std::size_t>(std::max(m_reading.linesToSkip, 0)))
             readLine(line);
-        else
-            m_summariesAbove = namedAtEnd(line.cells);
     }
     if (!m_fault && m_rows == 0)
         m_fault = nothingRead();
@@ -244,8 +241,10 @@ void TableTextReading::begin(const TableLine &line)
     for (std::size_t place = m_width; areCellsCut && place < angles.size(); ++place)
         if (tableAngle(angles[place], m_reading))
             return refuseWidth(line, angles.size());
-    // One column more may be an unnamed average; several are numbers cut in two, at their decimal commas or at blanks.
-    if (m_width > angles.size() + 1)
+    // One column more may be an unnamed average, which one plane has none of; else numbers are cut in two, at their
+    // decimal commas or at blanks.
+    const bool isOnePlane = m_reading.hasAngleColumn && angles.size() == 2 && !tableAngle(angles.front(), m_reading);
+    if (m_width > angles.size() + (isOnePlane ? 0 : 1))
         return refuseWidth(line, angles.size());
     m_width = headedWidth(angles, m_width, m_reading);
     const TableHeading heading = tableHeading(angles, m_width, m_reading);
@@ -253,8 +252,6 @@ void TableTextReading::begin(const TableLine &line)
         return refuse(m_heading->number, m_heading->before + *heading.wrong + 1,
                       shownWord(angles[*heading.wrong]) + " is no angle.");
     m_columns = heading.columns;
-    const bool isUnderSummaries = !areCellsCut && namedAtEnd(angles) == 0 && heading.columns.size() + 1 == m_width;
-    m_width += isUnderSummaries ? m_summariesAbove : 0;
     // Between blanks a cell that is missing may be any: only where the first line lacks some others may.
     if (areCellsCut && !m_columns.empty())
         m_least = m_columns.back() + 1;

@@ -3,6 +3,7 @@
 #include "core/FileErrors.h"
 #include "core/FileSaving.h"
 #include "core/IesText.h"
+#include "core/RecordAngles.h"
 #include "platform/Dialogs.h"
 
 namespace penwright {
@@ -49,12 +50,15 @@ FinishEnd FinishAndSave::SaveNewFile(bool saveAs, const std::string &title)
 
 bool FinishAndSave::saveUnderChosenName()
 {
+    const bool hadAngles = hasAngles(m_state.PhotFiles(1));
     for (;;) {
         const std::optional<std::string> name = m_dialogs.chooseSaveName(kQuestion);
         if (!name)
             return false;
         if (name->empty())
             continue;
+        if (hadAngles && !hasAngles(m_state.PhotFiles(1)))
+            return false;  // the host has sent such a record meanwhile, and page 4 is shown
         m_state.PhotFiles(1).Filename = *name;
         m_state.PhotFiles(1).Directory = directoryOf(*name);
         // A copy: "DATACHANGED" may replace the array while a message box is open.

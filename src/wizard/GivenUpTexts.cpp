@@ -30,7 +30,7 @@ void GivenUpTexts::giveUp(GridView &grid, const GridText &cell)
 void GivenUpTexts::step(const std::shared_ptr<Act> &act, bool isUndo)
 {
     m_undone = act;
-    if (isUndo)
+    if (isUndo && act->grid.isVisible())  // in a hidden grid nobody would see what the next page turn commits
         act->grid.resumeTyping(act->cell);
 }
 

@@ -288,7 +288,9 @@ void PageFrame::addTopLine(QWidget &line)
 
 void PageFrame::showWarnings()
 {
-    goToFault(dlgWarn().showModal());
+    const std::optional<FaultPlace> place = dlgWarn().showModal();
+    if (isVisible())  // the host may have had another page shown meanwhile
+        goToFault(place);
 }
 
 void PageFrame::goToFault(const std::optional<FaultPlace> &place)

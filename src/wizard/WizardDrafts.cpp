@@ -330,6 +330,8 @@ void WizardDrafts::giveBack()
 /// Goes on with the draft that was given back, unless another run has it by now.
 void WizardDrafts::takeBack()
 {
+    if (m_isTyped && m_visited.count() > 1)
+        m_keeper.leave();  // what was typed on other pages meanwhile stays a draft
     m_keeper.takeOver(m_taken.name, [](const TakenDraft &) {});
     m_replay.setAside();
     m_hasTaken = true;

@@ -111,9 +111,9 @@ protected:
         return waitUntil(
             [this] {
                 const auto last = lastWriting();
-                return last && std::filesystem::file_time_type::clock::now() - *last > 2500ms;
+                return last && std::filesystem::file_time_type::clock::now() - *last > 8s;
             },
-            30s);
+            60s);
     }
 
     int keys() const { return m_keys; }
@@ -173,6 +173,7 @@ TEST_F(EngineerRun, tableFromTheClipboardThreeSlipsACrashAndARemarkMakeTheFile)
     press({"space", "Tab", "Tab", "ctrl+shift+v"});
     turnTo("Paste Table");
     press({"Return"});
+    ASSERT_TRUE(waitUntil([] { return windowTitled("Paste Table", 0ms).empty(); }));
     turnTo(kCaptions[3]);
     next(4);
 
@@ -184,6 +185,7 @@ TEST_F(EngineerRun, tableFromTheClipboardThreeSlipsACrashAndARemarkMakeTheFile)
     ASSERT_TRUE(tool().waitForEnd());
 
     startAndShow();
+    std::this_thread::sleep_for(2s);             // a user's look at the line
     press({"shift+Tab", "shift+Tab", "space"});  // takes the draft over
     turnTo(kCaptions[4]);
     next(5);

@@ -77,9 +77,10 @@ TEST_F(MountedStoreTest, fullFileSystemIsAnErrorAndTheStoreStaysWhole)
               "61\n" + path + ": database or disk is full\nbefore\nwritten");
 }
 
-/// What a routine returns while a folder can only be read. Where it cannot be mounted so, modes say the same to an
-/// ordinary user.
-std::string whileReadOnly(const std::string &folder, const std::function<std::string()> &body)
+/// What a routine returns while a folder in another can only be read. Where it cannot be mounted so, modes of both say
+/// the same to an ordinary user.
+std::string whileReadOnly(const std::filesystem::path &top, const std::string &folder,
+                          const std::function<std::string()> &body)
 {
     const std::string text = inChild([&]() -> std::string {
         const bool isReal = haveOwnMounts() && mount(folder.c_str(), folder.c_str(), nullptr, MS_BIND, nullptr) == 0 &&
@@ -89,10 +90,10 @@ std::string whileReadOnly(const std::string &folder, const std::function<std::st
     if (text != "(no mount)")
         return text;
     std::cerr << "No file system can be mounted on this machine; modes stand for one that is read-only.\n";
-    const auto setModes = [&folder](mode_t ofFiles, mode_t ofFolders) {
+    const auto setModes = [&folder, &top](mode_t ofFiles, mode_t ofFolders) {
         for (const auto &entry : std::filesystem::directory_iterator(folder))
             chmod(entry.path().c_str(), ofFiles);
-        for (std::filesystem::path up = folder; up != std::filesystem::temp_directory_path(); up = up.parent_path())
+        for (std::filesystem::path up = folder; up != top.parent_path(); up = up.parent_path())
             chmod(up.c_str(), ofFolders);
     };
     setModes(0444, 0555);
@@ -105,7 +106,7 @@ TEST_F(MountedStoreTest, readOnlyFileSystemIsRefusedInOneSentence)
 {
     write("a", "before");
     closeStore();
-    EXPECT_EQ(whileReadOnly(m_place, [this] { return errorOf([this] { open(); }); }),
+    EXPECT_EQ(whileReadOnly(folder.path(), m_place, [this] { return errorOf([this] { open(); }); }),
               "75\n" + path + ": the file is read-only");
 }
 
@@ -138,7 +139,7 @@ TEST_F(MountedDraftTest, fullFileSystemIsAnErrorAndTheDraftStaysWhatItWas)
 TEST_F(MountedDraftTest, readOnlyFileSystemIsAnErrorOnlyForWhoWrites)
 {
     leave("sound");
-    const std::string told = whileReadOnly(drafts, [this] {
+    const std::string told = whileReadOnly(folder.path(), drafts, [this] {
         SqliteDraftStore run(drafts);
         const DraftsFound found = run.look();
         return std::to_string(found.putAside) + offered(found) + errorOf([&] { write(run, "any"); }).substr(0, 2);

@@ -67,7 +67,8 @@ void KeywordPage::cmdSaveDefaults_Click()
         return;
     steps().addAct("Save As Defaults", [this, before, after](bool isUndo) {
         restoreDefaults(m_store, isUndo ? *before : *after);
-        showNote(isUndo ? "The former defaults are back." : "");
+        const bool areBack = isUndo && storedDefaults(m_store) == before;
+        showNote(areBack ? "The former defaults are back." : "");
     });
 }
 

@@ -125,6 +125,7 @@ void X11Focus::onPress()
     if (!m_host || !m_window || !x11::isPointerOver(m_hostTop, static_cast<x11::WindowId>(m_window->winId())))
         return;
     m_heldIt = false;  // the host is meant, and what it takes is not taken back
+    m_contested = QDeadlineTimer();
     if (hasIt())
         x11::focus(m_hostTop, x11::laterOf(m_presses.time(), x11::userTimeOf(m_hostTop)));
 }

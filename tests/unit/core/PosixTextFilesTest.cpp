@@ -187,14 +187,18 @@ TEST_F(Files, programThatRunsIsNotOverwritten)
     const std::string path = folder.file("sleeper");
     fs::copy_file("/bin/sleep", path);
     chmod(path.c_str(), 0777);
+    int ran[2];  // closed as the program begins to run
+    ASSERT_EQ(pipe2(ran, O_CLOEXEC), 0);
     const pid_t child = fork();
     if (child == 0) {
         execl(path.c_str(), path.c_str(), "60", nullptr);
         _exit(127);
     }
-    // Started once its own image is busy.
-    for (int file = 0; (file = open(path.c_str(), O_WRONLY | O_CLOEXEC)) >= 0; usleep(1000))
-        close(file);
+    char none = 0;
+    close(ran[1]);
+    EXPECT_EQ(read(ran[0], &none, 1), 0);
+    close(ran[0]);
+    EXPECT_EQ(open(path.c_str(), O_WRONLY | O_CLOEXEC), -1);
     EXPECT_EQ(errno, ETXTBSY);
     EXPECT_EQ(files.replace(path, "x"), ETXTBSY);
     EXPECT_EQ(entries(), 1);

@@ -111,16 +111,23 @@ std::optional<Arranged> takenNames(const fs::path &folder)
 std::optional<Arranged> programThatRuns(const fs::path &folder)
 {
     int ends[2];
+    int ran[2];  // closed as the program begins to run
     fs::copy_file("/bin/cat", folder / "a.ies", fs::copy_options::overwrite_existing);
-    if (chmod((folder / "a.ies").c_str(), 0700) != 0 || pipe2(ends, O_CLOEXEC) != 0)
+    if (chmod((folder / "a.ies").c_str(), 0700) != 0 || pipe2(ends, O_CLOEXEC) != 0 || pipe2(ran, O_CLOEXEC) != 0)
         return std::nullopt;
     if (fork() == 0) {
         dup2(ends[0], STDIN_FILENO);
         execl((folder / "a.ies").c_str(), "cat", nullptr);
         _exit(127);
     }
-    for (int file = 0; (file = open((folder / "a.ies").c_str(), O_WRONLY | O_CLOEXEC)) >= 0; usleep(1000))
+    char none = 0;
+    close(ran[1]);
+    const bool isRun = read(ran[0], &none, 1) == 0;
+    close(ran[0]);
+    if (const int file = open((folder / "a.ies").c_str(), O_WRONLY | O_CLOEXEC); !isRun || file >= 0) {
         close(file);
+        return std::nullopt;  // no program may run there
+    }
     return Arranged{folder / "a.ies"};
 }
 
