@@ -269,6 +269,31 @@ TEST_F(DraftOffer, pagesThatWereTypedBeforeADraftIsTakenOverAreADraftOfTheirOwn)
     EXPECT_NE(lampsOf(found.free[1], kKeywordPage, "keyGrid").find("EL-2054"), std::string::npos);
 }
 
+TEST_F(DraftOffer, pagesThatWereTypedBeforeATakingOverIsMadeAgainAreADraftOfTheirOwn)
+{
+    leaveLamps("EL-2054", "3");
+    startRun();
+    waitForOffer();
+    fillPageOne();
+    takeOver();
+    press(Qt::Key_Z, Qt::ControlModifier);
+    waitForOffer();
+    click("cmdNext10");
+    ASSERT_EQ(shownPage(), kKeywordPage);
+    fillPageThree();
+    click("cmdBack20");
+    press(Qt::Key_Y, Qt::ControlModifier);
+    ASSERT_EQ(text("txtNumLamps"), "3");
+    waitUntilKept();
+    kill();
+    const DraftsFound found = left();
+    ASSERT_EQ(found.free.size(), 2U);
+    const auto isTyped = [this](const DraftEntry &draft) {
+        return lampsOf(draft) == "1" && lampsOf(draft, kKeywordPage, "keyGrid").find("EL-2054") != std::string::npos;
+    };
+    EXPECT_TRUE(isTyped(found.free[0]) || isTyped(found.free[1]));
+}
+
 TEST_F(DraftOffer, draftThatComesLaterThanWhatIsTypedIsKeptTakesItsPlaceAsAStep)
 {
     typeWhileADraftIsAwaited();

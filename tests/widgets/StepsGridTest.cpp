@@ -1,3 +1,4 @@
+#include "support/Process.h"
 #include "widgets/StepsTest.h"
 
 namespace penwright::test {
@@ -391,6 +392,18 @@ TEST_F(StepsTest, takeWhatIsBeingTypedWhenTheWizardStartsAgain)
     typeText("No. 7");
     window->StartWizard();
     EXPECT_EQ(shown("keyGrid", 2, 1), "No. 7");
+}
+
+TEST_F(StepsTest, sayNothingOfDefaultsThatTheStoreDoesNotTakeBack)
+{
+    window->ShowPage(kKeywordPage);
+    typeCell("keyGrid", 2, 1, "No. 7");
+    click("cmdSaveDefaults");
+    Process({"sqlite3", folder.file("settings.sqlite3"),
+             "CREATE TRIGGER refusal BEFORE DELETE ON setting BEGIN SELECT RAISE(ABORT, 'refused'); END"})
+        .waitForEnd();
+    undo();
+    EXPECT_EQ(find<QLabel>("note2")->text().toStdString(), "");
 }
 
 TEST_F(StepsTest, bringBackTheDefaultsThatWereSavedOverWithALineOfIt)

@@ -134,6 +134,29 @@ TEST_F(StepsTurn, backShowsTheListsOfTheTableThatTheHostHasSentAsAStep)
     expectListsOfTheTable();
 }
 
+TEST_F(StepsTurn, backOpensNoEditorForATextThatWasGivenUpOnTheWay)
+{
+    openPageFive();
+    fillPageFive();
+    const Standing before = standing();
+    click("cmdBack50");
+    find("phoCmbVert")->setFocus();
+    press(Qt::Key_Down);
+    grid("phoGridHorz").setFocus();
+    grid("phoGridHorz").goTo(1, 0);
+    typeText("45");
+    press(Qt::Key_Escape);
+    ASSERT_EQ(undoName(), "Undo Escape");
+    click("cmdNext30");
+    ASSERT_EQ(shownPage(), kCandelaPage);
+    undo();
+    click("cmdBack50");
+    expectListsOfTheTable();
+    EXPECT_EQ(standing(), before);
+    EXPECT_FALSE(grid("phoGridHorz").isEditing());
+    EXPECT_EQ(dialogs.transcript, "");
+}
+
 TEST_F(StepsTurn, dataWithoutAnglesLeadToTheAnglesThatPageFourHas)
 {
     openPageFive();

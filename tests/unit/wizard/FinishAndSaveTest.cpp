@@ -80,6 +80,15 @@ TEST_F(FinishAndSaveTest, cancelledDialogSavesAndPostsNothing)
     EXPECT_EQ(bench.dialogs.transcript, kQuestion);
 }
 
+TEST_F(FinishAndSaveTest, recordThatLosesItsAnglesUnderTheDialogIsNotSaved)
+{
+    bench.dialogs.names = {"/lum/b.ies"};
+    bench.dialogs.onAskName = [this] { bench.state.PhotFiles(1).NumHorzAngles = 0; };
+    EXPECT_EQ(finish(true), FinishEnd::NotFinished);
+    EXPECT_EQ(posted + writtenPaths() + record().Filename, "");
+    EXPECT_EQ(bench.dialogs.transcript, kQuestion);
+}
+
 TEST_F(FinishAndSaveTest, emptyNameAsksAgain)
 {
     bench.dialogs.names = {"", "", "/lum/b.ies"};
