@@ -20,4 +20,13 @@ using PageValue = std::vector<HeldText>;
 /// What controls of a page are to hold, by their names.
 using PageText = std::map<std::string, std::string>;
 
+/// What controls hold whose texts are there already.
+inline PageValue asValue(const PageText &texts)
+{
+    PageValue value;
+    for (const auto &[name, text] : texts)
+        value.push_back({name, [text = text] { return text; }});
+    return value;
+}
+
 }  // namespace penwright

@@ -52,8 +52,10 @@ GridView::GridView(QWidget *parent)
     verticalHeader()->setDefaultAlignment(Qt::AlignCenter);
     setHeaderSizes();
     m_menu->setObjectName("mnuGrid");
-    addMenuAction("copyBlock", "&Copy", QKeySequence::Copy, &GridSteering::copy);
-    addMenuAction("pasteBlock", "&Paste", QKeySequence::Paste, &GridSteering::paste);
+    QAction *copy = addMenuAction("copyBlock", "&Copy", QKeySequence::Copy);
+    QAction *paste = addMenuAction("pasteBlock", "&Paste", QKeySequence::Paste);
+    connect(copy, &QAction::triggered, this, [this] { m_steering.copy(); });
+    connect(paste, &QAction::triggered, this, [this] { m_steering.paste(); });
     connect(m_model, &GridModel::cellWritten, this, &GridView::cellWritten);
     connect(m_model, &GridModel::valuesReplaced, this, &GridView::valuesReplaced);
     connect(m_model, &GridModel::hinted, this, &GridView::hinted);
@@ -79,25 +81,20 @@ GridSource &GridView::source() const
     return m_model->source();
 }
 
-void GridView::addMenuAction(const char *name, const QString &text, QKeySequence::StandardKey key,
-                             void (GridSteering::*act)())
+QAction *GridView::addMenuAction(const char *name, const QString &text, const QKeySequence &key)
 {
     QAction *action = m_menu->addAction(text);
     action->setObjectName(name);
     action->setShortcut(key);  // shown alone: the key itself is the grid's
     action->setShortcutContext(Qt::WidgetShortcut);
     action->setShortcutVisibleInContextMenu(true);
-    connect(action, &QAction::triggered, this, [this, act] { (m_steering.*act)(); });
+    return action;
 }
 
 void GridView::offerTablePaste()
 {
     m_takesTables = true;
-    auto *action = m_menu->addAction("Paste &Table...");
-    action->setObjectName("pasteTable");
-    action->setShortcut(kTablePaste);
-    action->setShortcutContext(Qt::WidgetShortcut);
-    action->setShortcutVisibleInContextMenu(true);
+    QAction *action = addMenuAction("pasteTable", "Paste &Table...", kTablePaste);
     connect(action, &QAction::triggered, this, &GridView::askForTable);
 }
 

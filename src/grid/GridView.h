@@ -147,8 +147,7 @@ private:
     void showRefused(int row, int column);
     void tellRefusal(const RefusedEdit &refused);
     void setHeaderSizes();
-    void addMenuAction(const char *name, const QString &text, QKeySequence::StandardKey key,
-                       void (GridSteering::*act)());
+    QAction *addMenuAction(const char *name, const QString &text, const QKeySequence &key);
 
     GridModel *m_model;
     GridDelegate *m_delegate;

@@ -1,6 +1,7 @@
 #include "wizard/DraftLine.h"
 
 #include <QHBoxLayout>
+#include <QMenu>
 #include <QPushButton>
 
 #include "controls/QuietLabel.h"
@@ -54,9 +55,18 @@ void DraftLine::offer(const QString &text, bool canDiscard, bool hasMore)
     show();
 }
 
-const QWidget &DraftLine::moreButton() const
+void DraftLine::openList(const QStringList &offers)
 {
-    return *m_more;
+    auto *list = new QMenu(this);
+    list->setObjectName("draftList");
+    list->setAttribute(Qt::WA_DeleteOnClose);
+    for (int offer = 0; offer < offers.size(); ++offer) {
+        QString shown = list->fontMetrics().elidedText(offers[offer], Qt::ElideMiddle, width() / 2);
+        shown.replace('&', "&&");  // what was typed is no mark for a key
+        connect(list->addAction(shown), &QAction::triggered, this, [this, offer] { emit chosen(offer); });
+    }
+    // Its right edge is the button's, which is the page's.
+    list->popup(m_more->mapToGlobal(QPoint(m_more->width() - list->sizeHint().width(), m_more->height())));
 }
 
 }  // namespace penwright

@@ -19,13 +19,14 @@ public:
     /// Shows an offer. A last finished file cannot be discarded.
     void offer(const QString &text, bool canDiscard, bool hasMore);
 
-    /// The button that opens the list, beside which the list shows.
-    const QWidget &moreButton() const;
+    /// Opens a list of offers below the button for more, from which one is chosen.
+    void openList(const QStringList &offers);
 
 signals:
     void takeOverPressed();
     void discardPressed();
     void morePressed();
+    void chosen(int offer);  ///< from the list, counted from 0
 
 private:
     QPushButton *makeButton(const char *name, const QString &text, void (DraftLine::*pressed)());

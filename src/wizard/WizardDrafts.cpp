@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <ctime>
 #include <QApplication>
-#include <QMenu>
-#include <QPointer>
 #include <QTimer>
 #include <utility>
 
 #include "draft/DraftWords.h"
 #include "platform/qt/Closing.h"
+#include "platform/qt/DeliverTo.h"
 #include "platform/qt/QtText.h"
 #include "wizard/DraftLine.h"
 #include "wizard/HalfTyped.h"
@@ -24,11 +23,6 @@ using namespace std::chrono_literals;
 constexpr auto kDelay = 1s;
 constexpr auto kBusyPause = 100ms;
 
-std::int64_t secondsNow()
-{
-    return std::time(nullptr);
-}
-
 std::tm localTime(std::int64_t seconds)
 {
     const std::time_t time = seconds;
@@ -37,25 +31,9 @@ std::tm localTime(std::int64_t seconds)
     return parts;
 }
 
-/// Calls come from the keeper's thread; they are made by the event loop, unless the object is gone by then.
-DraftKeeper::Deliver deliverTo(QObject *object)
+QString wordsOf(const DraftEntry &draft)
 {
-    return [alive = QPointer(object)](std::function<void()> call) {
-        const auto make = [alive, call = std::move(call)] {
-            if (alive)
-                call();
-        };
-        if (auto *application = QCoreApplication::instance())
-            QMetaObject::invokeMethod(application, make, Qt::QueuedConnection);
-    };
-}
-
-PageValue asValue(const PageText &texts)
-{
-    PageValue value;
-    for (const auto &[name, text] : texts)
-        value.push_back({name, [text = text] { return text; }});
-    return value;
+    return toQString(draftOffer(draft.head, localTime(draft.head.time)));
 }
 
 }  // namespace
@@ -66,8 +44,9 @@ WizardDrafts::WizardDrafts(WizardWindow &window, const Closing &closing, std::un
       m_closing(closing),
       m_line(new DraftLine),
       m_replay(window),
-      m_keeper(std::move(store), deliverTo(this), secondsNow,
-               [this](const std::string &reason) { followTrouble(reason); })
+      m_keeper(
+          std::move(store), deliverTo(this), [] { return std::int64_t{std::time(nullptr)}; },
+          [this](const std::string &reason) { followTrouble(reason); })
 {
     m_timer = new QTimer(this);
     m_timer->setObjectName("draftTimer");
@@ -81,12 +60,16 @@ WizardDrafts::WizardDrafts(WizardWindow &window, const Closing &closing, std::un
     connect(m_line, &DraftLine::takeOverPressed, this, &WizardDrafts::takeOver);
     connect(m_line, &DraftLine::discardPressed, this, &WizardDrafts::discard);
     connect(m_line, &DraftLine::morePressed, this, &WizardDrafts::openList);
+    connect(m_line, &DraftLine::chosen, this, [this](int draft) {
+        m_offers.choose(static_cast<std::size_t>(draft));
+        showOffer();
+    });
 }
 
 WizardDrafts::~WizardDrafts()
 {
-    for (const auto &[name, head] : m_discarded)
-        m_keeper.discard({name, head});
+    for (const DraftEntry &draft : m_offers.discarded())
+        m_keeper.discard(draft);
 }
 
 void WizardDrafts::followWindow()
@@ -205,11 +188,9 @@ std::string WizardDrafts::about() const
 
 void WizardDrafts::offer(const DraftsFound &found)
 {
-    m_found = found;
-    m_offered = 0;
-    forgetDiscarded();
+    m_offers.begin(found);
     if (m_hasTaken)
-        std::erase_if(m_found.free, [this](const DraftEntry &draft) { return draft.name == m_taken.name; });
+        m_offers.remove(m_taken.name);
     if (found.putAside > 0)
         tell(toQString(putAsideText(found.putAside)));
     showOffer();
@@ -217,31 +198,18 @@ void WizardDrafts::offer(const DraftsFound &found)
 
 void WizardDrafts::showOffer()
 {
-    if (m_offered < m_found.free.size()) {
-        const DraftHead &head = m_found.free[m_offered].head;
-        m_line->offer(toQString(draftOffer(head, localTime(head.time))), true, m_found.free.size() > 1);
-    } else if (m_found.last) {
-        m_line->offer(toQString(lastFileOffer(*m_found.last, localTime(m_found.last->time))), false, false);
-    }
+    if (const DraftEntry *draft = m_offers.offered())
+        m_line->offer(wordsOf(*draft), true, m_offers.drafts().size() > 1);
+    else if (const auto &last = m_offers.last())
+        m_line->offer(toQString(lastFileOffer(*last, localTime(last->time))), false, false);
 }
 
 void WizardDrafts::openList()
 {
-    auto *list = new QMenu(m_line);
-    list->setObjectName("draftList");
-    list->setAttribute(Qt::WA_DeleteOnClose);
-    for (std::size_t draft = 0; draft < m_found.free.size(); ++draft) {
-        const DraftHead &head = m_found.free[draft].head;
-        const QString text = toQString(draftOffer(head, localTime(head.time)));
-        QString shown = list->fontMetrics().elidedText(text, Qt::ElideMiddle, m_line->width() / 2);
-        shown.replace('&', "&&");  // what was typed is no mark for a key
-        connect(list->addAction(shown), &QAction::triggered, this, [this, draft] {
-            m_offered = draft;
-            showOffer();
-        });
-    }
-    const QWidget &button = m_line->moreButton();  // whose right edge is the page's
-    list->popup(button.mapToGlobal(QPoint(button.width() - list->sizeHint().width(), button.height())));
+    QStringList offers;
+    for (const DraftEntry &draft : m_offers.drafts())
+        offers.append(wordsOf(draft));
+    m_line->openList(offers);
 }
 
 void WizardDrafts::takeOver()
@@ -251,8 +219,8 @@ void WizardDrafts::takeOver()
     m_window.page(kLampPage).focusFirstField();  // for what is typed meanwhile
     m_line->setEnabled(false);                   // until there is an answer
     leaveWhatIsTyped();
-    if (m_offered < m_found.free.size())
-        takeOverDraft(m_found.free[m_offered].name);
+    if (const DraftEntry *offered = m_offers.offered())
+        takeOverDraft(offered->name);
     else
         m_keeper.readLast([this](const std::optional<Draft> &draft) {
             closeLine();
@@ -278,7 +246,7 @@ void WizardDrafts::takeOverDraft(const std::string &name)
 {
     m_isReplayDue = true;
     m_keeper.takeOver(name, [this, name](const TakenDraft &taken) {
-        std::erase_if(m_found.free, [&](const DraftEntry &draft) { return draft.name == name; });
+        m_offers.remove(name);
         if (taken.end != TakeEnd::Taken) {
             m_isReplayDue = false;
             if (m_isTyped)
@@ -336,7 +304,7 @@ void WizardDrafts::takeBack()
     m_replay.setAside();
     m_hasTaken = true;
     m_isTyped = true;
-    std::erase_if(m_found.free, [this](const DraftEntry &draft) { return draft.name == m_taken.name; });
+    m_offers.remove(m_taken.name);
     m_line->hide();
     keep();
 }
@@ -350,10 +318,10 @@ void WizardDrafts::forgetTaken()
 /// Takes the draft out of the line. It is there until the program ends, so that this can be undone.
 void WizardDrafts::discard()
 {
-    if (m_window.isBusy() || m_offered >= m_found.free.size())
+    if (m_window.isBusy() || !m_offers.offered())
         return;
-    const DraftEntry draft = m_found.free[m_offered];
-    const auto change = [this, draft, place = m_offered](bool isUndo) {
+    const DraftEntry draft = *m_offers.offered();
+    const auto change = [this, draft, place = m_offers.place()](bool isUndo) {
         isUndo ? bringBack(draft, place) : putAway(draft);
     };
     m_window.page(kLampPage).steps().addAct("Discard", change);
@@ -364,30 +332,18 @@ void WizardDrafts::discard()
 
 void WizardDrafts::putAway(const DraftEntry &draft)
 {
-    m_discarded.insert_or_assign(draft.name, draft.head);
-    forgetDiscarded();
+    m_offers.discard(draft);
     offerAgain();
 }
 
 void WizardDrafts::bringBack(const DraftEntry &draft, std::size_t place)
 {
-    m_discarded.erase(draft.name);
-    m_offered = std::min(place, m_found.free.size());
-    m_found.free.insert(m_found.free.begin() + static_cast<std::ptrdiff_t>(m_offered), draft);
+    m_offers.bringBack(draft, place);
     showOffer();
-}
-
-void WizardDrafts::forgetDiscarded()
-{
-    std::erase_if(m_found.free, [this](const DraftEntry &draft) {
-        const auto it = m_discarded.find(draft.name);
-        return it != m_discarded.end() && it->second == draft.head;  // else another run has gone on with it
-    });
 }
 
 void WizardDrafts::offerAgain()
 {
-    m_offered = 0;
     closeLine();
     showOffer();
 }

@@ -3,12 +3,12 @@
 #include <QObject>
 
 #include <bitset>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 
 #include "draft/DraftKeeper.h"
+#include "draft/DraftOffers.h"
 #include "wizard/DraftReplay.h"
 
 class QTimer;
@@ -57,7 +57,6 @@ private:
     void discard();
     void putAway(const DraftEntry &draft);
     void bringBack(const DraftEntry &draft, std::size_t place);
-    void forgetDiscarded();
     void offerAgain();
     void replay(const Draft &draft);
     void closeLine();
@@ -83,11 +82,9 @@ private:
     bool m_isReplayDue = false;         ///< a draft is being taken over that no page holds yet
     bool m_hasTaken = false;            ///< the run's own draft was one of another run
     Taken m_taken;
-    bool m_isTyped = false;                        ///< something has been typed since the last finished file
-    DraftsFound m_found;                           ///< what is still offered
-    std::size_t m_offered = 0;                     ///< which of them the line shows
-    std::map<std::string, DraftHead> m_discarded;  ///< by name, to be deleted when the program ends
-    QString m_trouble;                             ///< what was said when drafts could not be kept, "" when they can
+    bool m_isTyped = false;  ///< something has been typed since the last finished file
+    DraftOffers m_offers;    ///< those discarded are deleted when the program ends
+    QString m_trouble;       ///< what was said when drafts could not be kept, "" when they can
 };
 
 }  // namespace penwright

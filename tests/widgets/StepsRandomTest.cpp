@@ -204,9 +204,8 @@ protected:
                 text += (hasAngles || h > 0 ? "\t" : "") + std::to_string(any(0, 99999) / 8.0);
             text += "\n";
         }
-        for (const GridView *view : page().fields().grids())
-            if (view->isEditing())
-                press(Qt::Key_Escape);  // a refused text, which undo has brought back, would keep the dialog away
+        for (GridView *view : page().fields().grids())
+            view->dropEdit();  // a refused text, which undo has brought back, would keep the dialog away
         PasteTableTest::open(text, [this](PasteTableDialog &dialog) {
             m_tables += isOffered() ? 1 : 0;
             QTest::keyClick(dialog.focusWidget(), isOffered() ? Qt::Key_Return : Qt::Key_Escape);

@@ -1,13 +1,13 @@
 #include "platform/qt/SideRun.h"
 
-#include <QCoreApplication>
-#include <QPointer>
 #include <QTimer>
 
 #include <atomic>
 #include <chrono>
 #include <thread>
 #include <utility>
+
+#include "platform/qt/DeliverTo.h"
 
 namespace penwright {
 namespace {
@@ -49,20 +49,17 @@ void SideRun::start(Work work)
     stop();
     const auto run = m_run = std::make_shared<Run>();
     m_look->start();
-    const auto deliver = [alive = QPointer(this), run](const Answer &answer) {
-        if (!alive || run->isStopped)
-            return;
-        alive->stop();
-        answer();
-    };
-    std::thread([run, work = std::move(work), deliver] {
+    std::thread([this, run, work = std::move(work), deliver = deliverTo(this)] {
         const Answer answer = work([&run](double part) {
             run->part = part;
             return !run->isStopped;
         });
-        if (auto *application = QCoreApplication::instance())
-            QMetaObject::invokeMethod(
-                application, [deliver, answer] { deliver(answer); }, Qt::QueuedConnection);
+        deliver([this, run, answer] {
+            if (run->isStopped)
+                return;
+            stop();
+            answer();
+        });
     }).detach();
 }
 
