@@ -215,11 +215,13 @@ TEST_F(ReadRun, focusIsToldWhereverItGoes)
     EXPECT_EQ(bus.changedDescriptions(), before);
     typeKeys({"Return"});
     EXPECT_TRUE(tells("cell \"blank\""));
-    EXPECT_EQ(bus.changedDescriptions(), before + 1);
+    EXPECT_TRUE(waitUntil([&] { return bus.changedDescriptions() == before + 1; }));  // told behind the cell
     typeKeys({"Up"});
     EXPECT_TRUE(tells("cell \"Report 7\""));
+    EXPECT_TRUE(waitUntil([&] { return bus.changedDescriptions() == before + 2; }));
     send("CLOSE");
     expectUnloaded();
+    EXPECT_EQ(bus.changedDescriptions(), before + 2);
 }
 
 TEST_F(ReadRun, dialogsReadAsTheyLook)
