@@ -39,6 +39,7 @@ TEST_P(ReviewPlace, isGoneToWithTheFocusOnItsFieldOrCell)
 {
     const std::string before = values();
     window->goToPlace(GetParam().place);
+    ASSERT_TRUE(spinUntil([this] { return !find<QTimer>("tmrFlip")->isActive(); }));
     QCoreApplication::processEvents();
     EXPECT_EQ(where(), GetParam().where);
     EXPECT_FALSE(QApplication::focusWidget()->visibleRegion().isEmpty());

@@ -231,6 +231,8 @@ void CandelaPage::cmdBack50_Click()
 
 void CandelaPage::focusFault(const FaultPlace &place)
 {
+    if (m_tmrFlip)
+        m_tmrFlip->stop();  // its keys would lead away from the place
     m_form->cdaGridCd->goTo(place.row, place.column);
 }
 
