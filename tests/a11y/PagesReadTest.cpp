@@ -39,7 +39,7 @@ protected:
     {
         const std::string wanted = expected(file);
         std::string found;
-        waitUntil([&] { return (found = readNow(title)) == wanted; }, 20s);
+        waitUntil([&] { return (found = readNow(title)) == wanted; }, 60s);
         if (found == wanted)
             return testing::AssertionSuccess();
         return testing::AssertionFailure() << "not as in tests/data/accessibility/" << file << ".txt but:\n" << found;
@@ -59,7 +59,7 @@ protected:
     testing::AssertionResult tells(const std::string &wanted)
     {
         std::string found;
-        if (waitUntil([&] { return (found = bus.focus()) == wanted; }, 20s))
+        if (waitUntil([&] { return (found = bus.focus()) == wanted; }, 60s))
             return testing::AssertionSuccess();
         return testing::AssertionFailure() << "but " << found;
     }
@@ -146,7 +146,7 @@ TEST_F(ReadRun, aWalkOverAllPagesIsToldAsItIsKept)
     for (const Step &step : steps) {
         bus.beginToTell();
         typeKeys(step.keys);
-        waitUntil([&] { return bus.told() == step.told; }, 20s);
+        waitUntil([&] { return bus.told() == step.told; }, 60s);
         ASSERT_EQ(bus.told(), step.told) << "at " << testing::PrintToString(step.keys);
     }
     send("CLOSE");
@@ -160,7 +160,7 @@ TEST_F(ReadRun, aBoxIsToldBeforeItsText)
     const int before = bus.textsBeforeFocus();
     for (const std::string name : {"Lumens Per Lamp", "Candela Multiplier", "Ballast Factor", "Input Watts"}) {
         typeKeys({"Tab"});
-        ASSERT_TRUE(waitUntil([&] { return bus.focus().find(name) != std::string::npos; }, 20s)) << bus.focus();
+        ASSERT_TRUE(waitUntil([&] { return bus.focus().find(name) != std::string::npos; }, 60s)) << bus.focus();
     }
     EXPECT_EQ(bus.textsBeforeFocus(), before);
     send("CLOSE");
@@ -178,7 +178,7 @@ TEST_F(ReadRun, aFieldIsToldOnceMoreWhenItsListHasClosed)
     ASSERT_TRUE(tells("list item \"Rectangle\""));
     const int before = bus.timesFocused();
     typeKeys({"Return"});
-    EXPECT_TRUE(waitUntil([&] { return bus.timesFocused() >= before + 2; }, 20s));
+    EXPECT_TRUE(waitUntil([&] { return bus.timesFocused() >= before + 2; }, 60s));
     EXPECT_TRUE(tells(kShapes));
     send("CLOSE");
     expectUnloaded();

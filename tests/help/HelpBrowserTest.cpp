@@ -40,7 +40,7 @@ protected:
         browser.resize(400, 300);
         browser.showPlace({topic, ""});
         browser.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&browser));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&browser, 60'000));
     }
 
     bool shows(QColor colour)

@@ -32,7 +32,7 @@ protected:
     {
         window.setFile(std::move(file));
         window.showPlace(place);
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window, 60'000));
         QApplication::setActiveWindow(&window);
     }
     void openSample() { open(readChm("/help/x.chm", sampleHelp()), {"first.html", ""}); }

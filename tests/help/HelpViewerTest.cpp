@@ -5,6 +5,7 @@
 #include "help/HelpTest.h"
 #include "platform/qt/Closing.h"
 #include "support/FakeDialogs.h"
+#include "support/SpinUntil.h"
 #include "support/TempFolder.h"
 
 namespace penwright::test {
@@ -141,7 +142,7 @@ TEST_F(Viewer, goesWhenTheProgramBeginsToClose)
     EXPECT_FALSE(viewer.window()->isVisible());
     viewer.showTopic(path, 20);
     EXPECT_FALSE(viewer.window()->isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return true; }));
+    EXPECT_TRUE(spinUntil([&] { return true; }));
     EXPECT_EQ(dialogs.transcript, "");
 }
 
@@ -152,7 +153,7 @@ TEST_F(Viewer, doesNotHoldUpTheUnwinding)
     bool isUnwound = false;
     QObject::connect(&closing, &Closing::unwound, [&] { isUnwound = true; });
     closing.begin();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isUnwound; }));
+    EXPECT_TRUE(spinUntil([&] { return isUnwound; }));
 }
 
 }  // namespace

@@ -19,7 +19,7 @@ inline QString boxTextOf(const std::function<void()> &act)
         QTest::keyClick(&dialog, Qt::Key_Return);
     });
     act();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !text.isEmpty(); }));
+    EXPECT_TRUE(spinUntil([&] { return !text.isEmpty(); }));
     return text;
 }
 

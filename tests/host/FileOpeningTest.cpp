@@ -17,6 +17,7 @@
 #include "hostbench/FilePanel.h"
 #include "hostbench/SampleLuminaire.h"
 #include "platform/TextFiles.h"
+#include "support/SpinUntil.h"
 
 namespace penwright::test {
 namespace {
@@ -89,11 +90,11 @@ protected:
     QProgressBar *progress() const { return find<QProgressBar>("openingProgress"); }
     bool waitForCount(int count) const
     {
-        return QTest::qWaitFor([&] { return m_files.count() == count; });
+        return spinUntil([&] { return m_files.count() == count; });
     }
     bool waitForProgress() const
     {
-        return QTest::qWaitFor([&] { return progress()->isVisible(); });
+        return spinUntil([&] { return progress()->isVisible(); });
     }
 
     HeldFiles m_files;
@@ -112,7 +113,7 @@ TEST_F(FileOpeningTest, showsProgressWhileTheWindowLives)
     EXPECT_TRUE(find<QPushButton>("openFiles")->isEnabled());
     m_disk->letGo();
     ASSERT_TRUE(waitForCount(1));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !progress()->isVisible(); }));
+    EXPECT_TRUE(spinUntil([&] { return !progress()->isVisible(); }));
     EXPECT_EQ(m_panel->selected(), 0);
 }
 
@@ -126,7 +127,7 @@ TEST_F(FileOpeningTest, cancelKeepsWhatIsReadAndDropsWhatWaits)
     ASSERT_TRUE(waitForProgress());
     QTest::mouseClick(find<QPushButton>("cancelOpening"), Qt::LeftButton);
     EXPECT_FALSE(progress()->isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return m_disk->ended() == 2; }));
+    EXPECT_TRUE(spinUntil([&] { return m_disk->ended() == 2; }));
     QTest::qWait(20);
     EXPECT_EQ(m_files.count(), 1);
     EXPECT_EQ(m_disk->begun(), 2);
@@ -139,7 +140,7 @@ TEST_F(FileOpeningTest, escapeCancelsAndTheListHasTheKeyboard)
     ASSERT_TRUE(waitForProgress());
     find<QPushButton>("cancelOpening")->setFocus();
     QTest::keyClick(m_panel.get(), Qt::Key_Escape);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !progress()->isVisible(); }));
+    EXPECT_TRUE(spinUntil([&] { return !progress()->isVisible(); }));
     EXPECT_TRUE(find<QListWidget>("fileList")->hasFocus());
 }
 
@@ -167,9 +168,9 @@ TEST_F(FileOpeningTest, onesThatVanishOrChangeAreToldOnceAllAreRead)
 TEST_F(FileOpeningTest, endsWithThePanel)
 {
     m_panel->open({"/lum/a.ies", "/lum/b.ies"});
-    ASSERT_TRUE(QTest::qWaitFor([&] { return m_disk->begun() == 1; }));
+    ASSERT_TRUE(spinUntil([&] { return m_disk->begun() == 1; }));
     m_panel.reset();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return m_disk->ended() == 1; }));
+    EXPECT_TRUE(spinUntil([&] { return m_disk->ended() == 1; }));
     QTest::qWait(20);
     EXPECT_EQ(m_files.count(), 0);
 }

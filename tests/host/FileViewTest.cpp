@@ -15,6 +15,7 @@
 #include "review/Figures.h"
 #include "review/Photometry.h"
 #include "review/Remarks.h"
+#include "support/SpinUntil.h"
 
 namespace penwright {
 namespace {
@@ -151,7 +152,7 @@ TEST_F(FileViewTest, withoutRemarksTheTextHasTheirRoom)
     odd.LumensPerLamp = 100;
     show({odd, false, {}});
     const QWidget &text = *m_view.findChild<QPlainTextEdit *>("fileText");
-    ASSERT_TRUE(QTest::qWaitFor([&] { return text.height() < m_view.height() - 100; }));
+    ASSERT_TRUE(test::spinUntil([&] { return text.height() < m_view.height() - 100; }));
     const int beside = text.height();
     PhotometricRecord plain = sampleLuminaire();
     plain.TiltIncl = false;
@@ -159,7 +160,7 @@ TEST_F(FileViewTest, withoutRemarksTheTextHasTheirRoom)
     ASSERT_TRUE(remarksOf(plain, photometryOf(plain)).empty());
     show({plain, false, {}});
     EXPECT_FALSE(m_view.findChild<QListWidget *>("remarkList")->isVisible());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return text.height() > beside + 50; }));
+    EXPECT_TRUE(test::spinUntil([&] { return text.height() > beside + 50; }));
 }
 
 TEST_F(FileViewTest, aFileOfTheDiskIsShownAsItStandsThere)
@@ -203,7 +204,7 @@ TEST_F(FileViewTest, curvesStandOutOnDarkToo)
     show({sampleLuminaire(), false, {}});
     const QColor onLight = picture()->look().plane;
     QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
-    EXPECT_TRUE(QTest::qWaitFor([&] { return picture()->look().plane.lightness() > onLight.lightness() + 40; }));
+    EXPECT_TRUE(test::spinUntil([&] { return picture()->look().plane.lightness() > onLight.lightness() + 40; }));
     EXPECT_GT(count(picture()->look().plane), 200);
     QApplication::setPalette(light);
 }

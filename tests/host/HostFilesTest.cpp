@@ -7,6 +7,7 @@
 
 #include "core/IesText.h"
 #include "hostbench/SampleLuminaire.h"
+#include "support/SpinUntil.h"
 
 namespace penwright::test {
 namespace {
@@ -23,7 +24,7 @@ protected:
     void openUntilHeld(const QStringList &paths, const std::function<bool()> &isHeld)
     {
         m_window->openFiles(paths);
-        ASSERT_TRUE(QTest::qWaitFor(isHeld));
+        ASSERT_TRUE(spinUntil(isHeld));
     }
 
     auto areHeld(int count) const
@@ -58,7 +59,7 @@ TEST_F(HostFilesTest, theButtonOpensWhatIsChosen)
         QTest::keyClick(line, Qt::Key_Return);
     });
     QTest::mouseClick(button("openFiles"), Qt::LeftButton);
-    ASSERT_TRUE(QTest::qWaitFor(areHeld(1)));
+    ASSERT_TRUE(spinUntil(areHeld(1)));
     EXPECT_EQ(QString::fromStdString(m_window->files().at(0).record.Filename), path);
 }
 

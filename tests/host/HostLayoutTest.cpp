@@ -7,6 +7,7 @@
 
 #include "hostbench/LogPanel.h"
 #include "hostbench/SampleLuminaire.h"
+#include "support/SpinUntil.h"
 
 namespace penwright::test {
 namespace {
@@ -61,7 +62,7 @@ TEST_F(HostLayoutTest, theLogUnfoldsAtItsNewestLine)
     for (int i = 0; i < 200; ++i)
         panel->append("Tool 1", ToolRun::Line::Note, QString::number(i));
     panel->setFolded(false);
-    EXPECT_TRUE(QTest::qWaitFor([&] {
+    EXPECT_TRUE(spinUntil([&] {
         return log->verticalScrollBar()->maximum() > 0 &&
                log->verticalScrollBar()->value() == log->verticalScrollBar()->maximum();
     }));

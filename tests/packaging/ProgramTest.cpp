@@ -38,7 +38,7 @@ TEST_F(Installed, wizardHasItsHelpWhereItLooksForIt)
 {
     Process tool({InstalledTree::file("bin/PenwrightPE"), "1,1,HostBox,7,0,Sec"}, environment("offscreen"),
                  Process::Errors::Dropped);
-    ASSERT_TRUE(waitUntil([this] { return fs::exists(m_folder.file("config/Lumentor/settings.sqlite3")); }, 20s));
+    ASSERT_TRUE(waitUntil([this] { return fs::exists(m_folder.file("config/Lumentor/settings.sqlite3")); }, 60s));
     const fs::path program = fs::read_symlink("/proc/" + std::to_string(tool.pid()) + "/exe");
     const auto help = openChm((program.parent_path() / "Lumentor_PE-HTML.chm").string());
     for (const PageRow &page : kPages) {

@@ -27,7 +27,7 @@ inline void typeKeys(const std::vector<std::string> &keys)
 }
 
 /// The number of the window that is on the screen under exactly this title, "" when none comes.
-inline std::string windowTitled(const std::string &title, Milliseconds bound = 20s)
+inline std::string windowTitled(const std::string &title, Milliseconds bound = 60s)
 {
     std::string pattern = "^";
     for (const char c : title)

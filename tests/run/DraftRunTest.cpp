@@ -117,7 +117,7 @@ TEST_F(DraftRun, killAtAnyMomentCostsTwoSecondsOfTypingAtMost)
         ASSERT_GT(same, 0U) << "round " << round << ": " << shown(kept) << " never stood on the page, the last was "
                             << shown(keys[last].after);
         if (same <= last)  // keys[same] is the first key that is missing
-            EXPECT_LE(std::chrono::duration_cast<Milliseconds>(killed - keys[same].pressed).count(), 2000)
+            EXPECT_LE(killed - keys[same].pressed, killCost())
                 << "round " << round << ": kept " << shown(kept) << " of " << shown(keys[last].after);
         std::filesystem::remove_all(drafts());
     }

@@ -236,12 +236,12 @@ TEST_F(EmbeddedRun, whatAKilledToolHeldIsTakenOverByKeysAndReachesTheFile)
 {
     startWizard();
     typeAllPages();
-    std::this_thread::sleep_for(2s);  // by then what is typed is kept
+    std::this_thread::sleep_for(killCost());  // by then what is typed is kept
     tool().signal(SIGKILL);
     ASSERT_TRUE(tool().waitForEnd());
 
     startWizard();
-    std::this_thread::sleep_for(1s);  // a user's look at the line
+    std::this_thread::sleep_for(3s);  // a user's look at the line
     typeKeys({"shift+Tab", "shift+Tab", "space"});
     ASSERT_TRUE(shows(4)) << "the page shown is " << caption();
     turnTo(5);

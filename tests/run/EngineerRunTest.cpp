@@ -185,7 +185,7 @@ TEST_F(EngineerRun, tableFromTheClipboardThreeSlipsACrashAndARemarkMakeTheFile)
     ASSERT_TRUE(tool().waitForEnd());
 
     startAndShow();
-    std::this_thread::sleep_for(2s);             // a user's look at the line
+    std::this_thread::sleep_for(3s);             // a user's look at the line
     press({"shift+Tab", "shift+Tab", "space"});  // takes the draft over
     turnTo(kCaptions[4]);
     next(5);

@@ -49,13 +49,12 @@ TEST_F(LinkRun, signalBeforeStartUnloads)
 
 TEST_F(LinkRun, hostThatTakesNothingIsWaitedForThreeSeconds)
 {
+    const auto sent = std::chrono::steady_clock::now();
     send("CLOSE");
-    ASSERT_TRUE(waitUntil([this] { return !hostInbox().empty(); }));
-    const auto posted = std::chrono::steady_clock::now();
     EXPECT_EQ(tool().waitForEnd(), 0);
-    const auto waited = std::chrono::steady_clock::now() - posted;
-    EXPECT_GT(waited, 2500ms);
-    EXPECT_LT(waited, 6s);
+    const auto waited = std::chrono::steady_clock::now() - sent;
+    EXPECT_GE(waited, 3s);
+    EXPECT_LT(waited, 20s);
     EXPECT_EQ(hostInbox(), "CloseRemove,PenwrightPE,7");
 }
 

@@ -76,11 +76,10 @@ TEST_F(TooMany, fieldsOfTwoLinesAreThoseOfTheFirst)
 TEST_F(TooMany, hostThatTakesNothingIsWaitedForThreeSeconds)
 {
     start({"0,1,HostBox,7,25,Sec"}, "xcb");
+    const auto pressed = std::chrono::steady_clock::now();
     ASSERT_TRUE(pressIn("PenwrightPE", {"Return"}));
-    ASSERT_TRUE(waitUntil([this] { return !hostInbox().empty(); }));
-    const auto posted = std::chrono::steady_clock::now();
     EXPECT_EQ(tool().waitForEnd(), 1);
-    EXPECT_GT(std::chrono::steady_clock::now() - posted, 2500ms);
+    EXPECT_GE(std::chrono::steady_clock::now() - pressed, 3s);
     EXPECT_EQ(hostInbox(), "ReturnClose,PenwrightPE,7");
 }
 

@@ -89,7 +89,7 @@ protected:
         EXPECT_TRUE(waitUntil([this] { return isWhole(kLastPage); }, 60s)) << m_host->readAll();
         const auto taken = std::chrono::duration_cast<Milliseconds>(FileClock::now() - m_begun);
         m_host->signal(SIGSTOP);
-        std::this_thread::sleep_for(2s);
+        std::this_thread::sleep_for(killCost());
         killOne(false);
         m_whole = left();
         return taken;
@@ -119,7 +119,7 @@ protected:
         EXPECT_TRUE(!m_isOver || writtenInThisWalk("walk/luminaire.ies") < m_killed) << "the tool went before its end";
         m_host->signal(SIGKILL);
         const bool isKilled = m_host->waitForEnd() != 0;
-        EXPECT_TRUE(tool == 0 || waitUntil([&] { return !isRunning(tool); }, 20s)) << "an orphan stays behind";
+        EXPECT_TRUE(tool == 0 || waitUntil([&] { return !isRunning(tool); }, 60s)) << "an orphan stays behind";
         return isKilled;
     }
 
@@ -142,8 +142,8 @@ protected:
     }
     bool isWhole(int page) const { return wholeSince(page) < FileClock::now(); }
 
-    /// Whether a page was whole two seconds before the kill.
-    bool isDue(int page) const { return wholeSince(page) + 2s < m_killed; }
+    /// Whether a page was whole so long before the kill that the draft must have it.
+    bool isDue(int page) const { return wholeSince(page) + killCost() < m_killed; }
 
     /// Whether the host has taken the finished file, so that there is nothing to be lost any more. A walk that is over
     /// clears the folder of its drafts.

@@ -174,7 +174,7 @@ TEST_F(SharingTest, toolThatIsKilledLeavesAWholeRecord)
     for (int round = 0; round < 10; ++round) {
         Process tool({SAVING_TOOL, path});
         const std::string before = bench.value("OptionalData1");
-        EXPECT_TRUE(waitUntil([&] { return bench.value("OptionalData1") != before; }, 20s));
+        EXPECT_TRUE(waitUntil([&] { return bench.value("OptionalData1") != before; }, 60s));
         tool.signal(SIGKILL);
         tool.waitForEnd();
         ASSERT_EQ(exchange.loadRecords(), std::nullopt);

@@ -9,14 +9,9 @@
 #include <QTimer>
 #include <QWindow>
 
-namespace penwright::test {
+#include "support/SpinUntil.h"
 
-/// Lets the program run until `condition` answers true.
-template <typename Condition>
-bool spinUntil(Condition condition)
-{
-    return QTest::qWaitFor(condition, 60'000);
-}
+namespace penwright::test {
 
 /// Runs `act` once a modal dialog is on the screen; takes the dialog away, as a failure, when it outlives that.
 template <typename Act>

@@ -25,7 +25,7 @@ using Milliseconds = std::chrono::milliseconds;
 
 /// Asks `condition` until it answers true; false once `bound` has passed.
 template <typename Condition>
-bool waitUntil(Condition condition, Milliseconds bound = 10s)
+bool waitUntil(Condition condition, Milliseconds bound = 30s)
 {
     const auto end = std::chrono::steady_clock::now() + bound;
     while (!condition()) {
@@ -89,7 +89,7 @@ public:
     }
 
     /// The next line of output without its end; nothing when none comes in time or the output has ended.
-    std::optional<std::string> readLine(Milliseconds bound = 20s)
+    std::optional<std::string> readLine(Milliseconds bound = 60s)
     {
         const auto end = std::chrono::steady_clock::now() + bound;
         std::string line;
@@ -105,7 +105,7 @@ public:
     }
 
     /// All output up to its end.
-    std::string readAll(Milliseconds bound = 20s)
+    std::string readAll(Milliseconds bound = 60s)
     {
         const auto end = std::chrono::steady_clock::now() + bound;
         while (readMore(end)) {
@@ -115,7 +115,7 @@ public:
     }
 
     /// The exit status, or minus the number of the signal that ended the process; nothing when it goes on running.
-    std::optional<int> waitForEnd(Milliseconds bound = 20s)
+    std::optional<int> waitForEnd(Milliseconds bound = 60s)
     {
         waitUntil([this] { return hasEnded(); }, bound);
         return m_status;

@@ -51,7 +51,7 @@ private:
             return Process({"xprop", "-root", "_NET_SUPPORTING_WM_CHECK"}).readAll().find("window id") !=
                    std::string::npos;
         };
-        if (!waitUntil(manages, 20s))
+        if (!waitUntil(manages, 60s))
             throw std::runtime_error("the window manager does not start: " + command);
     }
 

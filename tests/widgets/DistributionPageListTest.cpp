@@ -1,4 +1,5 @@
 // How the drop-down lists of page 4 are typed into and picked from.
+#include "support/SpinUntil.h"
 #include "widgets/DistributionPageTest.h"
 
 namespace penwright::test {
@@ -229,7 +230,7 @@ TEST_F(DistributionList, isPickedFromByKeys)
     press(Qt::Key_Down);
     EXPECT_EQ(columns(verticalGrid()), 19);
     press(Qt::Key_Down, Qt::AltModifier);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return vertical()->view()->isVisible(); }));
+    ASSERT_TRUE(spinUntil([&] { return vertical()->view()->isVisible(); }));
     QTest::keyClick(vertical()->view(), Qt::Key_Down);
     QTest::keyClick(vertical()->view(), Qt::Key_Return);
     EXPECT_EQ(vertical()->currentText(), "37, Downlight 0 to 90, 2.5 degree increments");
@@ -247,7 +248,7 @@ TEST_F(DistributionList, selectedPartAloneCountsWhenTheSameEntryIsPicked)
     ASSERT_EQ(vertical()->lineEdit()->selectedText(), "19");
     EXPECT_EQ(verticalGrid()->model()->index(0, 18).data(), "90");
     press(Qt::Key_Down, Qt::AltModifier);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return vertical()->view()->isVisible(); }));
+    ASSERT_TRUE(spinUntil([&] { return vertical()->view()->isVisible(); }));
     QTest::keyClick(vertical()->view(), Qt::Key_Return);
     EXPECT_EQ(columns(verticalGrid()), 19);
     EXPECT_EQ(verticalGrid()->model()->index(0, 18).data(), " ");
@@ -300,12 +301,12 @@ TEST_F(DistributionList, escapeAsksTheCancelQuestionOnceTheListIsClosed)
     dialogs.answers = {Answer::No};
     vertical()->setFocus();
     press(Qt::Key_Down, Qt::AltModifier);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return vertical()->view()->isVisible(); }));
+    ASSERT_TRUE(spinUntil([&] { return vertical()->view()->isVisible(); }));
     QTest::keyClick(vertical()->view(), Qt::Key_Escape);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return !vertical()->view()->isVisible(); }));
+    ASSERT_TRUE(spinUntil([&] { return !vertical()->view()->isVisible(); }));
     EXPECT_EQ(dialogs.transcript, "");
     QTest::keyClick(vertical(), Qt::Key_Escape);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !dialogs.transcript.empty(); }));
+    EXPECT_TRUE(spinUntil([&] { return !dialogs.transcript.empty(); }));
 }
 
 TEST_F(DistributionList, wheelChangesNoClosedList)

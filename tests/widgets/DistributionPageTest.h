@@ -1,6 +1,7 @@
 #pragma once
 
 #include "grid/GridView.h"
+#include "support/SpinUntil.h"
 #include "widgets/WizardTest.h"
 #include "wizard/WarningDialog.h"
 
@@ -34,12 +35,12 @@ protected:
     static void pick(QComboBox *list, const std::string &entry)
     {
         QTest::mouseClick(list, Qt::LeftButton, {}, QPoint(list->width() - 8, list->height() / 2));
-        ASSERT_TRUE(QTest::qWaitFor([&] { return list->view()->isVisible(); }));
+        ASSERT_TRUE(spinUntil([&] { return list->view()->isVisible(); }));
         const int row = list->findText(QString::fromStdString(entry), Qt::MatchFixedString | Qt::MatchCaseSensitive);
         ASSERT_GE(row, 0) << entry;
         const QRect place = list->view()->visualRect(list->model()->index(row, 0));
         // A release right behind the press that opened the list would be taken for the end of that click.
-        ASSERT_TRUE(QTest::qWaitFor([&] {
+        ASSERT_TRUE(spinUntil([&] {
             QTest::mouseMove(list->view()->viewport(), place.center());
             QTest::mouseClick(list->view()->viewport(), Qt::LeftButton, {}, place.center());
             return !list->view()->isVisible();

@@ -50,7 +50,7 @@ TEST_F(DraftKeep, firstChangeIsKeptAtOnceAndNobodyWaitsForAPauseInTyping)
     auto *timer = find<QTimer>("draftTimer");
     typeText("7");
     EXPECT_EQ(timer->interval(), 0);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return !timer->isActive(); }));
+    EXPECT_TRUE(spinUntil([&] { return !timer->isActive(); }));
     typeText("8");
     EXPECT_TRUE(timer->isActive());
     EXPECT_EQ(timer->interval(), 1000);
@@ -273,7 +273,7 @@ TEST_F(DraftKeep, folderThatCannotBeWrittenIsToldInOneLineAndTheWizardWorksOn)
     typeText("7");
     waitUntilKept();
     const std::string told = "What you type is not kept as a draft: " + draftFolder + ": File exists";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return note(kLampPage) == told; })) << note(kLampPage);
+    EXPECT_TRUE(spinUntil([&] { return note(kLampPage) == told; })) << note(kLampPage);
     fillPageOne();
     click("cmdNext10");
     EXPECT_EQ(shownPage(), kKeywordPage);
@@ -294,14 +294,14 @@ TEST_F(DraftKeep, lineGoesOnceDraftsAreKeptAgainAndTakesNoOtherLineAlong)
         std::ofstream(draftFolder) << "mine";
         startRun();
         typeAndKeep("7");
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !note(kLampPage).empty(); }));
+        ASSERT_TRUE(spinUntil([&] { return !note(kLampPage).empty(); }));
         if (hasOtherLine)
             window->page(kLampPage).showNote("Something else");
         std::filesystem::remove(draftFolder);
         typeAndKeep("8");
-        ASSERT_TRUE(QTest::qWaitFor([&] { return std::filesystem::is_directory(draftFolder); }));
+        ASSERT_TRUE(spinUntil([&] { return std::filesystem::is_directory(draftFolder); }));
         typeAndKeep("9");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return hasOtherLine || note(kLampPage).empty(); }));
+        EXPECT_TRUE(spinUntil([&] { return hasOtherLine || note(kLampPage).empty(); }));
         QTest::qWait(50);
         EXPECT_EQ(note(kLampPage), hasOtherLine ? "Something else" : "");
         kill();

@@ -1,4 +1,5 @@
 #include "widgets/DraftOfferTest.h"
+#include "support/SpinUntil.h"
 #include "wizard/PageSteps.h"
 
 namespace penwright::test {
@@ -95,7 +96,7 @@ TEST_F(DraftOffer, discardIsAStepThatBringsTheDraftBack)
     press(Qt::Key_Y, Qt::ControlModifier);
     EXPECT_TRUE(find("draftLine")->isHidden());
     press(Qt::Key_Z, Qt::ControlModifier);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isEnabled(); }));
+    ASSERT_TRUE(spinUntil([this] { return find("draftLine")->isEnabled(); }));
     takeOver();
     EXPECT_EQ(text("txtNumLamps"), "3");
     kill();
@@ -124,14 +125,14 @@ TEST_F(DraftOffer, draftsThatWereDiscardedComeBackOneByOneToTheirPlaces)
     waitForOffer();
     auto &steps = window->page(kLampPage).steps();
     click("draftDiscard");
-    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isEnabled(); }));
+    ASSERT_TRUE(spinUntil([this] { return find("draftLine")->isEnabled(); }));
     click("draftDiscard");
     EXPECT_EQ(offer(), momentOf("Draft of first, page 1"));
     steps.undo();
     EXPECT_EQ(offer(), momentOf("Draft of second, page 1"));
     steps.undo();
     EXPECT_EQ(offer(), momentOf("Draft of third, page 1"));
-    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isEnabled(); }));
+    ASSERT_TRUE(spinUntil([this] { return find("draftLine")->isEnabled(); }));
     click("draftMore");
     auto *list = find<QMenu>("draftList");
     ASSERT_EQ(list->actions().size(), 3);
@@ -213,7 +214,7 @@ TEST_F(DraftOffer, doubleClickDiscardsOneDraft)
     click("draftDiscard");
     click("draftDiscard");
     EXPECT_EQ(offer(), momentOf("Draft of second, page 1"));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isEnabled(); }));
+    EXPECT_TRUE(spinUntil([this] { return find("draftLine")->isEnabled(); }));
 }
 
 TEST_F(DraftOffer, buttonsKeepTheirPlaces)
@@ -270,7 +271,7 @@ TEST_F(DraftOffer, draftThatIsNotUnderstoodIsPutAsideAndSaidOnce)
     std::filesystem::create_directories(draftFolder);
     std::ofstream(draftFolder + "/draft-20240101T000000-1-0badf00d.sqlite3") << "rubbish";
     startRun();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !note(kLampPage).empty(); }));
+    EXPECT_TRUE(spinUntil([this] { return !note(kLampPage).empty(); }));
     EXPECT_EQ(note(kLampPage), "A draft could not be read and was put aside.");
     kill();
     startRun();

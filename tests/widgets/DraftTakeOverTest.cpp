@@ -1,6 +1,7 @@
 #include <atomic>
 #include <thread>
 
+#include "support/SpinUntil.h"
 #include "widgets/DraftOfferTest.h"
 
 namespace penwright::test {
@@ -97,12 +98,12 @@ TEST_F(DraftTakeOver, secondDraftThatUndoBringsBackIsTakenOverAndTheFirstKeepsAl
     startRun();
     waitForOffer();
     click("draftDiscard");
-    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isEnabled(); }));
+    ASSERT_TRUE(spinUntil([this] { return find("draftLine")->isEnabled(); }));
     takeOver();
     ASSERT_EQ(text("txtNumLamps"), "1");
     press(Qt::Key_Z, Qt::ControlModifier);
     press(Qt::Key_Z, Qt::ControlModifier);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return offer() == momentOf("Draft of second, page 1"); }));
+    ASSERT_TRUE(spinUntil([this] { return offer() == momentOf("Draft of second, page 1"); }));
     takeOver();
     EXPECT_EQ(text("txtNumLamps"), "2");
     waitUntilKept();
@@ -181,7 +182,7 @@ TEST_F(DraftTakeOver, draftThatComesLaterThanWhatIsTypedIsKeptTakesItsPlaceAsASt
     EXPECT_EQ(text("txtNumLamps"), "9");
     EXPECT_TRUE(find("draftLine")->isVisible());
     isReadable.store(true);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isHidden(); }));
+    ASSERT_TRUE(spinUntil([this] { return find("draftLine")->isHidden(); }));
     EXPECT_EQ(text("txtNumLamps"), "3");
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(text("txtNumLamps"), "9");
@@ -196,7 +197,7 @@ TEST_F(DraftTakeOver, whatIsTypedWhileADraftIsAwaitedThatDoesNotComeIsKept)
     typeWhileADraftIsAwaited();
     std::filesystem::remove_all(draftFolder);
     isReadable.store(true);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isHidden(); }));
+    ASSERT_TRUE(spinUntil([this] { return find("draftLine")->isHidden(); }));
     EXPECT_EQ(note(kLampPage), "This draft is not there any more.");
     typeText("8");
     waitUntilKept();

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/sqlite/SqliteDraftStore.h"
+#include "support/SpinUntil.h"
 #include "widgets/PageTexts.h"
 #include "widgets/WizardTest.h"
 
@@ -27,7 +28,7 @@ protected:
     {
         auto *timer = find<QTimer>("draftTimer");
         timer->setInterval(0);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return !timer->isActive(); }));
+        ASSERT_TRUE(spinUntil([&] { return !timer->isActive(); }));
     }
 
     /// Ends the run as a kill would, with what is kept so far.
@@ -67,7 +68,7 @@ protected:
 
     void waitForOffer()
     {
-        ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isVisible(); }));
+        ASSERT_TRUE(spinUntil([this] { return find("draftLine")->isVisible(); }));
     }
     std::string offer() { return find<QLabel>("draftOffer")->text().toStdString(); }
     std::string note(int page)
@@ -80,7 +81,7 @@ protected:
     {
         waitForOffer();
         click("draftTakeOver");
-        ASSERT_TRUE(QTest::qWaitFor([this] { return find("draftLine")->isHidden(); }));
+        ASSERT_TRUE(spinUntil([this] { return find("draftLine")->isHidden(); }));
     }
 
     /// What stands on all pages, page by page.

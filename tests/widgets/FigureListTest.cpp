@@ -4,6 +4,7 @@
 #include <QtWidgets>
 
 #include "controls/FigureList.h"
+#include "support/SpinUntil.h"
 
 namespace penwright::test {
 namespace {
@@ -17,7 +18,7 @@ protected:
                           {"Symmetry", "two halves, mirrored at plane 90-270", ""}});
         list.resize(600, 200);
         list.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&list, 60'000));
         QApplication::setActiveWindow(&list);
     }
 
@@ -53,7 +54,7 @@ TEST_F(Figures, showTheReasonToWhoWalksByKeysToo)
     QTest::keyClick(&list, Qt::Key_Down);
     EXPECT_EQ(QToolTip::text(), "The lamps give no lumens.");
     QTest::keyClick(&list, Qt::Key_Down);
-    EXPECT_TRUE(QTest::qWaitFor([] { return !QToolTip::isVisible(); }));
+    EXPECT_TRUE(spinUntil([] { return !QToolTip::isVisible(); }));
 }
 
 TEST_F(Figures, areWrappedToTheWidthSoThatNothingIsCutOff)

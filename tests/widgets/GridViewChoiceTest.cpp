@@ -1,3 +1,4 @@
+#include "support/SpinUntil.h"
 #include "widgets/GridViewTest.h"
 
 namespace penwright::test {
@@ -113,7 +114,7 @@ TEST_F(GridChoices, clickOnTheArrowOpensTheListAndAClickPicks)
     const QPoint first = view->visualRect(view->model()->index(0, 0)).center();
     QTest::mouseMove(view->viewport(), first);
     // The box takes a release that comes at once for the end of the click that opened it.
-    ASSERT_TRUE(QTest::qWaitFor([&] {
+    ASSERT_TRUE(spinUntil([&] {
         if (isListOpen())
             QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, first);
         return !isListOpen();

@@ -104,7 +104,7 @@ TEST_F(GridEditor, anotherWindowLeavesTheEditorOpen)
     QLineEdit other;
     other.setFocus();
     other.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&other));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&other, 60'000));
     QApplication::setActiveWindow(&other);
     ASSERT_TRUE(other.hasFocus());
     EXPECT_TRUE(grid->isEditing());
@@ -145,7 +145,7 @@ TEST_F(GridEditor, hidingTheWholeWindowKeepsTheEdit)
     settle();
     EXPECT_EQ(table.cells[0][0], "A1");
     window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window, 60'000));
     ASSERT_TRUE(grid->isEditing());
     grid->commitEdit();
     EXPECT_EQ(table.cells[0][0], "5");

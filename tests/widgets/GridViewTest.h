@@ -42,7 +42,7 @@ protected:
                          [this](int row, int column) { visited += cellName(row, column) + " "; });
         window.resize(500, 400);
         window.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window, 60'000));
         QApplication::setActiveWindow(&window);
         grid->setFocus();
     }

@@ -1,4 +1,5 @@
 #include "hostlink/RecordText.h"
+#include "support/SpinUntil.h"
 #include "widgets/CandelaPageTest.h"
 
 namespace penwright::test {
@@ -27,7 +28,7 @@ protected:
             const QString logged = log->toPlainText().mid(logBefore.size());
             return logged.endsWith("Data received but not used\n");
         };
-        ASSERT_TRUE(QTest::qWaitFor(isObeyed));
+        ASSERT_TRUE(spinUntil(isObeyed));
         EXPECT_EQ(state.PhotFiles(1).Filename, sent.Filename);
     }
 

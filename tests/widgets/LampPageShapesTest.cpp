@@ -2,6 +2,7 @@
 
 #include "pages/luminaire/ShapeSketch.h"
 #include "pages/luminaire/ShapeSketchView.h"
+#include "support/SpinUntil.h"
 #include "widgets/LampPageTest.h"
 #include "widgets/PaintCounter.h"
 #include "widgets/PaintNotes.h"
@@ -165,7 +166,7 @@ TEST_F(LampShapes, longestNameIsNotCutOffInTheOpenList)
 {
     shapes()->showPopup();
     QAbstractItemView *view = shapes()->view();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(view->window()));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(view->window(), 60'000));
     EXPECT_GE(view->viewport()->width(), view->sizeHintForColumn(0));
     EXPECT_EQ(shapes()->count(), static_cast<int>(kShapeCount));
     EXPECT_GE(shapes()->maxVisibleItems(), shapes()->count());
@@ -257,13 +258,13 @@ TEST(ShapeSketchViewTest, isPaintedAnewForAnotherShape)
     ShapeSketchView view;
     view.resize(240, 180);
     view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view, 60'000));
     QCoreApplication::processEvents();
     view.installEventFilter(&counter);
     view.setShape(2);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints == 1; }));
+    EXPECT_TRUE(spinUntil([&] { return counter.paints == 1; }));
     view.setShape(7);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints == 2; }));
+    EXPECT_TRUE(spinUntil([&] { return counter.paints == 2; }));
 }
 
 TEST(ShapeSketchViewTest, growsWithTheWidget)

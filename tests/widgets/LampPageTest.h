@@ -1,6 +1,7 @@
 #pragma once
 
 #include "pages/luminaire/LuminousShapes.h"
+#include "support/SpinUntil.h"
 #include "widgets/WizardTest.h"
 #include "wizard/WarningDialog.h"
 
@@ -31,12 +32,12 @@ protected:
     void pickShape(int position)
     {
         shapes()->showPopup();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(shapes()->view()->window()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(shapes()->view()->window(), 60'000));
         QAbstractItemView *view = shapes()->view();
         const QModelIndex item = shapes()->model()->index(position, 0);
         view->scrollTo(item);
         // The list takes no click that comes right after its opening, which might be the second of a double click.
-        ASSERT_TRUE(QTest::qWaitFor([&] {
+        ASSERT_TRUE(spinUntil([&] {
             QTest::mouseMove(view->viewport(), view->visualRect(item).center());
             QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(item).center());
             return !view->isVisible();

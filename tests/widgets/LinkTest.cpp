@@ -4,6 +4,7 @@
 
 #include "hostlink/RecordText.h"
 #include "support/SampleRecords.h"
+#include "support/SpinUntil.h"
 #include "wizard/WarningDialog.h"
 
 namespace penwright::test {
@@ -17,7 +18,7 @@ protected:
     {
         const QString before = log();
         sendCommand(command);
-        ASSERT_TRUE(QTest::qWaitFor([&] { return log() != before; }));
+        ASSERT_TRUE(spinUntil([&] { return log() != before; }));
     }
     QString log() { return find<QPlainTextEdit>("txtCmds")->toPlainText(); }
 };

@@ -1,3 +1,4 @@
+#include "support/SpinUntil.h"
 #include "support/ToolBench.h"
 #include "widgets/WizardTest.h"
 
@@ -151,7 +152,7 @@ TEST_F(Load, tickOfTheDeathTimerDoesNothing)
     QObject::connect(timer, &QTimer::timeout, [&ticks] { ++ticks; });
     const std::string before = embedding.transcript;
     timer->setInterval(1);
-    ASSERT_TRUE(QTest::qWaitFor([&ticks] { return ticks > 2; }));
+    ASSERT_TRUE(spinUntil([&ticks] { return ticks > 2; }));
     EXPECT_TRUE(timer->isActive());
     EXPECT_FALSE(closing.isClosing());
     EXPECT_FALSE(window->isVisible());

@@ -21,6 +21,7 @@
 #include "plot/PlotView.h"
 #include "support/FakeDialogs.h"
 #include "support/PlotTables.h"
+#include "support/SpinUntil.h"
 #include "support/TempFolder.h"
 
 namespace penwright::test {
@@ -54,7 +55,7 @@ protected:
 
     void SetUp() override
     {
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&window, 60'000));
         QApplication::setActiveWindow(&window);
     }
 
@@ -136,7 +137,7 @@ TEST_F(PlotSecondLook, screenReadersAreToldOnceThePointerRests)
     pointAt(placeOf({433, -750}));
     pointAt(placeOf({0, -1000}));
     EXPECT_EQ(view->accessibleDescription(), kLobeWords);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return view->accessibleDescription() != kLobeWords; }));
+    EXPECT_TRUE(spinUntil([&] { return view->accessibleDescription() != kLobeWords; }));
     EXPECT_EQ(view->accessibleDescription(), kLobeWords + " H 0, V 0: 1000 cd");
 }
 

@@ -12,6 +12,7 @@
 #include "plot/PlotLook.h"
 #include "plot/PlotView.h"
 #include "support/PlotTables.h"
+#include "support/SpinUntil.h"
 #include "widgets/PaintCounter.h"
 
 namespace penwright::test {
@@ -182,13 +183,13 @@ TEST_F(PlotViewTest, isPaintedAnewAfterEveryDraw)
 {
     PaintCounter counter;
     view.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view, 60'000));
     QCoreApplication::processEvents();
     view.installEventFilter(&counter);
     draw(lobe());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints == 1; }));
+    EXPECT_TRUE(spinUntil([&] { return counter.paints == 1; }));
     draw(sphere());
-    EXPECT_TRUE(QTest::qWaitFor([&] { return counter.paints == 2; }));
+    EXPECT_TRUE(spinUntil([&] { return counter.paints == 2; }));
 }
 
 TEST_F(PlotViewTest, isEmptyBeforeTheFirstDraw)

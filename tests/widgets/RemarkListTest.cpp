@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "controls/RemarkList.h"
+#include "support/SpinUntil.h"
 
 namespace penwright::test {
 namespace {
@@ -21,7 +22,7 @@ protected:
         QObject::connect(&list, &RemarkList::rowChosen, [this](int row) { chosen.push_back(row); });
         QObject::connect(&list, &RemarkList::whyAsked, [this](int row) { asked.push_back(row); });
         list.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&list));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&list, 60'000));
         QApplication::setActiveWindow(&list);
         list.setFocus();
     }
@@ -138,9 +139,9 @@ TEST_F(Remarks, showAHandOverTheWord)
 {
     list.offerWhy();
     QTest::mouseMove(list.viewport(), why(0));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return list.viewport()->cursor().shape() == Qt::PointingHandCursor; }));
+    EXPECT_TRUE(spinUntil([this] { return list.viewport()->cursor().shape() == Qt::PointingHandCursor; }));
     QTest::mouseMove(list.viewport(), sentence(0));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return list.viewport()->cursor().shape() == Qt::ArrowCursor; }));
+    EXPECT_TRUE(spinUntil([this] { return list.viewport()->cursor().shape() == Qt::ArrowCursor; }));
 }
 
 TEST_F(Remarks, takeNoMoreHeightThanTheyNeedWhereTheyAreToFit)
@@ -149,13 +150,13 @@ TEST_F(Remarks, takeNoMoreHeightThanTheyNeedWhereTheyAreToFit)
     list.fitHeight();
     list.resize(300, 400);
     const auto needed = [this] { return rectOf(list.count() - 1).bottom() + 1 + 2 * list.frameWidth(); };
-    EXPECT_TRUE(QTest::qWaitFor([&] { return list.height() == needed(); })) << list.height() << " " << needed();
+    EXPECT_TRUE(spinUntil([&] { return list.height() == needed(); })) << list.height() << " " << needed();
     list.showRemarks({kLong});
     list.resize(300, 400);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return list.height() == needed(); })) << list.height() << " " << needed();
+    EXPECT_TRUE(spinUntil([&] { return list.height() == needed(); })) << list.height() << " " << needed();
     list.setMinimumHeight(60);
     list.resize(900, 400);
-    EXPECT_TRUE(QTest::qWaitFor([this] { return list.height() == 60; })) << list.height();
+    EXPECT_TRUE(spinUntil([this] { return list.height() == 60; })) << list.height();
 }
 
 TEST_F(Remarks, areWrappedBesideTheWord)

@@ -1,6 +1,7 @@
 #include <QSignalSpy>
 
 #include "hostlink/Patience.h"
+#include "support/SpinUntil.h"
 #include "widgets/WizardTest.h"
 
 namespace penwright::test {
@@ -69,7 +70,7 @@ TEST_F(UnwantedTool, staysWhileItIsShown)
 {
     open(false);
     sendCommand("START");
-    ASSERT_TRUE(QTest::qWaitFor([this] { return window->isVisible(); }));
+    ASSERT_TRUE(spinUntil([this] { return window->isVisible(); }));
     pass(24h);
     look();
     EXPECT_FALSE(closing.isClosing());

@@ -1,3 +1,4 @@
+#include "support/SpinUntil.h"
 #include "widgets/WizardTest.h"
 #include "wizard/WarningDialog.h"
 
@@ -199,7 +200,7 @@ TEST_F(Warning, shortListAfterALongOneIsShownAsEver)
     window->dlgWarn().Add("Watts is empty.");
     EXPECT_TRUE(showAnd([&](WarningDialog &open) {
         EXPECT_EQ(text()->toPlainText(), "Watts is empty.\n");
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !text()->verticalScrollBar()->isVisible(); }));
+        EXPECT_TRUE(spinUntil([&] { return !text()->verticalScrollBar()->isVisible(); }));
         open.accept();
     }));
 }

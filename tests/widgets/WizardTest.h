@@ -84,7 +84,7 @@ protected:
     {
         loadWindow();
         window->StartWizard();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get(), 60'000));
         QApplication::setActiveWindow(window.get());
     }
 

@@ -126,7 +126,7 @@ TEST_F(Focus, dialogsBlockTheWizardAndNoOtherWindow)
     QWidget help;
     auto *search = new QLineEdit(&help);
     help.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&help));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&help, 60'000));
     whenDialogIsUp([&](QDialog &box) {
         search->setFocus();
         QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, button->geometry().center());

@@ -44,7 +44,7 @@ protected:
         another.resize(300, 200);
         another.move(900, 600);
         another.show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(&another));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&another, 60'000));
         another.activateWindow();
         x11::focus(static_cast<std::uint32_t>(another.winId()));
         ASSERT_TRUE(spinUntil([this] { return another.isActiveWindow() && display.focus() == another.winId(); }));

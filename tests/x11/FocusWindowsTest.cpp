@@ -68,7 +68,7 @@ TEST_F(Focus, goesToAnotherWindowThatNobodyGivesItTo)
 {
     embedAndShow();
     another.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&another));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&another, 60'000));
     x11::focus(id());
     EXPECT_TRUE(spinUntil([this] { return display.focus() == idOf(another); }));
     x11::focus(id());

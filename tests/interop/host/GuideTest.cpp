@@ -105,7 +105,7 @@ TEST_P(GuideHost, givesTheWizardAPlaceInAWindow)
     QWidget window;
     window.resize(900, 700);
     window.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window, 60'000));
     const auto number = static_cast<xcb_window_t>(window.winId());
     Process host(command(std::to_string(number)));
     ASSERT_TRUE(waitForPage(1));

@@ -31,7 +31,7 @@ struct Notes {
     void waitForCalls(int count)
     {
         std::unique_lock lock(mutex);
-        ASSERT_TRUE(changed.wait_for(lock, 10s, [&] { return arrived >= count; }));
+        ASSERT_TRUE(changed.wait_for(lock, 60s, [&] { return arrived >= count; }));
     }
     std::string all()
     {
@@ -113,7 +113,7 @@ protected:
     /// Has what was delivered so far called, as the thread that asks does when it comes to it.
     void obey()
     {
-        EXPECT_TRUE(keeper->flush(10s));
+        EXPECT_TRUE(keeper->flush(60s));
         std::vector<std::function<void()>> calls;
         {
             const std::lock_guard lock(mutex);
@@ -140,7 +140,7 @@ protected:
 TEST_F(DraftKeeperTest, snapshotIsWrittenWithItsTimeAndTexts)
 {
     keeper->keep(snapshot("a"));
-    EXPECT_TRUE(keeper->flush(10s));
+    EXPECT_TRUE(keeper->flush(60s));
     EXPECT_EQ(notes->all(), "write 1000 page 0 EL-1 0:box=a 2:grid=cells\n");
 }
 
@@ -152,7 +152,7 @@ TEST_F(DraftKeeperTest, olderSnapshotThatWaitsGivesWay)
     for (const char *text : {"b", "c", "d"})
         keeper->keep(snapshot(text));
     notes->hold(false);
-    EXPECT_TRUE(keeper->flush(10s));
+    EXPECT_TRUE(keeper->flush(60s));
     EXPECT_EQ(notes->all(),
               "write 1000 page 0 EL-1 0:box=a 2:grid=cells\nwrite 1000 page 0 EL-1 0:box=d 2:grid=cells\n");
 }
@@ -182,7 +182,7 @@ TEST_F(DraftKeeperTest, whatWasAskedIsDoneInItsOrder)
     keeper->drop();
     keeper->discard({"one", {}});
     notes->hold(false);
-    EXPECT_TRUE(keeper->flush(10s));
+    EXPECT_TRUE(keeper->flush(60s));
     const std::string front = "write 1000 page 0 EL-1 0:box=";
     EXPECT_EQ(notes->all(), front + "a 2:grid=cells\n" + front + "b 2:grid=cells\nfinish\n" + front +
                                 "c 2:grid=cells\nleave\n" + front + "d 2:grid=cells\ndrop\ndiscard one\n");
@@ -198,7 +198,7 @@ TEST_F(DraftKeeperTest, answersAreDeliveredAndNotCalledAtOnce)
         told += taken.draft.texts.at(0).text + (taken.end == TakeEnd::Taken ? " taken\n" : " not\n");
     });
     keeper->readLast([&](const std::optional<Draft> &draft) { told += draft.value().head.about + "\n"; });
-    EXPECT_TRUE(keeper->flush(10s));
+    EXPECT_TRUE(keeper->flush(60s));
     EXPECT_EQ(told, "");
     obey();
     EXPECT_EQ(told, "EL-1 2\ntext taken\nEL-0\n");
