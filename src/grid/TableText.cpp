@@ -9,6 +9,7 @@
 #include "core/NumberText.h"
 #include "core/TextBytes.h"
 #include "grid/TableAngle.h"
+#include "grid/TableBody.h"
 #include "grid/TableFrame.h"
 #include "grid/TableHeading.h"
 #include "grid/TableLines.h"
@@ -19,13 +20,6 @@ namespace {
 
 constexpr std::size_t kMostAngles = std::numeric_limits<std::int16_t>::max();
 constexpr std::size_t kBytesBetweenQuestions = 1'000'000;
-
-/// Planes that stand beside each other in the text, below others of the same table.
-struct TablePart {
-    std::vector<double> values{};  ///< line by line
-    std::size_t columns = 0;
-    std::size_t rows = 0;
-};
 
 /// Whether a number is there, and letters behind a blank.
 bool isNumberWithUnit(std::string_view cell)
@@ -59,11 +53,10 @@ private:
     void refuse(std::size_t line, std::size_t cell, const std::string &wrong);
     void refuseCell(const TableLine &line, std::size_t place);
     void refuseWidth(const TableLine &line, std::size_t above);
-    void refuseFall(std::size_t line, std::size_t cell, double angle, double before);
+    void refuseTurn(std::size_t line, std::size_t cell, double angle, double before);
     void refuseOther(const TableLine &line);
     bool beginsAgain(const TableLine &line) const;
     TableFault nothingRead() const;
-    TableContent content() const;
 
     std::string_view m_text;
     TableReading m_reading;
@@ -72,11 +65,9 @@ private:
     std::size_t m_width = 0;             ///< cells of a whole line, 0 before the first line of values
     std::size_t m_least = 0;             ///< cells of a line that lacks averages and sums
     std::vector<std::size_t> m_columns;  ///< cells with values
-    std::vector<double> m_across;
-    std::vector<double> m_down;
-    std::vector<TablePart> m_parts{TablePart()};  ///< the last one is read
-    std::size_t m_rows = 0;                       ///< of the first part
-    std::size_t m_rowsAbovePage = 0;              ///< above the line of angles that came again last
+    TableBody m_body;                    ///< its last part is read
+    std::size_t m_rows = 0;              ///< of the first part
+    std::size_t m_rowsAbovePage = 0;     ///< above the line of angles that came again last
     std::size_t m_lastLine = 0;
     std::optional<TableFault> m_remarkAbove;  ///< the first line without numbers above the values
     std::optional<TableFault> m_remark;       ///< a remark behind the values, which is a fault when more values follow
@@ -103,7 +94,7 @@ std::variant<TableContent, TableFault> TableTextReading::run(const std::function
         endPart(m_lastLine);
     if (m_fault)
         return *m_fault;
-    return content();
+    return m_body.content(m_reading.verticalDown);
 }
 
 void TableTextReading::readLine(const TableLine &line)
@@ -116,7 +107,7 @@ void TableTextReading::readLine(const TableLine &line)
     if (isNamedSummary || (m_rows > 0 && goesOn(line)) || (m_remark && isRemark(line)))
         return;
     if (isRemark(line)) {
-        const bool isUnderNewAngles = m_parts.size() > 1 && m_parts.back().rows == 0;
+        const bool isUnderNewAngles = m_body.parts.size() > 1 && m_body.parts.back().rows == 0;
         if (isUnderNewAngles && !hasNumbers(line))
             return;
         std::optional<TableFault> &remark = m_rows > 0 ? m_remark : m_remarkAbove;
@@ -137,10 +128,10 @@ void TableTextReading::readLine(const TableLine &line)
 /// Whether a line of values begins with the table's first angle once more.
 bool TableTextReading::beginsAgain(const TableLine &line) const
 {
-    if (!m_reading.hasAngleColumn || m_parts.back().rows < 2)
+    if (!m_reading.hasAngleColumn || m_body.parts.back().rows < 2)
         return false;
     const std::optional<TableAngle> angle = tableAngle(line.cells.front(), m_reading);
-    return angle && angle->degrees == m_down.front() && m_down.back() > m_down.front();
+    return angle && angle->degrees == m_body.down.front() && m_body.down.back() != m_body.down.front();
 }
 
 /// Whether a line below values is one of angles again: the same, as on a new page, or those of further planes.
@@ -149,22 +140,22 @@ bool TableTextReading::goesOn(const TableLine &line)
     if (!m_heading || !m_reading.hasAngleColumn)
         return false;
     if (line.cells == m_heading->cells) {
-        m_rowsAbovePage = m_parts.back().rows;
+        m_rowsAbovePage = m_body.parts.back().rows;
         m_remark.reset();
         return true;
     }
     const std::optional<TableAngle> first = tableAngle(line.cells.front(), m_reading);
     const std::string_view corner = line.cells.front();
     const bool isCorner = corner.empty() || corner == m_heading->cells.front() || angleWord(corner) != AngleWord::None;
-    if (m_across.empty() || (first ? first->word == AngleWord::None : !isCorner))
+    if (m_body.across.empty() || (first ? first->word == AngleWord::None : !isCorner))
         return false;
     const TableHeading heading = tableHeading(line.cells, line.cells.size() + (first ? 1 : 0), m_reading);
     const auto isBare = [](const TableAngle &angle) { return angle.word == AngleWord::None; };
     if (first && std::any_of(heading.angles.begin(), heading.angles.end(), isBare))
         return false;  // a line of values under an angle in words: "G5"
-    double last = m_across.back();
+    double last = m_body.across.back();
     for (const TableAngle &angle : heading.angles) {
-        if (angle.degrees <= last || angle.degrees > 360)
+        if (angle.degrees == last || turnsBack(m_body.across.front(), last, angle.degrees) || angle.degrees > 360)
             return false;
         last = angle.degrees;
     }
@@ -185,16 +176,16 @@ void TableTextReading::beginPart(const TableLine &line, const TableHeading &head
     if (m_reading.separator == TableSeparator::Blanks)
         m_least = m_width;  // which value a shorter line lacks cannot be told
     for (const TableAngle &angle : heading.angles)
-        m_across.push_back(angle.degrees);
-    m_parts.emplace_back();
+        m_body.across.push_back(angle.degrees);
+    m_body.parts.emplace_back();
 }
 
 /// Each part has all the lines of the first.
 void TableTextReading::endPart(std::size_t line)
 {
-    if (m_parts.back().rows != m_rows)
+    if (m_body.parts.back().rows != m_rows)
         refuse(line, 0,
-               "the planes above have " + counted(m_parts.back().rows, "line") + ", those before them " +
+               "the planes above have " + counted(m_body.parts.back().rows, "line") + ", those before them " +
                    std::to_string(m_rows) + ".");
 }
 
@@ -257,10 +248,10 @@ void TableTextReading::begin(const TableLine &line)
         m_least = m_columns.back() + 1;
     for (std::size_t i = 0; i < heading.angles.size(); ++i) {
         const double angle = heading.angles[i].degrees;
-        if (!m_across.empty() && angle < m_across.back())
-            refuseFall(m_heading->number, m_heading->before + heading.begin + heading.columns[i] - firstValue + 1,
-                       angle, m_across.back());
-        m_across.push_back(angle);
+        if (!m_body.across.empty() && turnsBack(m_body.across.front(), m_body.across.back(), angle))
+            refuseTurn(m_heading->number, m_heading->before + heading.begin + heading.columns[i] - firstValue + 1,
+                       angle, m_body.across.back());
+        m_body.across.push_back(angle);
     }
 }
 
@@ -280,13 +271,13 @@ void TableTextReading::readRow(const TableLine &line)
         const std::optional<double> value = tableNumber(line.cells[column], m_reading);
         if (!value)
             return refuseCell(line, column);
-        m_parts.back().values.push_back(*value);
+        m_body.parts.back().values.push_back(*value);
     }
-    if (m_columns.empty() || m_rows == kMostAngles || std::max(m_columns.size(), m_across.size()) > kMostAngles)
+    if (m_columns.empty() || m_rows == kMostAngles || std::max(m_columns.size(), m_body.across.size()) > kMostAngles)
         return refuse(line.number, 0, "a table has 1 to 32767 lines and columns of values.");
-    m_parts.back().columns = m_columns.size();
-    ++m_parts.back().rows;
-    m_rows += m_parts.size() == 1 ? 1 : 0;
+    m_body.parts.back().columns = m_columns.size();
+    ++m_body.parts.back().rows;
+    m_rows += m_body.parts.size() == 1 ? 1 : 0;
 }
 
 void TableTextReading::readAngle(const TableLine &line)
@@ -294,29 +285,31 @@ void TableTextReading::readAngle(const TableLine &line)
     const std::optional<TableAngle> angle = tableAngle(line.cells.front(), m_reading);
     if (!angle)
         return refuse(line.number, line.before + 1, shownWord(line.cells.front()) + " is no angle.");
-    if (m_parts.size() > 1) {
-        const std::size_t row = m_parts.back().rows;
-        if (row >= m_rows || angle->degrees != m_down[row])
+    if (m_body.parts.size() > 1) {
+        const std::size_t row = m_body.parts.back().rows;
+        if (row >= m_rows || angle->degrees != m_body.down[row])
             refuse(line.number, line.before + 1,
                    "angle " + generalText(angle->degrees) + " does not stand in that place of the planes above.");
         return;
     }
-    if (!m_down.empty() && angle->degrees < m_down.back() && m_rowsAbovePage == m_rows)
-        refuseOther(line);
-    else if (!m_down.empty() && angle->degrees < m_down.back())
-        refuseFall(line.number, line.before + 1, angle->degrees, m_down.back());
-    m_down.push_back(angle->degrees);
+    const std::vector<double> &down = m_body.down;
+    if (!down.empty() && turnsBack(down.front(), down.back(), angle->degrees)) {
+        if (m_rowsAbovePage == m_rows)
+            refuseOther(line);
+        else
+            refuseTurn(line.number, line.before + 1, angle->degrees, down.back());
+    }
+    m_body.down.push_back(angle->degrees);
 }
 
 void TableTextReading::refuse(std::size_t line, std::size_t cell, const std::string &wrong)
 {
     if (m_fault)
         return;
-    std::string text =
-        "Line " + std::to_string(line) + (cell > 0 ? ", cell " + std::to_string(cell) : "") + ": " + wrong;
+    m_fault = faultAt(line, cell, wrong);
     if (m_rows > 0)
-        text += " Read before it: " + counted(m_rows, "line") + " of " + counted(m_columns.size(), "value") + ".";
-    m_fault = TableFault{text, line, cell};
+        m_fault->text +=
+            " Read before it: " + counted(m_rows, "line") + " of " + counted(m_columns.size(), "value") + ".";
 }
 
 void TableTextReading::refuseCell(const TableLine &line, std::size_t place)
@@ -334,9 +327,11 @@ void TableTextReading::refuseWidth(const TableLine &line, std::size_t above)
            counted(line.cells.size(), "cell") + " where the lines above have " + std::to_string(above) + ".");
 }
 
-void TableTextReading::refuseFall(std::size_t line, std::size_t cell, double angle, double before)
+void TableTextReading::refuseTurn(std::size_t line, std::size_t cell, double angle, double before)
 {
-    refuse(line, cell, "angle " + generalText(angle) + " stands behind " + generalText(before) + "; angles must rise.");
+    refuse(line, cell,
+           "angle " + generalText(angle) + " stands behind " + generalText(before) +
+               (angle < before ? "; angles must rise." : "; those before it fall."));
 }
 
 void TableTextReading::refuseOther(const TableLine &line)
@@ -350,33 +345,6 @@ TableFault TableTextReading::nothingRead() const
     const std::string needed = "No line of numbers was found; a table has one for each angle.";
     fault.text = fault.text.empty() ? needed : needed + " " + fault.text;
     return fault;
-}
-
-TableContent TableTextReading::content() const
-{
-    TableContent content;
-    const auto rows = static_cast<int>(m_rows);
-    std::size_t columns = 0;
-    for (const TablePart &part : m_parts)
-        columns += part.columns;
-    OneBased<double> &down = m_reading.verticalDown ? content.vertical : content.horizontal;
-    OneBased<double> &across = m_reading.verticalDown ? content.horizontal : content.vertical;
-    for (const double angle : m_down)
-        down.append(angle);
-    for (const double angle : m_across)
-        across.append(angle);
-    const auto width = static_cast<int>(columns);
-    content.values = m_reading.verticalDown ? OneBasedTable<double>(width, rows) : OneBasedTable<double>(rows, width);
-    int before = 0;
-    for (const TablePart &part : m_parts) {
-        const auto end = before + static_cast<int>(part.columns);
-        auto value = part.values.begin();
-        for (int row = 1; row <= rows; ++row)
-            for (int column = before + 1; column <= end; ++column, ++value)
-                (m_reading.verticalDown ? content.values(column, row) : content.values(row, column)) = *value;
-        before = end;
-    }
-    return content;
 }
 
 }  // namespace

@@ -48,15 +48,21 @@ std::string thousandsWords(char sign)
     }
 }
 
-std::string anglesWords(const OneBased<double> &angles, int count, const std::string &name, bool isDown)
+struct AxisWords {
+    std::string name;
+    bool isDown;
+    bool falls;
+};
+
+std::string anglesWords(const OneBased<double> &angles, int count, const AxisWords &axis)
 {
-    const std::string way = isDown ? " down the text" : " across the text";
+    const std::string way = axis.isDown ? "down the text" : "across the text";
     if (angles.empty())
-        return "no " + name + "s, but " + counted(count, "value") + way;
-    std::string words = counted(angles.size(), name) + " from " + generalText(angles(1));
+        return "no " + axis.name + "s, but " + counted(count, "value") + " " + way;
+    std::string words = counted(angles.size(), axis.name) + " from " + generalText(angles(1));
     if (angles.size() > 1)
         words += " to " + generalText(angles(angles.size()));
-    return words + way;
+    return words + (axis.falls ? ", falling " : " ") + way;
 }
 
 /// Where a line begins, lines counted from 1.
@@ -114,8 +120,10 @@ std::string readingWords(const TableReading &reading)
 
 std::string contentWords(const TableContent &table, const TableReading &reading)
 {
-    return "Read: " + anglesWords(table.vertical, table.values.columns(), "vertical angle", reading.verticalDown) +
-           "; " + anglesWords(table.horizontal, table.values.rows(), "horizontal angle", !reading.verticalDown) + ".";
+    const AxisWords vertical{"vertical angle", reading.verticalDown, table.verticalFalls};
+    const AxisWords horizontal{"horizontal angle", !reading.verticalDown, table.horizontalFalls};
+    return "Read: " + anglesWords(table.vertical, table.values.columns(), vertical) + "; " +
+           anglesWords(table.horizontal, table.values.rows(), horizontal) + ".";
 }
 
 std::string_view firstPart(std::string_view text)
