@@ -313,7 +313,7 @@ void PasteTableDialog::showFault(const TableFault &fault)
 {
     const TableReading reading = m_choices->reading();
     m_preview->showLines(cutLines(*m_text, reading, fault.line), fault.line, fault.cell);
-    const bool hasAngles = reading.hasAngleRow || reading.hasAngleColumn;
+    const bool hasAngles = reading.isList || reading.hasAngleRow || reading.hasAngleColumn;
     say(readingWords(reading), hasAngles || m_purpose.need.empty() ? fault.text : fault.text + " " + m_purpose.need,
         false);
 }

@@ -1,10 +1,10 @@
 #include "grid/TableAxes.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <string>
 
+#include "grid/AngleLook.h"
 #include "grid/TableAngle.h"
 #include "grid/TableHeading.h"
 #include "grid/TableNumber.h"
@@ -25,41 +25,6 @@ void add(Axis &axis, const TableAngle &angle)
     axis.isMarked |= angle.isMarked;
     if (angle.word == AngleWord::Vertical || angle.word == AngleWord::Horizontal)
         axis.word = angle.word;
-}
-
-bool areInRange(const std::vector<double> &numbers)
-{
-    return std::none_of(numbers.begin(), numbers.end(), [](double number) { return std::fabs(number) > 360; });
-}
-
-/// Whether all numbers rise, or all fall, between -360 and 360.
-bool isMonotone(const std::vector<double> &numbers)
-{
-    const bool rises = std::adjacent_find(numbers.begin(), numbers.end(), std::greater_equal<>()) == numbers.end();
-    const bool falls = std::adjacent_find(numbers.begin(), numbers.end(), std::less_equal<>()) == numbers.end();
-    return !numbers.empty() && (rises || falls) && areInRange(numbers);
-}
-
-/// Whether numbers without a word look like a list of angles: few steps, and a beginning or end as lists have it. Those
-/// that fall, as values do, have one step alone.
-bool looksLikeAngles(const std::vector<double> &numbers)
-{
-    if (numbers.size() < 2 || !isMonotone(numbers))
-        return false;
-    std::vector<long> steps;
-    for (std::size_t i = 1; i < numbers.size(); ++i)
-        steps.push_back(std::lround(1000 * std::fabs(numbers[i] - numbers[i - 1])));
-    const bool isFalling = numbers.front() > numbers.back();
-    const long firstStep = isFalling ? steps.back() : steps.front();
-    std::sort(steps.begin(), steps.end());
-    const auto distinct = std::unique(steps.begin(), steps.end()) - steps.begin();
-    if (isFalling && (distinct > 1 || steps.size() < 3 || numbers.front() > 180))
-        return false;
-    const double least = std::min(numbers.front(), numbers.back());
-    const bool isHalfAStep = std::lround(2000 * least) == firstStep;
-    static constexpr double kUsual[]{-180, -90, -85, -80, -75, -60, -45, -30, 0, 30, 45, 60, 90, 180, 270};
-    const bool isUsual = std::find(std::begin(kUsual), std::end(kUsual), least) != std::end(kUsual);
-    return (isUsual || isHalfAStep) && distinct <= 2 + static_cast<std::ptrdiff_t>(numbers.size()) / 4;
 }
 
 /// The first axis of a corner like "Gamma \ C", or its only one.
@@ -239,14 +204,6 @@ bool TableAxes::isVerticalDown() const
     if (m_reading.hasAngleRow && m_reading.hasAngleColumn)
         return m_column.degrees.size() >= m_row.axis.degrees.size();
     return !m_reading.hasAngleRow;
-}
-
-bool areEqual(const std::vector<double> &values)
-{
-    if (values.size() < 2)
-        return false;
-    const auto [least, most] = std::minmax_element(values.begin(), values.end());
-    return *most > 0 && *most - *least <= 0.002 * *most;
 }
 
 /// Whether the line at angle 0 or 180 has one value throughout, as it is one direction when the line's angle is

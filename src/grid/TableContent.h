@@ -4,6 +4,9 @@
 
 namespace penwright {
 
+/// How many angles of each kind a table has at most.
+inline constexpr int kMostTableAngles = 32767;
+
 /// A table of intensities that was read, turned so that its vertical and horizontal angles are known, and both rise.
 struct TableContent {
     OneBased<double> vertical{};     ///< degrees; empty when the text has none

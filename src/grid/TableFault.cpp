@@ -8,4 +8,12 @@ TableFault faultAt(std::size_t line, std::size_t cell, const std::string &wrong)
     return {place + ": " + wrong, line, cell};
 }
 
+TableFault faultOfNothing(const std::optional<TableFault> &remark)
+{
+    TableFault fault = remark.value_or(TableFault());
+    const std::string needed = "No line of numbers was found; a table has one for each angle.";
+    fault.text = fault.text.empty() ? needed : needed + " " + fault.text;
+    return fault;
+}
+
 }  // namespace penwright

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 
 namespace penwright {
@@ -14,5 +15,8 @@ struct TableFault {
 
 /// A fault whose text begins with its place, as "Line 3, cell 2: ". Without a cell the whole line is to blame.
 TableFault faultAt(std::size_t line, std::size_t cell, const std::string &wrong);
+
+/// The fault of a text without a line of values. `remark` is that of its first line of words, if it has one.
+TableFault faultOfNothing(const std::optional<TableFault> &remark);
 
 }  // namespace penwright

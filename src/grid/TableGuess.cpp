@@ -4,6 +4,7 @@
 #include "core/Ascii.h"
 #include "grid/TableAxes.h"
 #include "grid/TableLines.h"
+#include "grid/TableListGuess.h"
 #include "grid/TableSample.h"
 #include "grid/TableSigns.h"
 #include "grid/TableText.h"
@@ -100,7 +101,8 @@ TableReading guessTable(std::string_view text)
         return reading;
     reading.unit = unitOf(beginning);
     findSigns(sample, reading);
-    findAxes(sample, reading);
+    if (!findList(sample, text, reading))
+        findAxes(sample, reading);
     return reading;
 }
 

@@ -19,6 +19,7 @@ struct TableReading {
     bool hasAngleRow = false;      ///< the table's first line holds angles
     bool hasAngleColumn = false;   ///< each line begins with an angle
     bool verticalDown = true;      ///< vertical angles change from line to line, horizontal ones within a line
+    bool isList = false;           ///< each line is two angles, the vertical one first where verticalDown, and a value
     ValueUnit unit = ValueUnit::Candela;
 
     bool operator==(const TableReading &) const = default;

@@ -24,7 +24,9 @@ bool isFull(const std::vector<std::string_view> &cells)
     if (cells.empty() || !(cells.front().empty() || isLikeAngle(cells.front()) || isLikeNumber(cells.front())))
         return false;
     const bool hasNumbers = cells.size() > 1 || isLikeNumber(cells.front());
-    return hasNumbers && std::all_of(cells.begin() + 1, cells.end(), isLikeNumber);
+    // A list of directions has a second angle in its lines of three.
+    const std::size_t numbers = cells.size() == 3 && isLikeAngle(cells[1]) ? 2 : 1;
+    return hasNumbers && std::all_of(cells.begin() + static_cast<std::ptrdiff_t>(numbers), cells.end(), isLikeNumber);
 }
 
 /// Whether a line goes on with the table, if not without a fault.

@@ -1,7 +1,6 @@
 #include "grid/TableText.h"
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 #include <utility>
 
@@ -13,13 +12,11 @@
 #include "grid/TableFrame.h"
 #include "grid/TableHeading.h"
 #include "grid/TableLines.h"
+#include "grid/TableList.h"
 #include "grid/TableNumber.h"
 
 namespace penwright {
 namespace {
-
-constexpr std::size_t kMostAngles = std::numeric_limits<std::int16_t>::max();
-constexpr std::size_t kBytesBetweenQuestions = 1'000'000;
 
 /// Whether a number is there, and letters behind a blank.
 bool isNumberWithUnit(std::string_view cell)
@@ -56,7 +53,6 @@ private:
     void refuseTurn(std::size_t line, std::size_t cell, double angle, double before);
     void refuseOther(const TableLine &line);
     bool beginsAgain(const TableLine &line) const;
-    TableFault nothingRead() const;
 
     std::string_view m_text;
     TableReading m_reading;
@@ -76,20 +72,16 @@ private:
 
 std::variant<TableContent, TableFault> TableTextReading::run(const std::function<bool(double)> &goOn)
 {
-    if (m_text.find('\0') != std::string_view::npos)
-        return TableFault{"The text has characters with the code 0: it is no table.", 0, 0};
-    std::size_t asked = 0;
-    for (TableLine line; !m_fault && m_lines.next(line); m_lastLine = line.number) {
-        if (goOn && m_lines.bytesRead() > asked + kBytesBetweenQuestions) {
-            asked = m_lines.bytesRead();
-            if (!goOn(static_cast<double>(asked) / static_cast<double>(m_text.size())))
-                return TableFault();
-        }
+    const bool isWhole = eachLine(m_lines, m_text.size(), goOn, [this](const TableLine &line) {
+        m_lastLine = line.number;
         if (line.number > static_cast<std::size_t>(std::max(m_reading.linesToSkip, 0)))
             readLine(line);
-    }
+        return !m_fault;
+    });
+    if (!isWhole && !m_fault)
+        return TableFault();
     if (!m_fault && m_rows == 0)
-        m_fault = nothingRead();
+        m_fault = faultOfNothing(m_remarkAbove);
     if (!m_fault)
         endPart(m_lastLine);
     if (m_fault)
@@ -273,7 +265,8 @@ void TableTextReading::readRow(const TableLine &line)
             return refuseCell(line, column);
         m_body.parts.back().values.push_back(*value);
     }
-    if (m_columns.empty() || m_rows == kMostAngles || std::max(m_columns.size(), m_body.across.size()) > kMostAngles)
+    if (m_columns.empty() || m_rows == kMostTableAngles ||
+        std::max(m_columns.size(), m_body.across.size()) > kMostTableAngles)
         return refuse(line.number, 0, "a table has 1 to 32767 lines and columns of values.");
     m_body.parts.back().columns = m_columns.size();
     ++m_body.parts.back().rows;
@@ -339,14 +332,6 @@ void TableTextReading::refuseOther(const TableLine &line)
     refuse(line.number, line.before + 1, "another table begins here; copy one table alone.");
 }
 
-TableFault TableTextReading::nothingRead() const
-{
-    TableFault fault = m_remarkAbove.value_or(TableFault());
-    const std::string needed = "No line of numbers was found; a table has one for each angle.";
-    fault.text = fault.text.empty() ? needed : needed + " " + fault.text;
-    return fault;
-}
-
 }  // namespace
 
 std::optional<std::string> tableMisfit(const TableContent &table, int vertical, int horizontal)
@@ -362,7 +347,9 @@ std::optional<std::string> tableMisfit(const TableContent &table, int vertical, 
 std::variant<TableContent, TableFault> readTable(std::string_view text, const TableReading &reading,
                                                  const std::function<bool(double)> &goOn)
 {
-    return TableTextReading(text, reading).run(goOn);
+    if (text.find('\0') != std::string_view::npos)
+        return TableFault{"The text has characters with the code 0: it is no table.", 0, 0};
+    return reading.isList ? readList(text, reading, goOn) : TableTextReading(text, reading).run(goOn);
 }
 
 }  // namespace penwright

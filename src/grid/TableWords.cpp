@@ -50,19 +50,26 @@ std::string thousandsWords(char sign)
 
 struct AxisWords {
     std::string name;
-    bool isDown;
+    std::string way;
     bool falls;
 };
 
+/// Where angles stand; "" in a list, whose columns are chosen.
+std::string wayWords(bool isList, bool isDown)
+{
+    if (isList)
+        return {};
+    return isDown ? " down the text" : " across the text";
+}
+
 std::string anglesWords(const OneBased<double> &angles, int count, const AxisWords &axis)
 {
-    const std::string way = axis.isDown ? "down the text" : "across the text";
     if (angles.empty())
-        return "no " + axis.name + "s, but " + counted(count, "value") + " " + way;
+        return "no " + axis.name + "s, but " + counted(count, "value") + axis.way;
     std::string words = counted(angles.size(), axis.name) + " from " + generalText(angles(1));
     if (angles.size() > 1)
         words += " to " + generalText(angles(angles.size()));
-    return words + (axis.falls ? ", falling " : " ") + way;
+    return words + (axis.falls ? ", falling" : "") + axis.way;
 }
 
 /// Where a line begins, lines counted from 1.
@@ -120,8 +127,9 @@ std::string readingWords(const TableReading &reading)
 
 std::string contentWords(const TableContent &table, const TableReading &reading)
 {
-    const AxisWords vertical{"vertical angle", reading.verticalDown, table.verticalFalls};
-    const AxisWords horizontal{"horizontal angle", !reading.verticalDown, table.horizontalFalls};
+    const AxisWords vertical{"vertical angle", wayWords(reading.isList, reading.verticalDown), table.verticalFalls};
+    const AxisWords horizontal{"horizontal angle", wayWords(reading.isList, !reading.verticalDown),
+                               table.horizontalFalls};
     return "Read: " + anglesWords(table.vertical, table.values.columns(), vertical) + "; " +
            anglesWords(table.horizontal, table.values.rows(), horizontal) + ".";
 }

@@ -58,6 +58,16 @@ TEST(TableWords, sayWhichAnglesWereTurnedRound)
         "down the text.");
 }
 
+TEST(TableWords, sayOfAListWhichAnglesItHas)
+{
+    TableContent table;
+    table.values.reset(2, 3);
+    table.vertical = {0, 45, 90};
+    table.horizontal = {0, 90};
+    EXPECT_EQ(contentWords(table, {.isList = true}),
+              "Read: 3 vertical angles from 0 to 90; 2 horizontal angles from 0 to 90.");
+}
+
 TEST(FirstPart, isWholeLinesOfALongText)
 {
     EXPECT_EQ(firstPart("1\t2\n3"), "1\t2\n3");
