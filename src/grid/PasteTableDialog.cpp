@@ -305,6 +305,8 @@ void PasteTableDialog::showTable(const std::shared_ptr<const TableContent> &tabl
     m_preview->showTable(table, factor());
     if (reading.unit == ValueUnit::PerKilolumen && !m_purpose.unit.isKnown())
         return say(words, m_purpose.unit.whyNone, false);
+    if (reading.unit == ValueUnit::Other)
+        return say(words, m_purpose.unit.words(reading.unit), false);
     const TableVerdict verdict = m_purpose.judge(*table, factor());
     say(words, verdict.text, verdict.isTaken);
 }

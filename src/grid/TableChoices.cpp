@@ -110,7 +110,7 @@ void TableChoices::setReading(const TableReading &reading)
     m_angleRow->setChecked(reading.hasAngleRow);
     m_angleColumn->setChecked(reading.hasAngleColumn);
     m_direction->setCurrentIndex(placeOf(kDirections, Direction{reading.isList, reading.verticalDown}));
-    m_unit->setCurrentIndex(placeOf(kUnits, reading.unit));
+    m_unit->setCurrentIndex(reading.unit == ValueUnit::Other ? -1 : placeOf(kUnits, reading.unit));
 }
 
 TableReading TableChoices::reading() const
@@ -123,7 +123,7 @@ TableReading TableChoices::reading() const
             .hasAngleColumn = m_angleColumn->isChecked(),
             .verticalDown = chosen(kDirections, *m_direction).verticalDown,
             .isList = chosen(kDirections, *m_direction).isList,
-            .unit = chosen(kUnits, *m_unit)};
+            .unit = m_unit->currentIndex() < 0 ? ValueUnit::Other : chosen(kUnits, *m_unit)};
 }
 
 /// A list has its angles where they are, in each line.

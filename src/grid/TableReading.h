@@ -4,8 +4,9 @@ namespace penwright {
 
 enum class TableSeparator { Tab, Semicolon, Comma, Blanks };
 
-/// What the values of a table are. Per kilolumen: candela for 1000 lm of the lamps.
-enum class ValueUnit { Candela, PerKilolumen, Kilocandela, Millicandela };
+/// What the values of a table are. Per kilolumen: candela for 1000 lm of the lamps. Other: the text names a unit that
+/// is none of these, and nobody can choose that.
+enum class ValueUnit { Candela, PerKilolumen, Kilocandela, Millicandela, Other };
 
 /// Stands for the sign between thousands where there is none.
 inline constexpr char kNoSign = '\0';

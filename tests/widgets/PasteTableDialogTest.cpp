@@ -69,6 +69,21 @@ TEST_F(PasteTable, faultOfAListSaysNothingOfTheSizeThatATableNeeds)
         "angles.");
 }
 
+TEST_F(PasteTable, unitThatIsNoIntensityWaitsForAChoice)
+{
+    openPageFour();
+    open("Relative intensity in %\n" + kTable, [&](PasteTableDialog &) {
+        EXPECT_EQ(preview(), "|H 0|H 90\nV 0|1000|1000\nV 45|700.5|650.25\nV 90|12.3|0");
+        EXPECT_EQ(problem(), "The text names percent, lux or another unit than candela: choose what the values are.");
+        EXPECT_EQ(in<QComboBox>("tableUnit").currentText(), "");
+        EXPECT_FALSE(isOffered());
+        choose("tableUnit", 0);
+        EXPECT_EQ(problem(), "");
+        EXPECT_TRUE(isOffered());
+        leave();
+    });
+}
+
 TEST_F(PasteTable, linesCanBeSkipped)
 {
     openPageFive();

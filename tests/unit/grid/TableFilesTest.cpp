@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array kUnitNames{"cd", "cd/klm", "kcd", "mcd"};
+constexpr std::array kUnitNames{"cd", "cd/klm", "kcd", "mcd", "other"};
 
 std::string choicesText(const TableReading &reading)
 {
