@@ -56,6 +56,7 @@ public:
     TableAxes(const TableSample &sample, TableReading &reading) : m_sample(sample), m_reading(reading)
     {
         m_row.firstValues = sample.first;
+        m_least = sample.width;
     }
 
     void find();
@@ -64,6 +65,8 @@ private:
     using Cells = std::vector<std::string_view>;
 
     const Cells &cellsAt(std::size_t line) const { return m_sample.lines[line].cells; }
+    bool isOfTheTable(const Cells &cells) const { return cells.size() <= m_sample.width && cells.size() >= m_least; }
+    std::size_t firstBelow() const { return m_reading.hasAngleRow ? m_row.line + 1 : m_row.firstValues; }
     Axis columnFrom(std::size_t line) const;
     bool isColumnNamed() const;
     std::optional<AngleRow> rowFound() const;
@@ -77,6 +80,7 @@ private:
     TableReading &m_reading;
     AngleRow m_row;  ///< without a line of angles, where the values stand
     Axis m_column;
+    std::size_t m_least = 0;  ///< cells of a line that lacks averages and sums
 };
 
 void TableAxes::find()
@@ -87,7 +91,9 @@ void TableAxes::find()
         m_row = *std::move(row);
         m_reading.hasAngleRow = true;
         m_reading.hasAngleColumn = m_row.beside == Beside::Column;
-        m_column = columnFrom(m_row.firstValues);
+        if (!m_row.columns.empty())
+            m_least = m_row.columns.back() + 1;
+        m_column = columnFrom(firstBelow());
     } else {
         m_reading.hasAngleColumn = m_reading.hasAngleColumn || isColumnNamed();
         for (std::size_t i = m_reading.hasAngleColumn ? 1 : 0; i < m_sample.width; ++i)
@@ -103,7 +109,7 @@ Axis TableAxes::columnFrom(std::size_t line) const
 {
     Axis column;
     for (; line < m_sample.lines.size(); ++line)
-        if (cellsAt(line).size() == m_sample.width)
+        if (isOfTheTable(cellsAt(line)))
             if (const std::optional<TableAngle> angle = tableAngle(cellsAt(line).front(), m_reading)) {
                 if (column.degrees.size() >= 3 && angle->degrees == column.degrees.front())
                     break;
@@ -163,7 +169,7 @@ std::optional<AngleRow> TableAxes::rowAt(std::size_t line, Beside beside, Proof 
         return std::nullopt;
     TableReading reading = m_reading;
     reading.hasAngleColumn = hasColumn;
-    const TableHeading heading = tableHeading(cells, m_sample.width, reading);
+    const TableHeading heading = tableHeading(cells, headedWidth(cells, m_sample.width, reading), reading);
     Axis axis;
     for (const TableAngle &angle : heading.angles)
         add(axis, angle);
@@ -210,10 +216,10 @@ bool TableAxes::isVerticalDown() const
 /// vertical.
 bool TableAxes::isConstantDown() const
 {
-    for (std::size_t line = m_row.firstValues; line < m_sample.lines.size() && m_reading.hasAngleColumn; ++line) {
+    for (std::size_t line = firstBelow(); line < m_sample.lines.size() && m_reading.hasAngleColumn; ++line) {
         const Cells &cells = cellsAt(line);
         const std::optional<TableAngle> angle = tableAngle(cells.front(), m_reading);
-        if (cells.size() != m_sample.width || !angle || (angle->degrees != 0 && angle->degrees != 180))
+        if (!isOfTheTable(cells) || !angle || (angle->degrees != 0 && angle->degrees != 180))
             continue;
         std::vector<double> values;
         for (const std::size_t column : m_row.columns)
@@ -231,8 +237,8 @@ bool TableAxes::isConstantAcross() const
         if (m_row.axis.degrees[i] != 0 && m_row.axis.degrees[i] != 180)
             continue;
         std::vector<double> values;
-        for (std::size_t line = m_row.firstValues; line < m_sample.lines.size(); ++line)
-            if (cellsAt(line).size() == m_sample.width)
+        for (std::size_t line = firstBelow(); line < m_sample.lines.size(); ++line)
+            if (isOfTheTable(cellsAt(line)))
                 values.push_back(tableNumber(cellsAt(line)[m_row.columns[i]], m_reading).value_or(0));
         if (areEqual(values))
             return true;

@@ -57,13 +57,14 @@ private:
     std::string_view m_text;
     TableReading m_reading;
     TableLines m_lines;
-    std::optional<TableLine> m_heading;  ///< the line of angles over the values
-    std::size_t m_width = 0;             ///< cells of a whole line, 0 before the first line of values
-    std::size_t m_least = 0;             ///< cells of a line that lacks averages and sums
-    std::vector<std::size_t> m_columns;  ///< cells with values
-    TableBody m_body;                    ///< its last part is read
-    std::size_t m_rows = 0;              ///< of the first part
-    std::size_t m_rowsAbovePage = 0;     ///< above the line of angles that came again last
+    std::optional<TableLine> m_heading;            ///< the line of angles over the values
+    std::vector<std::string_view> m_aboveHeading;  ///< the last line that is skipped
+    std::size_t m_width = 0;                       ///< cells of a whole line, 0 before the first line of values
+    std::size_t m_least = 0;                       ///< cells of a line that lacks averages and sums
+    std::vector<std::size_t> m_columns;            ///< cells with values
+    TableBody m_body;                              ///< its last part is read
+    std::size_t m_rows = 0;                        ///< of the first part
+    std::size_t m_rowsAbovePage = 0;               ///< above the line of angles that came again last
     std::size_t m_lastLine = 0;
     std::optional<TableFault> m_remarkAbove;  ///< the first line without numbers above the values
     std::optional<TableFault> m_remark;       ///< a remark behind the values, which is a fault when more values follow
@@ -76,6 +77,8 @@ std::variant<TableContent, TableFault> TableTextReading::run(const std::function
         m_lastLine = line.number;
         if (line.number > static_cast<std::size_t>(std::max(m_reading.linesToSkip, 0)))
             readLine(line);
+        else
+            m_aboveHeading = line.cells;
         return !m_fault;
     });
     if (!isWhole && !m_fault)
@@ -219,7 +222,8 @@ void TableTextReading::begin(const TableLine &line)
             m_columns.push_back(i);
         return;
     }
-    const std::vector<std::string_view> &angles = m_heading->cells;
+    std::vector<std::string_view> angles = m_heading->cells;
+    takeNamesAbove(angles, m_aboveHeading, m_text, m_reading.separator);
     const bool areCellsCut = m_reading.separator != TableSeparator::Blanks;
     for (std::size_t place = m_width; areCellsCut && place < angles.size(); ++place)
         if (tableAngle(angles[place], m_reading))
