@@ -1,7 +1,24 @@
 #include "grid/TableBody.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace penwright {
 namespace {
+
+/// Whether a dash stands before each number, as in "C-0" and "C-90": nobody writes a minus before 0.
+bool haveDashes(const std::vector<double> &angles)
+{
+    const bool beginsWithDash = !angles.empty() && angles.front() == 0 && std::signbit(angles.front());
+    return beginsWithDash && std::all_of(angles.begin(), angles.end(), [](double angle) { return angle <= 0; });
+}
+
+std::vector<double> withoutDashes(std::vector<double> angles)
+{
+    if (haveDashes(angles))
+        std::transform(angles.begin(), angles.end(), angles.begin(), [](double angle) { return std::fabs(angle); });
+    return angles;
+}
 
 /// The angles of an axis, and their places in it from those in the text, both counted from 1.
 class TurnedAxis {
@@ -55,8 +72,8 @@ TableContent TableBody::content(bool verticalDown) const
     std::size_t columns = 0;
     for (const TablePart &part : parts)
         columns += part.columns;
-    const TurnedAxis lines(down, parts.front().rows);
-    const TurnedAxis cells(across, columns);
+    const TurnedAxis lines(withoutDashes(down), parts.front().rows);
+    const TurnedAxis cells(withoutDashes(across), columns);
     const TurnedAxis &vertical = verticalDown ? lines : cells;
     const TurnedAxis &horizontal = verticalDown ? cells : lines;
     TableContent content;

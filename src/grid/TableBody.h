@@ -20,7 +20,7 @@ struct TableBody {
     std::vector<TablePart> parts{TablePart()};
 
     /// The table with its vertical angles from line to line, or from cell to cell. Angles that fall are turned round
-    /// with their values.
+    /// with their values. Those with a dash before each number, from "C-0" on, are not below 0.
     TableContent content(bool verticalDown) const;
 };
 
