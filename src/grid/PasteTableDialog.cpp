@@ -305,6 +305,8 @@ void PasteTableDialog::showTable(const std::shared_ptr<const TableContent> &tabl
     m_preview->showTable(table, factor());
     if (reading.unit == ValueUnit::PerKilolumen && !m_purpose.unit.isKnown())
         return say(words, m_purpose.unit.whyNone, false);
+    if (reading.unit == ValueUnit::Other)
+        return say(words, m_purpose.unit.words(reading.unit), false);
     const TableVerdict verdict = m_purpose.judge(*table, factor());
     say(words, verdict.text, verdict.isTaken);
 }
@@ -313,7 +315,7 @@ void PasteTableDialog::showFault(const TableFault &fault)
 {
     const TableReading reading = m_choices->reading();
     m_preview->showLines(cutLines(*m_text, reading, fault.line), fault.line, fault.cell);
-    const bool hasAngles = reading.hasAngleRow || reading.hasAngleColumn;
+    const bool hasAngles = reading.isList || reading.hasAngleRow || reading.hasAngleColumn;
     say(readingWords(reading), hasAngles || m_purpose.need.empty() ? fault.text : fault.text + " " + m_purpose.need,
         false);
 }

@@ -218,6 +218,8 @@ std::string_view oneAngle(std::string_view cell)
 
 std::optional<TableAngle> tableAngle(std::string_view cell, const TableReading &reading)
 {
+    if (const std::optional<double> bare = tableNumber(cell, reading))
+        return TableAngle{*bare, AngleWord::None, false};
     const std::optional<AngleParts> parts = angleParts(oneAngle(cell));
     const std::optional<double> degrees = parts ? tableNumber(parts->number, reading) : std::nullopt;
     if (!degrees)

@@ -1,10 +1,10 @@
 #include "grid/TableAxes.h"
 
 #include <algorithm>
-#include <cmath>
 #include <optional>
 #include <string>
 
+#include "grid/AngleLook.h"
 #include "grid/TableAngle.h"
 #include "grid/TableHeading.h"
 #include "grid/TableNumber.h"
@@ -25,41 +25,6 @@ void add(Axis &axis, const TableAngle &angle)
     axis.isMarked |= angle.isMarked;
     if (angle.word == AngleWord::Vertical || angle.word == AngleWord::Horizontal)
         axis.word = angle.word;
-}
-
-bool areInRange(const std::vector<double> &numbers)
-{
-    return std::none_of(numbers.begin(), numbers.end(), [](double number) { return std::fabs(number) > 360; });
-}
-
-/// Whether all numbers rise, or all fall, between -360 and 360.
-bool isMonotone(const std::vector<double> &numbers)
-{
-    const bool rises = std::adjacent_find(numbers.begin(), numbers.end(), std::greater_equal<>()) == numbers.end();
-    const bool falls = std::adjacent_find(numbers.begin(), numbers.end(), std::less_equal<>()) == numbers.end();
-    return !numbers.empty() && (rises || falls) && areInRange(numbers);
-}
-
-/// Whether numbers without a word look like a list of angles: few steps, and a beginning or end as lists have it. Those
-/// that fall, as values do, have one step alone.
-bool looksLikeAngles(const std::vector<double> &numbers)
-{
-    if (numbers.size() < 2 || !isMonotone(numbers))
-        return false;
-    std::vector<long> steps;
-    for (std::size_t i = 1; i < numbers.size(); ++i)
-        steps.push_back(std::lround(1000 * std::fabs(numbers[i] - numbers[i - 1])));
-    const bool isFalling = numbers.front() > numbers.back();
-    const long firstStep = isFalling ? steps.back() : steps.front();
-    std::sort(steps.begin(), steps.end());
-    const auto distinct = std::unique(steps.begin(), steps.end()) - steps.begin();
-    if (isFalling && (distinct > 1 || steps.size() < 3 || numbers.front() > 180))
-        return false;
-    const double least = std::min(numbers.front(), numbers.back());
-    const bool isHalfAStep = std::lround(2000 * least) == firstStep;
-    static constexpr double kUsual[]{-180, -90, -85, -80, -75, -60, -45, -30, 0, 30, 45, 60, 90, 180, 270};
-    const bool isUsual = std::find(std::begin(kUsual), std::end(kUsual), least) != std::end(kUsual);
-    return (isUsual || isHalfAStep) && distinct <= 2 + static_cast<std::ptrdiff_t>(numbers.size()) / 4;
 }
 
 /// The first axis of a corner like "Gamma \ C", or its only one.
@@ -91,6 +56,7 @@ public:
     TableAxes(const TableSample &sample, TableReading &reading) : m_sample(sample), m_reading(reading)
     {
         m_row.firstValues = sample.first;
+        m_least = sample.width;
     }
 
     void find();
@@ -99,6 +65,8 @@ private:
     using Cells = std::vector<std::string_view>;
 
     const Cells &cellsAt(std::size_t line) const { return m_sample.lines[line].cells; }
+    bool isOfTheTable(const Cells &cells) const { return cells.size() <= m_sample.width && cells.size() >= m_least; }
+    std::size_t firstBelow() const { return m_reading.hasAngleRow ? m_row.line + 1 : m_row.firstValues; }
     Axis columnFrom(std::size_t line) const;
     bool isColumnNamed() const;
     std::optional<AngleRow> rowFound() const;
@@ -112,6 +80,7 @@ private:
     TableReading &m_reading;
     AngleRow m_row;  ///< without a line of angles, where the values stand
     Axis m_column;
+    std::size_t m_least = 0;  ///< cells of a line that lacks averages and sums
 };
 
 void TableAxes::find()
@@ -122,7 +91,9 @@ void TableAxes::find()
         m_row = *std::move(row);
         m_reading.hasAngleRow = true;
         m_reading.hasAngleColumn = m_row.beside == Beside::Column;
-        m_column = columnFrom(m_row.firstValues);
+        if (!m_row.columns.empty())
+            m_least = m_row.columns.back() + 1;
+        m_column = columnFrom(firstBelow());
     } else {
         m_reading.hasAngleColumn = m_reading.hasAngleColumn || isColumnNamed();
         for (std::size_t i = m_reading.hasAngleColumn ? 1 : 0; i < m_sample.width; ++i)
@@ -138,7 +109,7 @@ Axis TableAxes::columnFrom(std::size_t line) const
 {
     Axis column;
     for (; line < m_sample.lines.size(); ++line)
-        if (cellsAt(line).size() == m_sample.width)
+        if (isOfTheTable(cellsAt(line)))
             if (const std::optional<TableAngle> angle = tableAngle(cellsAt(line).front(), m_reading)) {
                 if (column.degrees.size() >= 3 && angle->degrees == column.degrees.front())
                     break;
@@ -198,7 +169,7 @@ std::optional<AngleRow> TableAxes::rowAt(std::size_t line, Beside beside, Proof 
         return std::nullopt;
     TableReading reading = m_reading;
     reading.hasAngleColumn = hasColumn;
-    const TableHeading heading = tableHeading(cells, m_sample.width, reading);
+    const TableHeading heading = tableHeading(cells, headedWidth(cells, m_sample.width, reading), reading);
     Axis axis;
     for (const TableAngle &angle : heading.angles)
         add(axis, angle);
@@ -241,22 +212,14 @@ bool TableAxes::isVerticalDown() const
     return !m_reading.hasAngleRow;
 }
 
-bool areEqual(const std::vector<double> &values)
-{
-    if (values.size() < 2)
-        return false;
-    const auto [least, most] = std::minmax_element(values.begin(), values.end());
-    return *most > 0 && *most - *least <= 0.002 * *most;
-}
-
 /// Whether the line at angle 0 or 180 has one value throughout, as it is one direction when the line's angle is
 /// vertical.
 bool TableAxes::isConstantDown() const
 {
-    for (std::size_t line = m_row.firstValues; line < m_sample.lines.size() && m_reading.hasAngleColumn; ++line) {
+    for (std::size_t line = firstBelow(); line < m_sample.lines.size() && m_reading.hasAngleColumn; ++line) {
         const Cells &cells = cellsAt(line);
         const std::optional<TableAngle> angle = tableAngle(cells.front(), m_reading);
-        if (cells.size() != m_sample.width || !angle || (angle->degrees != 0 && angle->degrees != 180))
+        if (!isOfTheTable(cells) || !angle || (angle->degrees != 0 && angle->degrees != 180))
             continue;
         std::vector<double> values;
         for (const std::size_t column : m_row.columns)
@@ -274,8 +237,8 @@ bool TableAxes::isConstantAcross() const
         if (m_row.axis.degrees[i] != 0 && m_row.axis.degrees[i] != 180)
             continue;
         std::vector<double> values;
-        for (std::size_t line = m_row.firstValues; line < m_sample.lines.size(); ++line)
-            if (cellsAt(line).size() == m_sample.width)
+        for (std::size_t line = firstBelow(); line < m_sample.lines.size(); ++line)
+            if (isOfTheTable(cellsAt(line)))
                 values.push_back(tableNumber(cellsAt(line)[m_row.columns[i]], m_reading).value_or(0));
         if (areEqual(values))
             return true;

@@ -21,6 +21,17 @@ constexpr int kMostSkipped = 1'000'000;
 constexpr std::array kSeparators{TableSeparator::Tab, TableSeparator::Semicolon, TableSeparator::Comma,
                                  TableSeparator::Blanks};
 constexpr std::array kDecimalSigns{'.', ','};
+
+/// Where the vertical angles stand: an entry of the list that chooses it.
+struct Direction {
+    bool isList;
+    bool verticalDown;
+
+    bool operator==(const Direction &) const = default;
+};
+
+constexpr std::array kDirections{Direction{false, true}, Direction{false, false}, Direction{true, true},
+                                 Direction{true, false}};
 constexpr std::array kUnits{ValueUnit::Candela, ValueUnit::PerKilolumen, ValueUnit::Kilocandela,
                             ValueUnit::Millicandela};
 constexpr std::array kThousandsSigns{kNoSign, '.', ',', '\'', ' '};
@@ -58,7 +69,9 @@ TableChoices::TableChoices(QWidget *parent) : QWidget(parent)
     connect(m_skip, &QSpinBox::valueChanged, this, &TableChoices::changed);
     m_angleRow = addCheck(*form, "tableAngleRow", "First line holds angles");
     m_angleColumn = addCheck(*form, "tableAngleColumn", "First column holds angles");
-    m_direction = addList(*form, "tableDirection", "Vertical angles", {"Down the text", "Across the text"});
+    m_direction = addList(*form, "tableDirection", "Vertical angles",
+                          {"Down the text", "Across the text", "First in a list", "Second in a list"});
+    connect(m_direction, &QComboBox::currentIndexChanged, this, &TableChoices::offerAngles);
     m_unit =
         addList(*form, "tableUnit", "Values are", {"Candela", "Candela per kilolumen", "Kilocandela", "Millicandela"});
     m_unitNote = new QuietLabel;
@@ -96,8 +109,8 @@ void TableChoices::setReading(const TableReading &reading)
     m_skip->setValue(reading.linesToSkip);
     m_angleRow->setChecked(reading.hasAngleRow);
     m_angleColumn->setChecked(reading.hasAngleColumn);
-    m_direction->setCurrentIndex(reading.verticalDown ? 0 : 1);
-    m_unit->setCurrentIndex(placeOf(kUnits, reading.unit));
+    m_direction->setCurrentIndex(placeOf(kDirections, Direction{reading.isList, reading.verticalDown}));
+    m_unit->setCurrentIndex(reading.unit == ValueUnit::Other ? -1 : placeOf(kUnits, reading.unit));
 }
 
 TableReading TableChoices::reading() const
@@ -108,8 +121,17 @@ TableReading TableChoices::reading() const
             .linesToSkip = m_skip->value(),
             .hasAngleRow = m_angleRow->isChecked(),
             .hasAngleColumn = m_angleColumn->isChecked(),
-            .verticalDown = m_direction->currentIndex() == 0,
-            .unit = chosen(kUnits, *m_unit)};
+            .verticalDown = chosen(kDirections, *m_direction).verticalDown,
+            .isList = chosen(kDirections, *m_direction).isList,
+            .unit = m_unit->currentIndex() < 0 ? ValueUnit::Other : chosen(kUnits, *m_unit)};
+}
+
+/// A list has its angles where they are, in each line.
+void TableChoices::offerAngles()
+{
+    const bool isTable = !chosen(kDirections, *m_direction).isList;
+    m_angleRow->setEnabled(isTable);
+    m_angleColumn->setEnabled(isTable);
 }
 
 void TableChoices::sayOfUnit(const QString &sentence)

@@ -34,6 +34,7 @@ signals:
 private:
     QComboBox *addList(QFormLayout &form, const char *name, const QString &label, const QStringList &entries);
     QCheckBox *addCheck(QFormLayout &form, const char *name, const QString &text);
+    void offerAngles();
 
     QComboBox *m_separator;
     QComboBox *m_decimal;

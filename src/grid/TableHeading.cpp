@@ -1,8 +1,36 @@
 #include "grid/TableHeading.h"
 
-namespace penwright {
+#include <algorithm>
 
+#include "grid/TableNumber.h"
+
+namespace penwright {
 namespace {
+
+/// How many bytes of its line there are up to the end of a cell.
+std::size_t bytesUpTo(std::string_view text, std::string_view cell)
+{
+    const auto place = static_cast<std::size_t>(cell.data() - text.data());
+    const std::size_t lineEnd = text.substr(0, place).find_last_of("\r\n");
+    return place + cell.size() - (lineEnd == std::string_view::npos ? 0 : lineEnd + 1);
+}
+
+/// The names that a line ends with, of one or several words each, if they begin behind a number of bytes.
+std::vector<std::string_view> namesBehind(const std::vector<std::string_view> &cells, std::string_view text,
+                                          std::size_t bytes)
+{
+    std::vector<std::string_view> names;
+    const char *end = nullptr;
+    for (std::size_t at = cells.size() - namedAtEnd(cells); at < cells.size(); ++at) {
+        const std::string_view word = cells[at];
+        if (bytesUpTo(text, word.substr(0, 0)) < bytes)
+            return {};
+        if (end == nullptr || word.data() > end + 1)
+            names.push_back(word);
+        end = word.data() + word.size();
+    }
+    return names;
+}
 
 /// Whether a line of angles beside a column of them begins with its first angle, nothing standing over the column.
 bool hasNoCorner(const std::vector<std::string_view> &cells, const TableReading &reading)
@@ -22,6 +50,30 @@ std::size_t namedAtEnd(const std::vector<std::string_view> &cells)
     while (named < cells.size() && isSummary(cells[cells.size() - named - 1]))
         ++named;
     return named;
+}
+
+void takeNamesAbove(std::vector<std::string_view> &angles, const std::vector<std::string_view> &above,
+                    std::string_view text, TableSeparator separator)
+{
+    if (angles.empty() || namedAtEnd(above) == 0 || namedAtEnd(angles) > 0)
+        return;
+    // Units stand over values: "deg", "cd", "lm".
+    if (angleWord(above.front()) == AngleWord::Any || std::any_of(above.begin(), above.end(), isLikeNumber))
+        return;
+    if (separator == TableSeparator::Blanks) {
+        // Names are often not quite over their columns.
+        const std::string_view *last = &angles.back();
+        const std::size_t begin = angles.size() > 1 ? bytesUpTo(text, last[-1]) : 0;
+        if (bytesUpTo(text, above.back()) < bytesUpTo(text, *last))
+            return;
+        const std::vector<std::string_view> names = namesBehind(above, text, begin);
+        angles.insert(angles.end(), names.begin(), names.end());
+    } else if (above.size() > angles.size()) {
+        const auto behind = above.begin() + static_cast<std::ptrdiff_t>(angles.size());
+        const auto isName = [](std::string_view cell) { return cell.empty() || isSummary(cell); };
+        if (std::all_of(behind, above.end(), isName))
+            angles.insert(angles.end(), behind, above.end());
+    }
 }
 
 std::size_t headedWidth(const std::vector<std::string_view> &cells, std::size_t width, const TableReading &reading)

@@ -21,6 +21,12 @@ struct TableHeading {
 /// How many cells at the end of a line name averages, sums or the like.
 std::size_t namedAtEnd(const std::vector<std::string_view> &cells);
 
+/// Puts the names of averages or sums that the line above ends with behind the angles of a line, if they stand behind
+/// the last of them there, or nearly. A line with numbers or of units, or angles that have such names, leave all as it
+/// is.
+void takeNamesAbove(std::vector<std::string_view> &angles, const std::vector<std::string_view> &above,
+                    std::string_view text, TableSeparator separator);
+
 /// The width of the lines below a line of angles, of which the first has `width` cells: more than it has where the
 /// names of averages or sums end the line of angles and it has no cells for them.
 std::size_t headedWidth(const std::vector<std::string_view> &cells, std::size_t width, const TableReading &reading);

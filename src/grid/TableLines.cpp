@@ -13,6 +13,7 @@ namespace {
 
 constexpr std::size_t kSampleBytes = 40'000;
 constexpr std::size_t kSampleLines = 300;
+constexpr std::size_t kBytesBetweenQuestions = 1'000'000;
 
 /// No cell in quotes is longer: a lone quote then costs no look at the rest of the text.
 constexpr std::size_t kLongestQuoted = 2000;
@@ -120,6 +121,22 @@ bool isCount(std::string_view cell)
 }
 
 }  // namespace
+
+bool eachLine(TableLines &lines, std::size_t size, const std::function<bool(double)> &goOn,
+              const std::function<bool(const TableLine &)> &read)
+{
+    std::size_t asked = 0;
+    for (TableLine line; lines.next(line);) {
+        if (goOn && lines.bytesRead() > asked + kBytesBetweenQuestions) {
+            asked = lines.bytesRead();
+            if (!goOn(static_cast<double>(asked) / static_cast<double>(size)))
+                return false;
+        }
+        if (!read(line))
+            return false;
+    }
+    return true;
+}
 
 std::string_view sampleText(std::string_view text)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <functional>
 #include <string_view>
 #include <vector>
 
@@ -56,6 +57,11 @@ private:
     TableFrame m_frame;
     std::string_view m_lastCount;  ///< the line's number that was left out last
 };
+
+/// Gives the lines one by one to `read` until it wants no more. `goOn` is asked now and then with the part of the text,
+/// of `size` bytes, that is read; false when one of them said no.
+bool eachLine(TableLines &lines, std::size_t size, const std::function<bool(double)> &goOn,
+              const std::function<bool(const TableLine &)> &read);
 
 /// The part of a text that a guess looks at: its first lines, 300 at most, of 40,000 bytes at most together.
 std::string_view sampleText(std::string_view text);

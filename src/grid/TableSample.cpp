@@ -8,6 +8,7 @@
 
 #include "grid/TableAngle.h"
 #include "grid/TableFrame.h"
+#include "grid/TableHeading.h"
 #include "grid/TableLines.h"
 #include "grid/TableNumber.h"
 
@@ -24,7 +25,15 @@ bool isFull(const std::vector<std::string_view> &cells)
     if (cells.empty() || !(cells.front().empty() || isLikeAngle(cells.front()) || isLikeNumber(cells.front())))
         return false;
     const bool hasNumbers = cells.size() > 1 || isLikeNumber(cells.front());
-    return hasNumbers && std::all_of(cells.begin() + 1, cells.end(), isLikeNumber);
+    // A list of directions has a second angle in its lines of three.
+    const std::size_t numbers = cells.size() == 3 && isLikeAngle(cells[1]) ? 2 : 1;
+    return hasNumbers && std::all_of(cells.begin() + static_cast<std::ptrdiff_t>(numbers), cells.end(), isLikeNumber);
+}
+
+/// Whether a line may be one of angles: nothing or a word or an angle, and angles behind it.
+bool isLineOfAngles(const std::vector<std::string_view> &cells)
+{
+    return cells.size() > 1 && std::all_of(cells.begin() + 1, cells.end(), isLikeAngle);
 }
 
 /// Whether a line goes on with the table, if not without a fault.
@@ -110,6 +119,9 @@ TableSample cutAt(std::string_view text, TableSeparator separator)
     TableLines lines(text, separator, tableFrame(text, separator));
     for (TableLine line; lines.next(line);)
         sample.lines.push_back({line.number, line.cells, isFull(line.cells)});
+    for (std::size_t at = 1; at < sample.lines.size(); ++at)
+        if (isLineOfAngles(sample.lines[at].cells))
+            takeNamesAbove(sample.lines[at].cells, sample.lines[at - 1].cells, text, separator);
     findWidth(sample);
     if (sample.width > 0)
         findFirst(sample);

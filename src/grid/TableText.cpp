@@ -1,7 +1,6 @@
 #include "grid/TableText.h"
 
 #include <algorithm>
-#include <limits>
 #include <optional>
 #include <utility>
 
@@ -9,23 +8,15 @@
 #include "core/NumberText.h"
 #include "core/TextBytes.h"
 #include "grid/TableAngle.h"
+#include "grid/TableBody.h"
 #include "grid/TableFrame.h"
 #include "grid/TableHeading.h"
 #include "grid/TableLines.h"
+#include "grid/TableList.h"
 #include "grid/TableNumber.h"
 
 namespace penwright {
 namespace {
-
-constexpr std::size_t kMostAngles = std::numeric_limits<std::int16_t>::max();
-constexpr std::size_t kBytesBetweenQuestions = 1'000'000;
-
-/// Planes that stand beside each other in the text, below others of the same table.
-struct TablePart {
-    std::vector<double> values{};  ///< line by line
-    std::size_t columns = 0;
-    std::size_t rows = 0;
-};
 
 /// Whether a number is there, and letters behind a blank.
 bool isNumberWithUnit(std::string_view cell)
@@ -59,24 +50,21 @@ private:
     void refuse(std::size_t line, std::size_t cell, const std::string &wrong);
     void refuseCell(const TableLine &line, std::size_t place);
     void refuseWidth(const TableLine &line, std::size_t above);
-    void refuseFall(std::size_t line, std::size_t cell, double angle, double before);
+    void refuseTurn(std::size_t line, std::size_t cell, double angle, double before);
     void refuseOther(const TableLine &line);
     bool beginsAgain(const TableLine &line) const;
-    TableFault nothingRead() const;
-    TableContent content() const;
 
     std::string_view m_text;
     TableReading m_reading;
     TableLines m_lines;
-    std::optional<TableLine> m_heading;  ///< the line of angles over the values
-    std::size_t m_width = 0;             ///< cells of a whole line, 0 before the first line of values
-    std::size_t m_least = 0;             ///< cells of a line that lacks averages and sums
-    std::vector<std::size_t> m_columns;  ///< cells with values
-    std::vector<double> m_across;
-    std::vector<double> m_down;
-    std::vector<TablePart> m_parts{TablePart()};  ///< the last one is read
-    std::size_t m_rows = 0;                       ///< of the first part
-    std::size_t m_rowsAbovePage = 0;              ///< above the line of angles that came again last
+    std::optional<TableLine> m_heading;            ///< the line of angles over the values
+    std::vector<std::string_view> m_aboveHeading;  ///< the last line that is skipped
+    std::size_t m_width = 0;                       ///< cells of a whole line, 0 before the first line of values
+    std::size_t m_least = 0;                       ///< cells of a line that lacks averages and sums
+    std::vector<std::size_t> m_columns;            ///< cells with values
+    TableBody m_body;                              ///< its last part is read
+    std::size_t m_rows = 0;                        ///< of the first part
+    std::size_t m_rowsAbovePage = 0;               ///< above the line of angles that came again last
     std::size_t m_lastLine = 0;
     std::optional<TableFault> m_remarkAbove;  ///< the first line without numbers above the values
     std::optional<TableFault> m_remark;       ///< a remark behind the values, which is a fault when more values follow
@@ -85,25 +73,23 @@ private:
 
 std::variant<TableContent, TableFault> TableTextReading::run(const std::function<bool(double)> &goOn)
 {
-    if (m_text.find('\0') != std::string_view::npos)
-        return TableFault{"The text has characters with the code 0: it is no table.", 0, 0};
-    std::size_t asked = 0;
-    for (TableLine line; !m_fault && m_lines.next(line); m_lastLine = line.number) {
-        if (goOn && m_lines.bytesRead() > asked + kBytesBetweenQuestions) {
-            asked = m_lines.bytesRead();
-            if (!goOn(static_cast<double>(asked) / static_cast<double>(m_text.size())))
-                return TableFault();
-        }
+    const bool isWhole = eachLine(m_lines, m_text.size(), goOn, [this](const TableLine &line) {
+        m_lastLine = line.number;
         if (line.number > static_cast<std::size_t>(std::max(m_reading.linesToSkip, 0)))
             readLine(line);
-    }
+        else
+            m_aboveHeading = line.cells;
+        return !m_fault;
+    });
+    if (!isWhole && !m_fault)
+        return TableFault();
     if (!m_fault && m_rows == 0)
-        m_fault = nothingRead();
+        m_fault = faultOfNothing(m_remarkAbove);
     if (!m_fault)
         endPart(m_lastLine);
     if (m_fault)
         return *m_fault;
-    return content();
+    return m_body.content(m_reading.verticalDown);
 }
 
 void TableTextReading::readLine(const TableLine &line)
@@ -116,7 +102,7 @@ void TableTextReading::readLine(const TableLine &line)
     if (isNamedSummary || (m_rows > 0 && goesOn(line)) || (m_remark && isRemark(line)))
         return;
     if (isRemark(line)) {
-        const bool isUnderNewAngles = m_parts.size() > 1 && m_parts.back().rows == 0;
+        const bool isUnderNewAngles = m_body.parts.size() > 1 && m_body.parts.back().rows == 0;
         if (isUnderNewAngles && !hasNumbers(line))
             return;
         std::optional<TableFault> &remark = m_rows > 0 ? m_remark : m_remarkAbove;
@@ -137,10 +123,10 @@ void TableTextReading::readLine(const TableLine &line)
 /// Whether a line of values begins with the table's first angle once more.
 bool TableTextReading::beginsAgain(const TableLine &line) const
 {
-    if (!m_reading.hasAngleColumn || m_parts.back().rows < 2)
+    if (!m_reading.hasAngleColumn || m_body.parts.back().rows < 2)
         return false;
     const std::optional<TableAngle> angle = tableAngle(line.cells.front(), m_reading);
-    return angle && angle->degrees == m_down.front() && m_down.back() > m_down.front();
+    return angle && angle->degrees == m_body.down.front() && m_body.down.back() != m_body.down.front();
 }
 
 /// Whether a line below values is one of angles again: the same, as on a new page, or those of further planes.
@@ -149,22 +135,22 @@ bool TableTextReading::goesOn(const TableLine &line)
     if (!m_heading || !m_reading.hasAngleColumn)
         return false;
     if (line.cells == m_heading->cells) {
-        m_rowsAbovePage = m_parts.back().rows;
+        m_rowsAbovePage = m_body.parts.back().rows;
         m_remark.reset();
         return true;
     }
     const std::optional<TableAngle> first = tableAngle(line.cells.front(), m_reading);
     const std::string_view corner = line.cells.front();
     const bool isCorner = corner.empty() || corner == m_heading->cells.front() || angleWord(corner) != AngleWord::None;
-    if (m_across.empty() || (first ? first->word == AngleWord::None : !isCorner))
+    if (m_body.across.empty() || (first ? first->word == AngleWord::None : !isCorner))
         return false;
     const TableHeading heading = tableHeading(line.cells, line.cells.size() + (first ? 1 : 0), m_reading);
     const auto isBare = [](const TableAngle &angle) { return angle.word == AngleWord::None; };
     if (first && std::any_of(heading.angles.begin(), heading.angles.end(), isBare))
         return false;  // a line of values under an angle in words: "G5"
-    double last = m_across.back();
+    double last = m_body.across.back();
     for (const TableAngle &angle : heading.angles) {
-        if (angle.degrees <= last || angle.degrees > 360)
+        if (angle.degrees == last || turnsBack(m_body.across.front(), last, angle.degrees) || angle.degrees > 360)
             return false;
         last = angle.degrees;
     }
@@ -185,16 +171,16 @@ void TableTextReading::beginPart(const TableLine &line, const TableHeading &head
     if (m_reading.separator == TableSeparator::Blanks)
         m_least = m_width;  // which value a shorter line lacks cannot be told
     for (const TableAngle &angle : heading.angles)
-        m_across.push_back(angle.degrees);
-    m_parts.emplace_back();
+        m_body.across.push_back(angle.degrees);
+    m_body.parts.emplace_back();
 }
 
 /// Each part has all the lines of the first.
 void TableTextReading::endPart(std::size_t line)
 {
-    if (m_parts.back().rows != m_rows)
+    if (m_body.parts.back().rows != m_rows)
         refuse(line, 0,
-               "the planes above have " + counted(m_parts.back().rows, "line") + ", those before them " +
+               "the planes above have " + counted(m_body.parts.back().rows, "line") + ", those before them " +
                    std::to_string(m_rows) + ".");
 }
 
@@ -236,7 +222,8 @@ void TableTextReading::begin(const TableLine &line)
             m_columns.push_back(i);
         return;
     }
-    const std::vector<std::string_view> &angles = m_heading->cells;
+    std::vector<std::string_view> angles = m_heading->cells;
+    takeNamesAbove(angles, m_aboveHeading, m_text, m_reading.separator);
     const bool areCellsCut = m_reading.separator != TableSeparator::Blanks;
     for (std::size_t place = m_width; areCellsCut && place < angles.size(); ++place)
         if (tableAngle(angles[place], m_reading))
@@ -257,10 +244,10 @@ void TableTextReading::begin(const TableLine &line)
         m_least = m_columns.back() + 1;
     for (std::size_t i = 0; i < heading.angles.size(); ++i) {
         const double angle = heading.angles[i].degrees;
-        if (!m_across.empty() && angle < m_across.back())
-            refuseFall(m_heading->number, m_heading->before + heading.begin + heading.columns[i] - firstValue + 1,
-                       angle, m_across.back());
-        m_across.push_back(angle);
+        if (!m_body.across.empty() && turnsBack(m_body.across.front(), m_body.across.back(), angle))
+            refuseTurn(m_heading->number, m_heading->before + heading.begin + heading.columns[i] - firstValue + 1,
+                       angle, m_body.across.back());
+        m_body.across.push_back(angle);
     }
 }
 
@@ -280,13 +267,14 @@ void TableTextReading::readRow(const TableLine &line)
         const std::optional<double> value = tableNumber(line.cells[column], m_reading);
         if (!value)
             return refuseCell(line, column);
-        m_parts.back().values.push_back(*value);
+        m_body.parts.back().values.push_back(*value);
     }
-    if (m_columns.empty() || m_rows == kMostAngles || std::max(m_columns.size(), m_across.size()) > kMostAngles)
+    if (m_columns.empty() || m_rows == kMostTableAngles ||
+        std::max(m_columns.size(), m_body.across.size()) > kMostTableAngles)
         return refuse(line.number, 0, "a table has 1 to 32767 lines and columns of values.");
-    m_parts.back().columns = m_columns.size();
-    ++m_parts.back().rows;
-    m_rows += m_parts.size() == 1 ? 1 : 0;
+    m_body.parts.back().columns = m_columns.size();
+    ++m_body.parts.back().rows;
+    m_rows += m_body.parts.size() == 1 ? 1 : 0;
 }
 
 void TableTextReading::readAngle(const TableLine &line)
@@ -294,29 +282,31 @@ void TableTextReading::readAngle(const TableLine &line)
     const std::optional<TableAngle> angle = tableAngle(line.cells.front(), m_reading);
     if (!angle)
         return refuse(line.number, line.before + 1, shownWord(line.cells.front()) + " is no angle.");
-    if (m_parts.size() > 1) {
-        const std::size_t row = m_parts.back().rows;
-        if (row >= m_rows || angle->degrees != m_down[row])
+    if (m_body.parts.size() > 1) {
+        const std::size_t row = m_body.parts.back().rows;
+        if (row >= m_rows || angle->degrees != m_body.down[row])
             refuse(line.number, line.before + 1,
                    "angle " + generalText(angle->degrees) + " does not stand in that place of the planes above.");
         return;
     }
-    if (!m_down.empty() && angle->degrees < m_down.back() && m_rowsAbovePage == m_rows)
-        refuseOther(line);
-    else if (!m_down.empty() && angle->degrees < m_down.back())
-        refuseFall(line.number, line.before + 1, angle->degrees, m_down.back());
-    m_down.push_back(angle->degrees);
+    const std::vector<double> &down = m_body.down;
+    if (!down.empty() && turnsBack(down.front(), down.back(), angle->degrees)) {
+        if (m_rowsAbovePage == m_rows)
+            refuseOther(line);
+        else
+            refuseTurn(line.number, line.before + 1, angle->degrees, down.back());
+    }
+    m_body.down.push_back(angle->degrees);
 }
 
 void TableTextReading::refuse(std::size_t line, std::size_t cell, const std::string &wrong)
 {
     if (m_fault)
         return;
-    std::string text =
-        "Line " + std::to_string(line) + (cell > 0 ? ", cell " + std::to_string(cell) : "") + ": " + wrong;
+    m_fault = faultAt(line, cell, wrong);
     if (m_rows > 0)
-        text += " Read before it: " + counted(m_rows, "line") + " of " + counted(m_columns.size(), "value") + ".";
-    m_fault = TableFault{text, line, cell};
+        m_fault->text +=
+            " Read before it: " + counted(m_rows, "line") + " of " + counted(m_columns.size(), "value") + ".";
 }
 
 void TableTextReading::refuseCell(const TableLine &line, std::size_t place)
@@ -334,49 +324,16 @@ void TableTextReading::refuseWidth(const TableLine &line, std::size_t above)
            counted(line.cells.size(), "cell") + " where the lines above have " + std::to_string(above) + ".");
 }
 
-void TableTextReading::refuseFall(std::size_t line, std::size_t cell, double angle, double before)
+void TableTextReading::refuseTurn(std::size_t line, std::size_t cell, double angle, double before)
 {
-    refuse(line, cell, "angle " + generalText(angle) + " stands behind " + generalText(before) + "; angles must rise.");
+    refuse(line, cell,
+           "angle " + generalText(angle) + " stands behind " + generalText(before) +
+               (angle < before ? "; angles must rise." : "; those before it fall."));
 }
 
 void TableTextReading::refuseOther(const TableLine &line)
 {
     refuse(line.number, line.before + 1, "another table begins here; copy one table alone.");
-}
-
-TableFault TableTextReading::nothingRead() const
-{
-    TableFault fault = m_remarkAbove.value_or(TableFault());
-    const std::string needed = "No line of numbers was found; a table has one for each angle.";
-    fault.text = fault.text.empty() ? needed : needed + " " + fault.text;
-    return fault;
-}
-
-TableContent TableTextReading::content() const
-{
-    TableContent content;
-    const auto rows = static_cast<int>(m_rows);
-    std::size_t columns = 0;
-    for (const TablePart &part : m_parts)
-        columns += part.columns;
-    OneBased<double> &down = m_reading.verticalDown ? content.vertical : content.horizontal;
-    OneBased<double> &across = m_reading.verticalDown ? content.horizontal : content.vertical;
-    for (const double angle : m_down)
-        down.append(angle);
-    for (const double angle : m_across)
-        across.append(angle);
-    const auto width = static_cast<int>(columns);
-    content.values = m_reading.verticalDown ? OneBasedTable<double>(width, rows) : OneBasedTable<double>(rows, width);
-    int before = 0;
-    for (const TablePart &part : m_parts) {
-        const auto end = before + static_cast<int>(part.columns);
-        auto value = part.values.begin();
-        for (int row = 1; row <= rows; ++row)
-            for (int column = before + 1; column <= end; ++column, ++value)
-                (m_reading.verticalDown ? content.values(column, row) : content.values(row, column)) = *value;
-        before = end;
-    }
-    return content;
 }
 
 }  // namespace
@@ -394,7 +351,9 @@ std::optional<std::string> tableMisfit(const TableContent &table, int vertical, 
 std::variant<TableContent, TableFault> readTable(std::string_view text, const TableReading &reading,
                                                  const std::function<bool(double)> &goOn)
 {
-    return TableTextReading(text, reading).run(goOn);
+    if (text.find('\0') != std::string_view::npos)
+        return TableFault{"The text has characters with the code 0: it is no table.", 0, 0};
+    return reading.isList ? readList(text, reading, goOn) : TableTextReading(text, reading).run(goOn);
 }
 
 }  // namespace penwright

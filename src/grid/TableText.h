@@ -6,24 +6,11 @@
 #include <string_view>
 #include <variant>
 
-#include "core/OneBased.h"
+#include "grid/TableContent.h"
+#include "grid/TableFault.h"
 #include "grid/TableReading.h"
 
 namespace penwright {
-
-/// A table of intensities that was read, turned so that its vertical and horizontal angles are known.
-struct TableContent {
-    OneBased<double> vertical;     ///< degrees; empty when the text has none
-    OneBased<double> horizontal;   ///< degrees; empty when the text has none
-    OneBasedTable<double> values;  ///< by (horizontal index, vertical index), in the text's unit
-};
-
-/// Why a text is no table, for the user.
-struct TableFault {
-    std::string text;      ///< what stands there, what is needed, what was read before; "" when reading was stopped
-    std::size_t line = 0;  ///< of the text, counted from 1; 0 when no line is to blame
-    std::size_t cell = 0;  ///< of the line, counted from 1; 0 when no cell is to blame
-};
 
 /// How a text is probably to be read, by its first lines: takes the same time for any length. A text without a table
 /// gives the reading of a plain one.
@@ -33,10 +20,10 @@ TableReading guessTable(std::string_view text);
 /// and beside the same ones, and the line of angles may come again, as on a new page. Left out are blank lines, lines
 /// without any number below the line of angles (such as units), lines and columns that a word names as averages, sums
 /// or the like, columns without an angle, lines' numbers before their angles, angles that come again at the lines'
-/// ends, units behind values, and remarks behind the last line. All else that is no number is a fault, as are angles
-/// that fall and lines of unequal length, but for what is left out at their ends. Takes time and memory in proportion
-/// to the text. `goOn` is asked now and then with the part that is read, 0 to 1; when it says no, the fault has no
-/// text.
+/// ends, units behind values, and remarks behind the last line. Angles that all fall are turned round with their
+/// values. All else that is no number is a fault, as are angles that turn back and lines of unequal length, but for
+/// what is left out at their ends. Takes time and memory in proportion to the text. `goOn` is asked now and then with
+/// the part that is read, 0 to 1; when it says no, the fault has no text.
 std::variant<TableContent, TableFault> readTable(std::string_view text, const TableReading &reading,
                                                  const std::function<bool(double)> &goOn = {});
 

@@ -28,12 +28,14 @@ double TableUnit::factor(ValueUnit unit) const
 
 bool TableUnit::isInMultiplier(ValueUnit unit) const
 {
-    const bool hasFactor = unit != ValueUnit::PerKilolumen || isKnown();
+    const bool hasFactor = unit != ValueUnit::Other && (unit != ValueUnit::PerKilolumen || isKnown());
     return hasFactor && multiplier != 1 && std::fabs(multiplier - factor(unit)) < kSame * factor(unit);
 }
 
 std::string TableUnit::words(ValueUnit unit) const
 {
+    if (unit == ValueUnit::Other)
+        return "The text names percent, lux or another unit than candela: choose what the values are.";
     const bool isOfLamps = unit == ValueUnit::Candela || unit == ValueUnit::PerKilolumen;
     if (isOfLamps && !isKnown())
         return whyNone;

@@ -20,7 +20,7 @@ struct TableUnit {
     /// Whether the file's multiplier is the factor of a unit, to one in a hundred: the table goes in as it is then.
     bool isInMultiplier(ValueUnit unit) const;
 
-    /// What is said of it, in sentences, when values are read in a unit.
+    /// What is said of it, in sentences, when values are read in a unit. One that cannot be taken is to be chosen.
     std::string words(ValueUnit unit) const;
 };
 

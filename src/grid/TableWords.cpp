@@ -48,15 +48,28 @@ std::string thousandsWords(char sign)
     }
 }
 
-std::string anglesWords(const OneBased<double> &angles, int count, const std::string &name, bool isDown)
+struct AxisWords {
+    std::string name;
+    std::string way;
+    bool falls;
+};
+
+/// Where angles stand; "" in a list, whose columns are chosen.
+std::string wayWords(bool isList, bool isDown)
 {
-    const std::string way = isDown ? " down the text" : " across the text";
+    if (isList)
+        return {};
+    return isDown ? " down the text" : " across the text";
+}
+
+std::string anglesWords(const OneBased<double> &angles, int count, const AxisWords &axis)
+{
     if (angles.empty())
-        return "no " + name + "s, but " + counted(count, "value") + way;
-    std::string words = counted(angles.size(), name) + " from " + generalText(angles(1));
+        return "no " + axis.name + "s, but " + counted(count, "value") + axis.way;
+    std::string words = counted(angles.size(), axis.name) + " from " + generalText(angles(1));
     if (angles.size() > 1)
         words += " to " + generalText(angles(angles.size()));
-    return words + way;
+    return words + (axis.falls ? ", falling" : "") + axis.way;
 }
 
 /// Where a line begins, lines counted from 1.
@@ -114,8 +127,11 @@ std::string readingWords(const TableReading &reading)
 
 std::string contentWords(const TableContent &table, const TableReading &reading)
 {
-    return "Read: " + anglesWords(table.vertical, table.values.columns(), "vertical angle", reading.verticalDown) +
-           "; " + anglesWords(table.horizontal, table.values.rows(), "horizontal angle", !reading.verticalDown) + ".";
+    const AxisWords vertical{"vertical angle", wayWords(reading.isList, reading.verticalDown), table.verticalFalls};
+    const AxisWords horizontal{"horizontal angle", wayWords(reading.isList, !reading.verticalDown),
+                               table.horizontalFalls};
+    return "Read: " + anglesWords(table.vertical, table.values.columns(), vertical) + "; " +
+           anglesWords(table.horizontal, table.values.rows(), horizontal) + ".";
 }
 
 std::string_view firstPart(std::string_view text)

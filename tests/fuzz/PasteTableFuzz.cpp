@@ -20,6 +20,7 @@ TableReading readingFrom(const std::uint8_t *data)
     reading.hasAngleRow = data[0] & 0x20;
     reading.hasAngleColumn = data[0] & 0x40;
     reading.verticalDown = data[0] & 0x80;
+    reading.isList = data[1] & 0x10;
     return reading;
 }
 

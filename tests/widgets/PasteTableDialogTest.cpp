@@ -42,6 +42,48 @@ TEST_F(PasteTable, choicesThatAreNotPlainCanBeMadeByKeys)
     });
 }
 
+TEST_F(PasteTable, listOfDirectionsIsShownAsATableAndCanBeReadOtherwise)
+{
+    openPageFive();
+    open("C\tGamma\tcd\n0\t0\t9\n0\t90\t1\n90\t0\t9\n90\t90\t2\n", [&](PasteTableDialog &) {
+        EXPECT_EQ(preview(), "|H 0|H 90\nV 0|9|9\nV 90|1|2");
+        EXPECT_EQ(in<QComboBox>("tableDirection").currentText(), "Second in a list");
+        EXPECT_FALSE(in("tableAngleRow").isEnabled());
+        EXPECT_FALSE(in("tableAngleColumn").isEnabled());
+        choose("tableDirection", 2);
+        EXPECT_EQ(preview(), "|H 0|H 90\nV 0|9|1\nV 90|9|2");
+        choose("tableDirection", 0);
+        EXPECT_EQ(preview(), "|Column 1|Column 2|Column 3\nRow 1|0|0|9\nRow 2|0|90|1\nRow 3|90|0|9\nRow 4|90|90|2");
+        EXPECT_TRUE(in("tableAngleRow").isEnabled());
+        EXPECT_TRUE(in("tableAngleColumn").isEnabled());
+        leave();
+    });
+}
+
+TEST_F(PasteTable, faultOfAListSaysNothingOfTheSizeThatATableNeeds)
+{
+    openPageFive();
+    EXPECT_EQ(
+        problemOf("C\tGamma\tcd\n0\t0\t9\n0\t90\t1\n90\t0\t9\n"),
+        "Line 4: vertical angle 90, horizontal angle 90 is missing behind it; a list has one line for each pair of "
+        "angles.");
+}
+
+TEST_F(PasteTable, unitThatIsNoIntensityWaitsForAChoice)
+{
+    openPageFour();
+    open("Relative intensity in %\n" + kTable, [&](PasteTableDialog &) {
+        EXPECT_EQ(preview(), "|H 0|H 90\nV 0|1000|1000\nV 45|700.5|650.25\nV 90|12.3|0");
+        EXPECT_EQ(problem(), "The text names percent, lux or another unit than candela: choose what the values are.");
+        EXPECT_EQ(in<QComboBox>("tableUnit").currentText(), "");
+        EXPECT_FALSE(isOffered());
+        choose("tableUnit", 0);
+        EXPECT_EQ(problem(), "");
+        EXPECT_TRUE(isOffered());
+        leave();
+    });
+}
+
 TEST_F(PasteTable, linesCanBeSkipped)
 {
     openPageFive();

@@ -14,7 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array kUnitNames{"cd", "cd/klm", "kcd", "mcd"};
+constexpr std::array kUnitNames{"cd", "cd/klm", "kcd", "mcd", "other"};
 
 std::string choicesText(const TableReading &reading)
 {
@@ -22,13 +22,16 @@ std::string choicesText(const TableReading &reading)
     const auto signName = [](char sign) -> std::string {
         return sign == kNoSign ? "none" : sign == ' ' ? "blank" : std::string(1, sign);
     };
-    const char *angles = reading.hasAngleRow      ? reading.hasAngleColumn ? "row and column" : "row"
+    const char *angles = reading.isList           ? "list"
+                         : reading.hasAngleRow    ? reading.hasAngleColumn ? "row and column" : "row"
                          : reading.hasAngleColumn ? "column"
                                                   : "none";
     return std::string("separator: ") + kSeparators[static_cast<int>(reading.separator)] +
            "\ndecimal sign: " + reading.decimalSign + "\nthousands sign: " + signName(reading.thousandsSign) +
-           "\nlines to skip: " + std::to_string(reading.linesToSkip) + "\nangles: " + angles +
-           "\nvertical: " + (reading.verticalDown ? "down" : "across") +
+           "\nlines to skip: " + std::to_string(reading.linesToSkip) + "\nangles: " + angles + "\nvertical: " +
+           (reading.isList         ? reading.verticalDown ? "first" : "second"
+            : reading.verticalDown ? "down"
+                                   : "across") +
            "\nunit: " + kUnitNames[static_cast<std::size_t>(reading.unit)] + "\n";
 }
 

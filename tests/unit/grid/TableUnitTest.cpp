@@ -33,6 +33,14 @@ TEST(TableUnit, hasThousandsAndThousandthsOfCandelaWithoutTheLamps)
               "The values are multiplied by 1000. Page 1 multiplies by 1000 as well.");
 }
 
+TEST(TableUnit, thatIsNoIntensityIsToBeChosen)
+{
+    const TableUnit unit{.lumens = 8900, .multiplier = 8.9F};
+    EXPECT_EQ(unit.words(ValueUnit::Other),
+              "The text names percent, lux or another unit than candela: choose what the values are.");
+    EXPECT_FALSE((TableUnit{.lumens = 8900, .multiplier = 1.001F}.isInMultiplier(ValueUnit::Other)));
+}
+
 TEST(TableUnit, isInTheMultiplierThatIsItToOneInAHundred)
 {
     const auto isIn = [](double lumens, float multiplier) {

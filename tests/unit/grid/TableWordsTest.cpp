@@ -40,6 +40,34 @@ TEST(TableWords, sayWhatWasRead)
               "Read: no vertical angles, but 3 values across the text; 1 horizontal angle from 0 down the text.");
 }
 
+TEST(TableWords, sayWhichAnglesWereTurnedRound)
+{
+    TableContent table;
+    table.values.reset(2, 3);
+    table.vertical = {0, 45, 90};
+    table.horizontal = {0, 90};
+    table.verticalFalls = true;
+    EXPECT_EQ(
+        contentWords(table, {}),
+        "Read: 3 vertical angles from 0 to 90, falling down the text; 2 horizontal angles from 0 to 90 across the "
+        "text.");
+    table.horizontalFalls = true;
+    EXPECT_EQ(
+        contentWords(table, {.verticalDown = false}),
+        "Read: 3 vertical angles from 0 to 90, falling across the text; 2 horizontal angles from 0 to 90, falling "
+        "down the text.");
+}
+
+TEST(TableWords, sayOfAListWhichAnglesItHas)
+{
+    TableContent table;
+    table.values.reset(2, 3);
+    table.vertical = {0, 45, 90};
+    table.horizontal = {0, 90};
+    EXPECT_EQ(contentWords(table, {.isList = true}),
+              "Read: 3 vertical angles from 0 to 90; 2 horizontal angles from 0 to 90.");
+}
+
 TEST(FirstPart, isWholeLinesOfALongText)
 {
     EXPECT_EQ(firstPart("1\t2\n3"), "1\t2\n3");
