@@ -61,6 +61,19 @@ TEST(PlotField, everyFigureStaysInTheArea)
         EXPECT_LE(letter.begin.x + kRoom.letterSize(letter.text).width, area.width) << letter.text;
 }
 
+TEST(PlotField, lettersStandOnTheRightBesideTheAnglesThatTheyName)
+{
+    const PlotField field = plotField({0, 0, 180, 160}, kRoom, lobe());
+    const std::vector<PlotLetter> letters = fieldLettering(field, kRoom, lobe()).letters;
+    ASSERT_EQ(letters.size(), 2U);
+    EXPECT_EQ(letters[0].text, "V");
+    EXPECT_EQ(letters[0].begin.y, field.box.top + field.box.height);
+    EXPECT_EQ(letters[1].text, "H");
+    EXPECT_EQ(letters[1].begin.y, field.box.top + 8);
+    for (const PlotLetter &letter : letters)
+        EXPECT_GT(letter.begin.x, field.box.left + field.box.width) << letter.text;
+}
+
 TEST(PlotField, noFigureCoversAnother)
 {
     for (const double width : {120.0, 180.0, 400.0}) {
