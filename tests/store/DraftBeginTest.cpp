@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <functional>
 
+#include "platform/sqlite/DraftLock.h"
 #include "store/DraftTest.h"
 
 namespace penwright::test {
@@ -64,6 +65,31 @@ TEST_F(DraftBegin, takesAnotherNameWhenAnotherRunHasLockedItsLockFile)
     ASSERT_EQ(names.size(), 2U);
     EXPECT_EQ(names[1], names[0] + ".lock");
     EXPECT_NE(names[1], before.at(0));
+}
+
+TEST(DraftLock, isNotTakenOnAFileThatAnotherRunHasJustRemoved)
+{
+    const TempFolder folder;
+    const std::string path = folder.file("draft.lock");
+    g_beforeLock = [&path] {
+        std::filesystem::remove(path);
+        return 0;
+    };
+    EXPECT_FALSE(DraftLock::take(path, DraftLock::Kind::Alone));
+    EXPECT_FALSE(DraftLock::make(path));
+    g_beforeLock = nullptr;
+    EXPECT_TRUE(DraftLock::take(path, DraftLock::Kind::Alone));
+}
+
+TEST(DraftLock, isSharedByAllWhoLookAndHadAloneByNoneMeanwhile)
+{
+    const TempFolder folder;
+    const std::string path = folder.file("draft.lock");
+    const auto one = DraftLock::take(path, DraftLock::Kind::Shared);
+    const auto another = DraftLock::take(path, DraftLock::Kind::Shared);
+    EXPECT_TRUE(one);
+    EXPECT_TRUE(another);
+    EXPECT_FALSE(DraftLock::take(path, DraftLock::Kind::Alone));
 }
 
 TEST_F(DraftBegin, keepsADraftWhereTheFileSystemHasNoLocks)

@@ -120,6 +120,12 @@ TEST(PlotField, horizontalAngleZeroIsMarkedAtBothEnds)
     EXPECT_DOUBLE_EQ(marks[0].tip.x, field.box.left);
     EXPECT_DOUBLE_EQ(marks[1].tip.x, field.box.left + field.box.width);
     EXPECT_DOUBLE_EQ(marks[0].tip.y, field.box.top);
+    for (const PlotMark &mark : marks) {
+        EXPECT_DOUBLE_EQ(mark.left.x, mark.tip.x - 4);
+        EXPECT_DOUBLE_EQ(mark.right.x, mark.tip.x + 4);
+        EXPECT_DOUBLE_EQ(mark.left.y, mark.tip.y + 8);
+        EXPECT_DOUBLE_EQ(mark.right.y, mark.tip.y + 8);
+    }
 }
 
 TEST(PlotField, smallAreasHaveTheGridAlone)
