@@ -28,7 +28,7 @@ add_library(windows INTERFACE)
 # Rules of one folder: the standard library only. Without sources the target exists and is empty.
 function(penwright_rules folder)
   if(ARGN)
-    add_library(${folder}_rules STATIC ${ARGN})
+    add_library(${folder}_rules ${PENWRIGHT_RULES} ${ARGN})
     target_include_directories(${folder}_rules PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(${folder}_rules PRIVATE penwright_flags)
   else()

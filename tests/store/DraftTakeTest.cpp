@@ -1,3 +1,5 @@
+#include <sys/stat.h>
+
 #include <atomic>
 #include <thread>
 
@@ -20,6 +22,16 @@ TEST_F(DraftTakeTest, draftOfARunThatLivesIsNotOffered)
         other.discard({name, headOf("alive")});
     }
     EXPECT_EQ(files().size(), 2U);
+}
+
+TEST_F(DraftTakeTest, draftWhoseLockIsNoFileIsNotOffered)
+{
+    const std::string lock = pathOf(leave("one") + ".lock");
+    std::filesystem::remove(lock);
+    ASSERT_EQ(mkfifo(lock.c_str(), 0600), 0);
+    EXPECT_EQ(offered(), "");
+    std::filesystem::remove(lock);
+    EXPECT_EQ(offered(), "one\n");
 }
 
 TEST_F(DraftTakeTest, bothAreOfferedTheDraftAndOneGetsIt)

@@ -66,6 +66,15 @@ TEST_F(GridEdits, leadBackToWhatStoodBefore)
     EXPECT_EQ(table.all(), "A1|B1 / 1|2 / 3|4");
 }
 
+TEST_F(GridEdits, ofTypingAreOfTheCellAlone)
+{
+    const GridBlock block = typedEdit(table, 2, 1, "5").block;
+    EXPECT_EQ(block.firstRow, 2);
+    EXPECT_EQ(block.firstColumn, 1);
+    EXPECT_EQ(block.lastRow, 2);
+    EXPECT_EQ(block.lastColumn, 1);
+}
+
 TEST_F(GridEdits, areCalledAsAMenuCallsThem)
 {
     EXPECT_EQ(typedEdit(table, 1, 0, "5").name, "Typing");

@@ -81,6 +81,7 @@ TEST(TableAngle, isReadWithItsWords)
         EXPECT_EQ(degrees(cell), 90) << cell;
     EXPECT_EQ(degrees("-22.5"), -22.5);
     EXPECT_EQ(degrees("H-22.5\xC2\xB0"), -22.5);
+    EXPECT_EQ(degrees("C.5"), 0.5);
     for (const char *cell : {"", "C", "Lamp 2", "54 W", "9O", "90-95", "2 x 54", "C90x"})
         EXPECT_EQ(degrees(cell), std::nullopt) << cell;
     EXPECT_EQ(tableAngle("C90", TableReading())->word, AngleWord::Horizontal);

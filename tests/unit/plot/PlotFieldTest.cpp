@@ -61,6 +61,19 @@ TEST(PlotField, everyFigureStaysInTheArea)
         EXPECT_LE(letter.begin.x + kRoom.letterSize(letter.text).width, area.width) << letter.text;
 }
 
+TEST(PlotField, lettersStandOnTheRightBesideTheAnglesThatTheyName)
+{
+    const PlotField field = plotField({0, 0, 180, 160}, kRoom, lobe());
+    const std::vector<PlotLetter> letters = fieldLettering(field, kRoom, lobe()).letters;
+    ASSERT_EQ(letters.size(), 2U);
+    EXPECT_EQ(letters[0].text, "V");
+    EXPECT_EQ(letters[0].begin.y, field.box.top + field.box.height);
+    EXPECT_EQ(letters[1].text, "H");
+    EXPECT_EQ(letters[1].begin.y, field.box.top + 8);
+    for (const PlotLetter &letter : letters)
+        EXPECT_GT(letter.begin.x, field.box.left + field.box.width) << letter.text;
+}
+
 TEST(PlotField, noFigureCoversAnother)
 {
     for (const double width : {120.0, 180.0, 400.0}) {
@@ -107,6 +120,12 @@ TEST(PlotField, horizontalAngleZeroIsMarkedAtBothEnds)
     EXPECT_DOUBLE_EQ(marks[0].tip.x, field.box.left);
     EXPECT_DOUBLE_EQ(marks[1].tip.x, field.box.left + field.box.width);
     EXPECT_DOUBLE_EQ(marks[0].tip.y, field.box.top);
+    for (const PlotMark &mark : marks) {
+        EXPECT_DOUBLE_EQ(mark.left.x, mark.tip.x - 4);
+        EXPECT_DOUBLE_EQ(mark.right.x, mark.tip.x + 4);
+        EXPECT_DOUBLE_EQ(mark.left.y, mark.tip.y + 8);
+        EXPECT_DOUBLE_EQ(mark.right.y, mark.tip.y + 8);
+    }
 }
 
 TEST(PlotField, smallAreasHaveTheGridAlone)

@@ -80,6 +80,14 @@ TEST_F(PlotLetteringTest, lettersStandAtTheEndsOfTheirAxes)
     }
 }
 
+// A figure's gap, and another for what would touch it, are 3 pixels each.
+TEST_F(PlotLetteringTest, lettersStandTwoGapsBesideTheFiguresOfTheirAxes)
+{
+    letter(300, true, 100);
+    EXPECT_EQ(letterAt("V").x, 4 * 6 / 2 + 2 * 3);
+    EXPECT_EQ(letterAt("H").y, 8 / 2 + 2 * 3);
+}
+
 TEST_F(PlotLetteringTest, typeCCountsFromNadirUpOnBothSides)
 {
     letter(300, true, 0);

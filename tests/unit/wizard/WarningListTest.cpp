@@ -53,6 +53,17 @@ TEST(WarningList, firstFaultIsWhereTheFirstEntryWasFound)
     EXPECT_EQ(list.firstFault(), (FaultPlace{2, 7, 1}));
 }
 
+TEST(WarningList, placeThatIsLookedAtAgainHasItsLaterLinesToo)
+{
+    WarningList list;
+    for (const int field : {1, 2, 1}) {
+        list.lookAt({field});
+        list.Add("fault");
+    }
+    for (const int line : {0, 1, 2})
+        EXPECT_EQ(list.placeOfLine(line), (FaultPlace{line == 1 ? 2 : 1})) << line;
+}
+
 TEST(WarningList, errorHasNoEntryAndComesBeforeTheEntriesFound)
 {
     WarningList list;

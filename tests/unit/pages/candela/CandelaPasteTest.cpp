@@ -134,6 +134,15 @@ TEST_F(CandelaPaste, endsAtATextThatIsNoNumberAndKeepsWhatCameBefore)
     EXPECT_EQ(work().Candela(2, 2), 9);
 }
 
+TEST_F(CandelaPaste, keepsASingleValueBeforeATextThatIsNoNumberAndNoneWhereTheFirstIsOne)
+{
+    build({0, 45}, {0, 30});
+    paste("9\t9\r\n9\t9\r\n");
+    apply(table, table.PasteCandelaTable("1\tabc\r\n3\t4\r\n"));
+    EXPECT_EQ(table.CopyCandelaTable(), "1\t9\r\n9\t9\r\n");
+    EXPECT_FALSE(table.PasteCandelaTable("abc\t2\r\n3\t4\r\n").content);
+}
+
 TEST_F(CandelaPaste, hintsAtLinesOfAnotherLength)
 {
     build({0, 90}, {0, 30, 60});

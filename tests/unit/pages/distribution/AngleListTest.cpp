@@ -300,6 +300,14 @@ TEST(HeldAngles, comeBackAsTheTextsAndSinglesThatTheyWere)
     }
 }
 
+TEST(HeldAngles, areSinglesOrTextsByTheirFirstSign)
+{
+    AngleList list(V);
+    EXPECT_TRUE(bringBack(list, "=22.5\n'45\n=90\n"));
+    EXPECT_EQ(list.cells(), cells({22.5F, std::string("45"), 90.0F}));
+    EXPECT_EQ(list.held()(), "=22.5\n'45\n=90\n");
+}
+
 TEST(HeldAngles, refuseWhatNoListHolds)
 {
     AngleList list(V);

@@ -81,6 +81,18 @@ TEST_F(KeywordDefaults, replaceTheBlockBeforeAndNothingElse)
     EXPECT_EQ(store.read("Lumentor32", "Lumentor32", "InputUnits"), "1");
 }
 
+TEST_F(KeywordDefaults, areRestoredAsTheyWereAndNothingElseIsLeft)
+{
+    gsbKeyDefaultSave(store, {{"[A]", "1"}, {"[B]", "2"}});
+    const auto block = storedDefaults(store);
+    ASSERT_TRUE(block);
+    gsbKeyDefaultSave(store, {{"[B]", "3"}, {"[C]", "4"}, {"[D]", "5"}});
+    restoreDefaults(store, *block);
+    EXPECT_EQ(section(), (std::vector<std::string>{"A[A]=1", "B[B]=2"}));
+    restoreDefaults(store, {});
+    EXPECT_EQ(section(), std::vector<std::string>());
+}
+
 TEST_F(KeywordDefaults, orderOfWritingCountsNotThePrefix)
 {
     write("Z[LAMP]", "1");
