@@ -138,7 +138,8 @@ TEST_F(AnotherProgram, theFocusComesBackToAWizardThatHadItForAMoment)
     other->obey("takefocus");
     ASSERT_TRUE(hasManager() || display.focus() == other->topWindow());
     settle();
-    give(host);
+    if (display.focus() == other->topWindow())  // else a manager has undone what it was not asked for
+        give(host);
     EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
 }
 
