@@ -149,6 +149,7 @@ void X11Focus::onOwnWindow(QEvent::Type type)
     // Each comes to the widget, to its native window or to both; to take the focus twice is to take it once.
     if (type == QEvent::MouseButtonPress) {
         m_due = nullptr;  // who presses the wizard under a window that has just opened means the wizard
+        m_contested.setRemainingTime(kContested);
         take();
     } else if (type == QEvent::Show)
         takeSoon();
