@@ -124,7 +124,10 @@ TEST_F(AnotherProgram, theFocusComesBackThoughThePointerIsOverTheHost)
     ASSERT_TRUE(spinUntil([this] { return !window->isActiveWindow(); }));
     other->obey("leavefocus");
     settle();
-    give(host);
+    if (display.focus() == other->topWindow())  // a manager has undone what it was not asked for
+        give(host);
+    else
+        host.obey("takefocus");
     EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
 }
 
