@@ -46,6 +46,7 @@ void focus(xcb_window_t window, xcb_timestamp_t time)
 HostKeyboard::HostKeyboard(QWidget &window) : QObject(&window), m_window(window)
 {
     qApp->installEventFilter(this);
+    qApp->installNativeEventFilter(this);
 }
 
 void HostKeyboard::giveToWizardIn(xcb_window_t host)
@@ -68,6 +69,16 @@ void HostKeyboard::take(xcb_timestamp_t time)
 {
     if (display())
         focus(static_cast<xcb_window_t>(m_window.winId()), time);
+}
+
+bool HostKeyboard::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)
+{
+    if (eventType != "xcb_generic_event_t")
+        return false;
+    const auto *event = static_cast<const xcb_focus_in_event_t *>(message);
+    const bool isBelow =
+        event->detail == XCB_NOTIFY_DETAIL_VIRTUAL || event->detail == XCB_NOTIFY_DETAIL_NONLINEAR_VIRTUAL;
+    return (event->response_type & 0x7f) == XCB_FOCUS_IN && isBelow;
 }
 
 bool HostKeyboard::eventFilter(QObject *object, QEvent *event)

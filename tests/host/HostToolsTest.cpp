@@ -11,6 +11,7 @@
 #include <QTest>
 #include <QTreeWidget>
 
+#include "hostbench/HostKeyboard.h"
 #include "hostbench/HostWindow.h"
 #include "hostbench/LuminaireTyper.h"
 #include "hostbench/SampleLuminaire.h"
@@ -224,6 +225,19 @@ TEST_F(HostToolsTest, anUnnamedFileComesBackAndIsHeld)
     EXPECT_EQ(back.OptionalData, m_luminaire.OptionalData);
     EXPECT_EQ(back.HorAngles, m_luminaire.HorAngles);
     EXPECT_FALSE(m_window.files().at(1).isSaved);
+}
+
+TEST_F(HostToolsTest, theHostIsNotActiveWhileTheWizardHasTheKeyboard)
+{
+    ToolTab *tab = startAndShow();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(waitFor([&] { return other.isActiveWindow(); }));
+    HostKeyboard::giveToWizardIn(tab->area().windowNumber());
+    ASSERT_TRUE(waitFor([&] { return !other.isActiveWindow(); }));
+    EXPECT_EQ(m_display.focusedTitle(), kFirstPage);
+    EXPECT_FALSE(m_window.isActiveWindow());
 }
 
 TEST_F(HostToolsTest, withTwentyFiveFilesTheToolRefuses)

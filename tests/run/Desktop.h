@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "support/Process.h"
+#include "support/Xvfb.h"
 
 namespace penwright::test {
 
@@ -42,13 +43,20 @@ inline std::string windowTitled(const std::string &title, Milliseconds bound = 6
     return window;
 }
 
+/// Gives a window the keyboard: by a key of the window manager's, or past nobody where there is none. Some window
+/// managers give it back to the window that they turned to last when it is taken unasked.
+inline void turnTo(const std::string &window)
+{
+    xdotool({managerAskedFor().empty() ? "windowfocus" : "windowactivate", "--sync", window});
+}
+
 /// Waits for a window with this title, gives it the keyboard and presses keys there. False when no such window comes.
 inline bool pressIn(const std::string &title, const std::vector<std::string> &keys)
 {
     const std::string window = windowTitled(title);
     if (window.empty())
         return false;
-    xdotool({"windowfocus", "--sync", window});
+    turnTo(window);
     typeKeys(keys);
     return true;
 }

@@ -77,6 +77,19 @@ protected:
         ASSERT_NE(help, "");
         ASSERT_TRUE(waitUntil([&] { return std::to_string(display.focus()) == help; }));
     }
+    /// Turns from the help to the wizard as its user does, who moves the help down and presses the wizard's caption.
+    void pressWizardAboveHelp()
+    {
+        const std::string help = windowTitled(kHelpTitle);
+        host.obey("move 100 100");                    // some managers keep the corners of the screen to themselves
+        xdotool({"windowmove", help, "200", "900"});  // some managers keep it on the screen whole
+        const auto number = static_cast<std::uint32_t>(std::stoul(help));
+        ASSERT_TRUE(waitUntil([&] { return display.onScreen(number).y > display.onScreen(wizard()).y + 80; }))
+            << display.onScreen(number) << " over " << display.onScreen(wizard());
+        const Rectangle place = display.onScreen(wizard());
+        xdotool({"mousemove", std::to_string(place.x + 20), std::to_string(place.y + 20), "click", "1"});
+        ASSERT_TRUE(waitUntil([this] { return display.focus() == wizard(); }));
+    }
     bool shows(int page)
     {
         return waitUntil([&] { return caption() == kCaptions.at(page); });
@@ -307,7 +320,7 @@ TEST_F(EmbeddedRun, helpStaysUsableWhileTheWizardAsks)
 {
     startWizard();
     openHelp();
-    xdotool({"windowfocus", "--sync", std::to_string(wizard())});
+    pressWizardAboveHelp();
     typeKeys({"Escape"});
     ASSERT_NE(windowTitled("Canceling New File Wizard"), "");
     ASSERT_TRUE(pressIn(kHelpTitle, {"Escape"}));

@@ -84,6 +84,17 @@ TEST_F(Focus, isTakenBackFromAHostThatTakesItAsItComesBack)
     EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
 }
 
+// So does a window manager that is busy, and turns late to the host that it sees pressed.
+TEST_F(Focus, isTakenBackFromAHostThatTakesItAsTheWizardIsPressed)
+{
+    embedAndShow();
+    giveFocusToHost();
+    clickAt(*second);
+    ASSERT_TRUE(spinUntil([this] { return display.focus() == id() && window->isActiveWindow(); }));
+    host.obey("takefocus");
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+}
+
 TEST_F(Focus, isLetGoWhenTheRestOfTheHostIsPressed)
 {
     embedAndShow();

@@ -76,6 +76,19 @@ TEST_F(Focus, goesToAnotherWindowThatNobodyGivesItTo)
     EXPECT_TRUE(spinUntil([this] { return display.focus() == idOf(another); }));
 }
 
+// A window that has just opened gets the keyboard after a while where no window manager gives it.
+TEST_F(Focus, isLeftToAWizardThatIsPressedAsAnotherWindowOpens)
+{
+    embedAndShow();
+    openAnotherWindow();
+    clickAt(*first);
+    QTest::qWait(400);
+    EXPECT_EQ(display.focus(), id());
+    movePointerAway();
+    xdotool({"type", "8"});
+    EXPECT_TRUE(spinUntil([this] { return first->text() == "8"; }));
+}
+
 TEST_F(WithManagerAndAnotherProgram, theFocusComesBackToTheWizardThatHadIt)
 {
     embedAndShow();
@@ -111,7 +124,10 @@ TEST_F(AnotherProgram, theFocusComesBackThoughThePointerIsOverTheHost)
     ASSERT_TRUE(spinUntil([this] { return !window->isActiveWindow(); }));
     other->obey("leavefocus");
     settle();
-    host.obey("takefocus");
+    if (display.focus() == other->topWindow())  // a manager has undone what it was not asked for
+        give(host);
+    else
+        host.obey("takefocus");
     EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
 }
 
@@ -125,7 +141,8 @@ TEST_F(AnotherProgram, theFocusComesBackToAWizardThatHadItForAMoment)
     other->obey("takefocus");
     ASSERT_TRUE(hasManager() || display.focus() == other->topWindow());
     settle();
-    give(host);
+    if (display.focus() == other->topWindow())  // else a manager has undone what it was not asked for
+        give(host);
     EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
 }
 

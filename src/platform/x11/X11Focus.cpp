@@ -147,9 +147,11 @@ bool X11Focus::eventFilter(QObject *object, QEvent *event)
 void X11Focus::onOwnWindow(QEvent::Type type)
 {
     // Each comes to the widget, to its native window or to both; to take the focus twice is to take it once.
-    if (type == QEvent::MouseButtonPress)
+    if (type == QEvent::MouseButtonPress) {
+        m_due = nullptr;  // who presses the wizard under a window that has just opened means the wizard
+        m_contested.setRemainingTime(kContested);
         take();
-    else if (type == QEvent::Show)
+    } else if (type == QEvent::Show)
         takeSoon();
     else if (type == QEvent::Expose && m_takeWhenExposed)
         takeAtOnceShown();
@@ -198,8 +200,9 @@ void X11Focus::onDialog(QWidget &dialog, QEvent::Type type)
 // A window manager that counts by its own last press may find itself ignored where it gives a window the focus.
 void X11Focus::giveSoonTo(QWidget &other)
 {
+    m_due = &other;
     QTimer::singleShot(kManagersTime, &other, [this, &other] {
-        if (other.isVisible() && hasIt())
+        if (m_due == &other && other.isVisible() && hasIt())
             x11::focus(static_cast<x11::WindowId>(other.winId()));
     });
 }

@@ -76,6 +76,7 @@ private:
     x11::WindowId m_hostTop = 0;
     bool m_heldIt = false;            ///< whether the wizard, not the host itself, had the focus last of the two
     QPointer<QWindow> m_lastFocused;  ///< of this program's windows
+    QPointer<QWidget> m_due;          ///< the dialog or help window that gets the focus soon if nobody gives it
     bool m_takeWhenExposed = false;
     bool m_isTakeDue = false;    ///< since it was shown
     QDeadlineTimer m_contested;  ///< until then a window manager may hand the host the focus that is the wizard's
