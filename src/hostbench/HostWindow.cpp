@@ -55,6 +55,7 @@ HostWindow::HostWindow(HostStore &store, QString toolProgram, QWidget *parent)
     : QMainWindow(parent), m_store(store), m_toolProgram(std::move(toolProgram))
 {
     setObjectName("hostWindow");
+    setAttribute(Qt::WA_AlwaysShowToolTips);  // while a wizard in it has the keyboard, too
     setWindowTitle(tr("Photometric Toolbox (stand-in host)"));
     auto *whole = new QWidget;
     auto *layout = new QVBoxLayout(whole);

@@ -4,11 +4,13 @@
 #include <memory>
 #include <QApplication>
 #include <QClipboard>
+#include <QHelpEvent>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
+#include <QToolTip>
 #include <QTreeWidget>
 
 #include "hostbench/HostKeyboard.h"
@@ -238,6 +240,12 @@ TEST_F(HostToolsTest, theHostIsNotActiveWhileTheWizardHasTheKeyboard)
     ASSERT_TRUE(waitFor([&] { return !other.isActiveWindow(); }));
     EXPECT_EQ(m_display.focusedTitle(), kFirstPage);
     EXPECT_FALSE(m_window.isActiveWindow());
+
+    QWidget *button = m_window.findChild<QAbstractButton *>();
+    button->setToolTip("why not");
+    QHelpEvent hover(QEvent::ToolTip, {1, 1}, button->mapToGlobal(QPoint(1, 1)));
+    QApplication::sendEvent(button, &hover);
+    EXPECT_TRUE(waitFor([] { return QToolTip::text() == "why not"; }));
 }
 
 TEST_F(HostToolsTest, withTwentyFiveFilesTheToolRefuses)

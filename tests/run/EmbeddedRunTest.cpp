@@ -84,8 +84,11 @@ protected:
         host.obey("move 100 100");                    // some managers keep the corners of the screen to themselves
         xdotool({"windowmove", help, "200", "900"});  // some managers keep it on the screen whole
         const auto number = static_cast<std::uint32_t>(std::stoul(help));
-        ASSERT_TRUE(waitUntil([&] { return display.onScreen(number).y > display.onScreen(wizard()).y + 80; }))
-            << display.onScreen(number) << " over " << display.onScreen(wizard());
+        const auto isBelow = [&] {
+            const Rectangle wizards = display.onScreen(wizard());
+            return wizards.x >= 100 && wizards.y >= 100 && display.onScreen(number).y > wizards.y + 80;
+        };
+        ASSERT_TRUE(waitUntil(isBelow)) << display.onScreen(number) << " over " << display.onScreen(wizard());
         const Rectangle place = display.onScreen(wizard());
         xdotool({"mousemove", std::to_string(place.x + 20), std::to_string(place.y + 20), "click", "1"});
         ASSERT_TRUE(waitUntil([this] { return display.focus() == wizard(); }));

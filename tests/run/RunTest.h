@@ -14,6 +14,11 @@
 
 namespace penwright::test {
 
+inline bool areKillsMeasured()
+{
+    return std::getenv("PENWRIGHT_KILLS") != nullptr;
+}
+
 /// How often a test kills what it has started: PENWRIGHT_KILLS, or `unasked`.
 inline int killRounds(int unasked)
 {
@@ -25,7 +30,7 @@ inline int killRounds(int unasked)
 /// up as well.
 inline Milliseconds killCost()
 {
-    return std::getenv("PENWRIGHT_KILLS") ? 2s : 8s;
+    return areKillsMeasured() ? 2s : 5s;
 }
 
 /// The executable as a process, with this test as its host over a settings store of their own.

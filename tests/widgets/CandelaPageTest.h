@@ -86,7 +86,7 @@ protected:
     QTimer &tmrFlip() { return *window->findChild<QTimer *>("tmrFlip", Qt::FindDirectChildrenOnly); }
     bool waitForFlip()
     {
-        return QTest::qWaitFor([this] { return !tmrFlip().isActive(); }, 10000);
+        return QTest::qWaitFor([this] { return !tmrFlip().isActive(); }, 60'000);
     }
 
     /// `count` angles from 0 on in equal steps.

@@ -43,7 +43,7 @@ protected:
     {
         table.cells = {{"A1", "B1"}, {"A2", "B2"}};
         show();
-        ASSERT_TRUE(QTest::qWaitFor([this] { return grid->hasFocus(); }, 10000));
+        ASSERT_TRUE(QTest::qWaitFor([this] { return grid->hasFocus(); }, 60'000));
     }
     TextTable &table = ownTable(2, 2);
 };

@@ -135,7 +135,7 @@ protected:
     void show()
     {
         window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get(), 10000));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window.get(), 60'000));
     }
 
     /// Moves the pointer to a place of the host's window where the wizard is not.

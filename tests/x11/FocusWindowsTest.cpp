@@ -55,12 +55,10 @@ TEST_F(Focus, ofAnotherWindowIsLeftAtTheEnd)
 TEST_F(Focus, isTakenBackFromAHostThatTakesItAsAnotherWindowCloses)
 {
     embedAndShow();
-    openAnotherWindow();
-    another.close();
-    ASSERT_TRUE(spinUntil([this] { return display.focus() == id() && window->isActiveWindow(); }));
-    host.obey("takefocus");
-    ASSERT_EQ(display.focus(), host.topWindow());
-    EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+    EXPECT_TRUE(isTakenBackAfter([this] {
+        openAnotherWindow();
+        another.close();
+    }));
 }
 
 // As a window manager does that is ignored, and leaves the keyboard where it is.
@@ -83,10 +81,8 @@ TEST_F(Focus, isLeftToAWizardThatIsPressedAsAnotherWindowOpens)
     openAnotherWindow();
     clickAt(*first);
     QTest::qWait(400);
-    EXPECT_EQ(display.focus(), id());
-    movePointerAway();
-    xdotool({"type", "8"});
-    EXPECT_TRUE(spinUntil([this] { return first->text() == "8"; }));
+    EXPECT_TRUE(spinUntil([this] { return display.focus() == id(); }));
+    typeAndExpect(*first, "8");
 }
 
 TEST_F(WithManagerAndAnotherProgram, theFocusComesBackToTheWizardThatHadIt)

@@ -18,6 +18,8 @@ constexpr auto kManagersTime = 200ms;
 
 /// How long a window manager that is busy may hand the focus to the host after the wizard has taken it.
 constexpr auto kContested = 2s;
+constexpr int kMostTakenBack = 3;  // whoever takes it more often would go on for ever
+constexpr x11::WindowId kNoWindow = ~x11::WindowId(0);
 
 void activateModal()
 {
@@ -122,10 +124,14 @@ void X11Focus::letGo()
 // alone: the display ignores it where the host has given the wizard the focus since, as at a click on the wizard's tab.
 void X11Focus::onPress()
 {
-    if (!m_host || !m_window || !x11::isPointerOver(m_hostTop, static_cast<x11::WindowId>(m_window->winId())))
+    if (!m_host || !m_window)
+        return;
+    const auto self = static_cast<x11::WindowId>(m_window->winId());
+    if (!x11::isPointerOver(self, kNoWindow))
+        m_contested = QDeadlineTimer();  // who presses elsewhere means it, in a list over the host's window, too
+    if (!x11::isPointerOver(m_hostTop, self))
         return;
     m_heldIt = false;  // the host is meant, and what it takes is not taken back
-    m_contested = QDeadlineTimer();
     if (hasIt())
         x11::focus(m_hostTop, x11::laterOf(m_presses.time(), x11::userTimeOf(m_hostTop)));
 }
@@ -149,7 +155,7 @@ void X11Focus::onOwnWindow(QEvent::Type type)
     // Each comes to the widget, to its native window or to both; to take the focus twice is to take it once.
     if (type == QEvent::MouseButtonPress) {
         m_due = nullptr;  // who presses the wizard under a window that has just opened means the wizard
-        m_contested.setRemainingTime(kContested);
+        contest();
         take();
     } else if (type == QEvent::Show)
         takeSoon();
@@ -160,8 +166,14 @@ void X11Focus::onOwnWindow(QEvent::Type type)
 // A window manager that turns to the host's window as it comes back may do so after the wizard was given the focus.
 void X11Focus::takeAtOnceShown()
 {
-    m_contested.setRemainingTime(kContested);
+    contest();
     take();
+}
+
+void X11Focus::contest()
+{
+    m_contested.setRemainingTime(kContested);
+    m_mayTakeBack = kMostTakenBack;
 }
 
 // Once for what tells of one showing: a user may have pressed elsewhere before the next one is heard.
@@ -209,7 +221,7 @@ void X11Focus::giveSoonTo(QWidget &other)
 
 void X11Focus::takeBack()
 {
-    m_contested.setRemainingTime(kContested);
+    contest();
     QTimer::singleShot(0, this, [this] {
         activateModal();
         takeUnlessElsewhere();
@@ -226,8 +238,10 @@ void X11Focus::onFocusWindow(QWindow *focused)
     if (focused == m_window->windowHandle() && QApplication::activeModalWidget())
         QTimer::singleShot(0, this, activateModal);
     // A window manager that notices late that a window is gone gives the focus to the host after it was taken here.
-    else if (m_host && !focused && !m_contested.hasExpired() && hasHostTakenIt())
+    else if (m_host && !focused && m_mayTakeBack > 0 && !m_contested.hasExpired() && hasHostTakenIt()) {
+        --m_mayTakeBack;
         take();
+    }
 }
 
 bool X11Focus::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)

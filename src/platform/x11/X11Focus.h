@@ -59,6 +59,7 @@ private:
     void giveSoonTo(QWidget &other);
     void takeSoon();
     void takeAtOnceShown();
+    void contest();
     void takeBack();
     void takeInTime(x11::WindowId self);
     void takeUnlessElsewhere();
@@ -80,6 +81,7 @@ private:
     bool m_takeWhenExposed = false;
     bool m_isTakeDue = false;    ///< since it was shown
     QDeadlineTimer m_contested;  ///< until then a window manager may hand the host the focus that is the wizard's
+    int m_mayTakeBack = 0;       ///< how often it is taken back until then
 };
 
 }  // namespace penwright
