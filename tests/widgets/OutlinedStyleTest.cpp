@@ -106,6 +106,8 @@ TEST_P(Outlined, fieldsAndListsAreSeen)
     EXPECT_TRUE(isSeen(list));
     list.setEditable(true);
     EXPECT_TRUE(isSeen(list));
+    QSpinBox figure;
+    EXPECT_TRUE(isSeen(figure));
 }
 
 TEST_P(Outlined, tablesWithLinesOfTheirOwnAreSeen)
