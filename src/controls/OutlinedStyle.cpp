@@ -155,15 +155,16 @@ void OutlinedStyle::drawComplexControl(ComplexControl control, const QStyleOptio
                                        const QWidget *widget) const
 {
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-    if ((control != CC_ComboBox && control != CC_ScrollBar) || !isOwn())
+    if ((control != CC_ComboBox && control != CC_ScrollBar && control != CC_SpinBox) || !isOwn())
         return;
     const auto colour = addedOutline(option->palette);
     if (!colour)
         return;
     const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    const auto *figure = qstyleoption_cast<const QStyleOptionSpinBox *>(option);
     if (control == CC_ScrollBar)
         drawBox(*painter, *colour, subControlRect(control, option, SC_ScrollBarSlider, widget), 0);
-    else if (list && list->frame)
+    else if ((list && list->frame) || (figure && figure->frame))
         drawBox(*painter, penFor(*colour, *option), option->rect, kRound);
 }
 

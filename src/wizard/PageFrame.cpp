@@ -18,6 +18,7 @@
 #include "controls/InView.h"
 #include "controls/QuietLabel.h"
 #include "controls/ScreenReader.h"
+#include "controls/SeparatorLine.h"
 #include "grid/GridView.h"
 #include "platform/qt/QtText.h"
 #include "wizard/GivenUpTexts.h"
@@ -72,15 +73,6 @@ QScrollArea *makeScrollArea(QWidget *form)
     return area;
 }
 
-QWidget *makeLine()
-{
-    auto *line = new QWidget;
-    line->setFixedHeight(1);
-    line->setBackgroundRole(QPalette::Mid);
-    line->setAutoFillBackground(true);
-    return line;
-}
-
 }  // namespace
 
 PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_context(context)
@@ -98,11 +90,11 @@ PageFrame::PageFrame(int index, const PageContext &context) : m_index(index), m_
     layout->setContentsMargins(28, 22, 28, 20);
     layout->setSpacing(14);
     layout->addWidget(makeHeading(caption()));
-    layout->addWidget(makeLine());
+    layout->addWidget(new SeparatorLine);
     m_scroll = makeScrollArea(m_formArea);
     layout->addWidget(m_scroll, 1);
     layout->addWidget(m_note);
-    layout->addWidget(makeLine());
+    layout->addWidget(new SeparatorLine);
     layout->addLayout(m_buttons);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) { noteField(now); });
 }

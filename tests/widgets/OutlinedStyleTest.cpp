@@ -8,6 +8,7 @@
 #include <QtWidgets>
 #include <string>
 
+#include "controls/SeparatorLine.h"
 #include "grid/GridLinesStyle.h"
 
 namespace penwright::test {
@@ -106,6 +107,8 @@ TEST_P(Outlined, fieldsAndListsAreSeen)
     EXPECT_TRUE(isSeen(list));
     list.setEditable(true);
     EXPECT_TRUE(isSeen(list));
+    QSpinBox figure;
+    EXPECT_TRUE(isSeen(figure));
 }
 
 TEST_P(Outlined, tablesWithLinesOfTheirOwnAreSeen)
@@ -123,6 +126,13 @@ TEST_P(Outlined, buttonsAndMarksAreSeen)
     EXPECT_TRUE(isSeen(button));
     EXPECT_TRUE(isMarkSeen<QCheckBox>(QStyle::SE_CheckBoxIndicator));
     EXPECT_TRUE(isMarkSeen<QRadioButton>(QStyle::SE_RadioButtonIndicator));
+}
+
+TEST_P(Outlined, separatorsAreSeen)
+{
+    SeparatorLine line;
+    line.resize(60, 1);
+    EXPECT_TRUE(isSeen(line, line.rect()));
 }
 
 TEST_P(Outlined, groupsAreSeen)
