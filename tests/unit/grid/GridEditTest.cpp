@@ -125,6 +125,17 @@ TEST_F(GridEdits, withoutAChangeHaveNoContent)
     }
 }
 
+TEST_F(GridEdits, pasteIsRefusedByTheColumnThatCannotBeChangedInAnyRow)
+{
+    table.readOnlyColumn = 1;
+    for (const int row : {1, 2}) {
+        const GridEdit refused = paste({row, 0, row, 0}, "1\t2");
+        ASSERT_TRUE(refused.refused);
+        EXPECT_EQ(refused.refused->box.text, "Row " + std::to_string(row) + ": the column \"B\" cannot be changed.");
+        EXPECT_FALSE(paste({row, 0, row, 0}, "1").refused);
+    }
+}
+
 TEST_F(GridEdits, sayWhatAPasteWithoutACellIsMissing)
 {
     EXPECT_EQ(paste({}, "1").hint, "Select a cell first, then paste again.");

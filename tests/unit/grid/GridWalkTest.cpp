@@ -64,6 +64,11 @@ TEST(GridWalk, goesAlongTheOnlyRow)
                                   {GridKey::Enter, true, kAlong, "", "A1"}});
 }
 
+TEST(GridWalk, goesDownTheOnlyColumn)
+{
+    expectWalks(TextTable(2, 1), {{GridKey::Tab, true, kAlong, "A1", "A2"}, {GridKey::Tab, false, kAlong, "A2", "A1"}});
+}
+
 TEST(GridWalk, passesOverReadOnlyColumnsAndTakesInTheRowToAppend)
 {
     TextTable table(2, 3);

@@ -45,6 +45,22 @@ TEST(TableList, manyLinesInAnyOrderAreRead)
             ASSERT_EQ(content->values(h, v), 300 * (h - 1) + v - 1);
 }
 
+/// Lines of five planes of 300 angles each, so that the first one fills the sample.
+std::string longPlanes(int firstAngle)
+{
+    std::string text;
+    for (int plane = 0; plane < 50; plane += 10)
+        for (int angle = firstAngle; angle < firstAngle + 300; ++angle)
+            text += std::to_string(plane) + "\t" + std::to_string(angle) + "\t5\n";
+    return text;
+}
+
+TEST(TableList, ofOnePlaneInTheSampleIsKnownByAnglesThatLookLikeThem)
+{
+    EXPECT_TRUE(guessTable(longPlanes(0)).isList);
+    EXPECT_FALSE(guessTable(longPlanes(7)).isList);
+}
+
 TEST(TableList, takesTimeInProportion)
 {
     const auto read = [](std::string_view text) { readTable(text, kPlanesFirst); };

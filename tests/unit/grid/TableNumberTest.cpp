@@ -157,5 +157,11 @@ INSTANTIATE_TEST_SUITE_P(Texts, SignAdvice,
                                                                    {"1,2,3", false},
                                                                    {"0x10", false}}));
 
+TEST(TableNumber, hasAThousandDigitsAtMost)
+{
+    EXPECT_EQ(tableNumber(std::string(999, '0') + "1", TableReading()), 1);
+    EXPECT_EQ(tableNumber(std::string(1000, '0') + "1", TableReading()), std::nullopt);
+}
+
 }  // namespace
 }  // namespace penwright

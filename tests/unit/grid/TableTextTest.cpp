@@ -54,6 +54,13 @@ TEST(TableText, isTurnedAsTheReadingSays)
     EXPECT_EQ(across.values(3, 2), 10);
 }
 
+TEST(TableText, hasNoOneValueAtAPoleWithACellThatIsNoNumber)
+{
+    const std::string lines = "\t0\t45\t90\t135\n90\t5\t6\t7\t8\n135\t3\t4\t5\t6\n";
+    EXPECT_TRUE(guessTable(lines + "180\t1\t1\t1\t1\n").verticalDown);
+    EXPECT_FALSE(guessTable(lines + "180\t1\tx\t1\t1\n").verticalDown);
+}
+
 TEST(TableText, isReadByOtherChoicesThanTheGuess)
 {
     TableReading reading;

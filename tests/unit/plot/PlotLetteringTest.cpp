@@ -97,6 +97,15 @@ TEST_F(PlotLetteringTest, typeCCountsFromNadirUpOnBothSides)
     EXPECT_GT(placeOf(lettering.degrees, "180°").y, frame.radius);
 }
 
+TEST_F(PlotLetteringTest, ringOf70PixelsIsTheSmallestWithAFigureAtEachSpoke)
+{
+    letter(300, true, 0);
+    for (const auto &[radius, figures] : {std::pair(69.9, 4U), std::pair(70.0, 12U)}) {
+        frame.radius = radius;
+        EXPECT_EQ(plotLettering(frame, evenRoom(), true, plotRings(0)).degrees.size(), figures) << radius;
+    }
+}
+
 TEST_F(PlotLetteringTest, typeBCountsFromTheRightUpAndDown)
 {
     letter(300, false, 0);

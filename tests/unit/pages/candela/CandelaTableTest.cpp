@@ -214,6 +214,13 @@ TEST_F(CandelaTest, cellIsClearedToNothingButABlankOneHasNothingToClear)
     EXPECT_EQ(table.read(1, 2), " ");
 }
 
+TEST_F(CandelaTest, blankCellInARowBeyondTheLastColumnHasNothingToClear)
+{
+    build({0, 90}, {0, 45, 90});
+    EXPECT_EQ(told(clear(table, 3, 1)), "");
+    EXPECT_EQ(table.read(3, 1), " ");
+}
+
 TEST_F(CandelaTest, copiesOneLineForEachVerticalAngleWithoutAngles)
 {
     build({0, 45, 90}, {0, 90});

@@ -80,5 +80,36 @@ TEST_F(CandelaUndo, saysTheMemoryThatItsContentTakes)
     EXPECT_GE(table.newTable().content->bytes(), 6 * (sizeof(CandelaCell) + sizeof(double)));
 }
 
+/// The first table, built and taken back.
+class CandelaFirstTable : public CandelaTest {
+protected:
+    /// Whether the record is as it was, once the table is there and once it is not.
+    void expectAnglesKept()
+    {
+        const PhotometricRecord before = record();
+        GridEdit edit = table.newTable();
+        for (int turn = 0; turn < 2; ++turn) {
+            edit.content->swap();
+            EXPECT_TRUE(flags.GridReady);
+            EXPECT_TRUE(record() == before);
+            edit.content->swap();
+            EXPECT_FALSE(flags.GridReady);
+            EXPECT_TRUE(record() == before);
+        }
+    }
+};
+
+TEST_F(CandelaFirstTable, leadsBackToNoneAndLeavesTheRecordItsAngles)
+{
+    giveAngles({0, 90}, {0, 45, 90}, kTypeB);
+    expectAnglesKept();
+}
+
+TEST_F(CandelaFirstTable, leavesTheRecordItsOnlyAngles)
+{
+    giveAngles({0, 90}, {}, kTypeB);
+    expectAnglesKept();
+}
+
 }  // namespace
 }  // namespace penwright::test

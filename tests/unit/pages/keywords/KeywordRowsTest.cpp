@@ -233,6 +233,14 @@ TEST(HeldKeywords, comeBackAsTheyWere)
     EXPECT_EQ(rows.rows(), before);
 }
 
+TEST(HeldKeywords, takeTheMemoryOfEachOfTheirTexts)
+{
+    EXPECT_EQ(HeldKeywords::bytesOf({}), 0U);
+    const std::string text(1000, 'a');
+    EXPECT_GE(HeldKeywords::bytesOf({{"", ""}, {text, text}}), 2 * (sizeof(KeywordRow) + text.size()));
+    EXPECT_LT(HeldKeywords::bytesOf({{"", ""}, {text, text}}), 3 * (sizeof(KeywordRow) + text.size()));
+}
+
 TEST(HeldKeywords, refuseWhatNoRowHolds)
 {
     KeywordRows rows = rowsOf("A");

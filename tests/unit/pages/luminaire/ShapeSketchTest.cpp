@@ -207,6 +207,16 @@ TEST(ShapeSketches, outsideTheListHoldTheFrameAlone)
         EXPECT_FALSE(pointsOf(sketchOfShape(position), StrokeKind::Outline).empty()) << position;
 }
 
+TEST(ShapeSketches, pointIsAClosedCircle)
+{
+    const ShapeSketch sketch = sketchOfShape(0);
+    const auto circle = std::find_if(sketch.strokes.begin(), sketch.strokes.end(), [](const SketchStroke &stroke) {
+        return stroke.kind == StrokeKind::Outline && stroke.points.size() > 2;
+    });
+    ASSERT_NE(circle, sketch.strokes.end());
+    EXPECT_LT(distance(circle->points.front(), circle->points.back()), 1e-9);
+}
+
 TEST(ShapeSketches, areAllDistinct)
 {
     for (int one = 0; one < kShapes; ++one) {
@@ -281,6 +291,15 @@ TEST_P(DiscSketch, centreLinesRunInItsPlane)
     ASSERT_EQ(lines.size(), 7u);  // three axes and two arrows come first
     EXPECT_TRUE(areParallel(slant(lines[5]), slantOfAxis(sketch, GetParam().one)));
     EXPECT_TRUE(areParallel(slant(lines[6]), slantOfAxis(sketch, GetParam().other)));
+}
+
+TEST_P(DiscSketch, centreLinesEndAtItsRim)
+{
+    const ShapeSketch sketch = sketchOfShape(GetParam().position);
+    const auto lines = straightLines(sketch, StrokeKind::Frame);
+    ASSERT_EQ(lines.size(), 7u);
+    for (const std::size_t line : {5, 6})
+        EXPECT_LT(farthest(lines[line].points, pointsOf(sketch, StrokeKind::Outline)), 1e-9);
 }
 
 }  // namespace

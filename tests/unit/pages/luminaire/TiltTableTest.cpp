@@ -200,6 +200,12 @@ TEST(HeldTilt, comesBackToTheLastBit)
     EXPECT_EQ(table.rowCount(), 0);
 }
 
+TEST(HeldTilt, takesTheMemoryOfBothLists)
+{
+    EXPECT_EQ(HeldTilt::bytesOf({}), 0U);
+    EXPECT_EQ(HeldTilt::bytesOf({.angles = {0, 45, 90}, .factors = {1, 1, 1}}), 6 * sizeof(float));
+}
+
 TEST(HeldTilt, refusesWhatNoTableHolds)
 {
     TiltTable table = filledTable();
