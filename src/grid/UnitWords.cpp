@@ -8,6 +8,8 @@
 namespace penwright {
 namespace {
 
+constexpr std::size_t kLongestUnit = 24;  // bytes, with the blanks and signs in it
+
 /// The letters, digits and strokes of a text, in small letters, so that "cd / 1.000 lm" is "cd/1000lm".
 std::string squeezed(std::string_view text)
 {
@@ -63,6 +65,19 @@ bool namesUnit(const std::string &text, std::string_view unit)
         const std::size_t behind = text.find_first_not_of(" )]:=;,\t", end);
         const bool isBeforeValue = behind != std::string::npos && isDigit(text[behind]);
         if (isBegin && isEnd && !isBeforeValue && !endsWithValue(std::string_view(text).substr(0, at)))
+            return true;
+    }
+    return false;
+}
+
+/// Whether kilocandela per kilolumen stand there, which is not "4000 K" above "cd/klm" nor "LVK [cd/klm]".
+bool namesBoth(std::string_view text)
+{
+    const std::string letters = lowerCase(text);
+    for (std::size_t at = letters.find("kcd"); at != std::string::npos; at = letters.find("kcd", at + 1)) {
+        const std::string unit = squeezed(std::string_view(letters).substr(at, kLongestUnit));
+        const bool isBegin = at == 0 || letters[at - 1] < 'a' || letters[at - 1] > 'z';
+        if (isBegin && (unit.starts_with("kcd/klm") || unit.starts_with("kcd/1000lm")))
             return true;
     }
     return false;
@@ -159,9 +174,7 @@ bool namesCandela(const std::string &text)
 
 ValueUnit unitOf(std::string_view beginning, const TableSample &sample, const TableReading &reading)
 {
-    // Kilocandela per kilolumen are neither of both.
-    const std::string letters = squeezed(beginning);
-    if (letters.find("kcd/klm") != std::string::npos || letters.find("kcd/1000lm") != std::string::npos)
+    if (namesBoth(beginning))
         return ValueUnit::Other;
     const ValueUnit unit = intensityOf(beginning);
     if (unit != ValueUnit::Candela || namesCandela(lowerCase(beginning)))
