@@ -13,13 +13,6 @@ bool haveDashes(const std::vector<double> &angles)
     return beginsWithDash && std::all_of(angles.begin(), angles.end(), [](double angle) { return angle <= 0; });
 }
 
-std::vector<double> withoutDashes(std::vector<double> angles)
-{
-    if (haveDashes(angles))
-        std::transform(angles.begin(), angles.end(), angles.begin(), [](double angle) { return std::fabs(angle); });
-    return angles;
-}
-
 /// The angles of an axis, and their places in it from those in the text, both counted from 1.
 class TurnedAxis {
 public:
@@ -84,6 +77,13 @@ TableContent TableBody::content(bool verticalDown) const
     content.values.reset(horizontal.size(), vertical.size());
     putValues(parts, lines, cells, verticalDown, content.values);
     return content;
+}
+
+std::vector<double> withoutDashes(std::vector<double> angles)
+{
+    if (haveDashes(angles))
+        std::transform(angles.begin(), angles.end(), angles.begin(), [](double angle) { return std::fabs(angle); });
+    return angles;
 }
 
 bool turnsBack(double first, double last, double next)

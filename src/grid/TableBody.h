@@ -24,6 +24,9 @@ struct TableBody {
     TableContent content(bool verticalDown) const;
 };
 
+/// Angles that have a dash before each number, from "C-0" on, without it; others as they are.
+std::vector<double> withoutDashes(std::vector<double> angles);
+
 /// Whether an angle that follows others does not go their way: it is smaller than the last one of those that rise from
 /// the first, or larger than the last one of those that fall.
 bool turnsBack(double first, double last, double next);

@@ -31,6 +31,7 @@ public:
 
 private:
     void readLine(const TableLine &line);
+    bool isRemark(const TableLine &line) const;
     bool isLeftOut(const TableLine &line);
     void readDirection(const TableLine &line);
     void refuse(const TableLine &line, std::size_t place, const std::string &wrong);
@@ -71,11 +72,24 @@ void ListReading::readLine(const TableLine &line)
         readDirection(line);
 }
 
-/// Whether a line holds no values: it has no number, and may be over some that follow if it names angles.
-bool ListReading::isLeftOut(const TableLine &line)
+/// Whether a line says something instead of holding a direction: it begins with a word, and has hardly a number.
+bool ListReading::isRemark(const TableLine &line) const
 {
     const auto isAngle = [this](std::string_view cell) { return tableAngle(cell, m_reading).has_value(); };
-    if (std::any_of(line.cells.begin(), line.cells.end(), isAngle))
+    const auto angles = std::count_if(line.cells.begin(), line.cells.end(), isAngle);
+    if (angles == 0)
+        return true;
+    const std::string_view first = line.cells.front();
+    return angles == 1 && !first.empty() && first.find_first_of("0123456789") == std::string_view::npos;
+}
+
+/// Whether a line holds no values: a sum, or a remark, which may be over some that follow if it names angles.
+bool ListReading::isLeftOut(const TableLine &line)
+{
+    const std::string_view first = line.cells.front();
+    if (isSummary(first) && !tableAngle(first, m_reading))
+        return true;
+    if (!isRemark(line))
         return false;
     if (!m_remark && angleWord(line.cells.front()) == AngleWord::None) {
         refuse(line, 0, shownWord(line.cells.front()) + " is no angle.");

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstddef>
 #include <optional>
+#include <set>
+#include <utility>
 #include <vector>
 
 #include "grid/AngleLook.h"
@@ -45,6 +47,7 @@ private:
     void readNames();
     void readNamesOf(const Cells &cells);
     std::size_t lines() const { return m_values.size(); }
+    std::size_t pairs() const;
     double linesOfText() const;
     bool hasFurtherPlanes() const;
     bool isOneDirection(std::size_t column) const;
@@ -131,8 +134,17 @@ bool ListSample::isList() const
     if (m_others > 0 || lines() < 4)
         return false;
     if (first > 1 && second > 1)
-        return isFilled && looksLikeAngles(m_list[0]) && looksLikeAngles(m_list[1]);
+        return isFilled && looksLikeAngles(m_list[0]) && looksLikeAngles(m_list[1]) && 2 * pairs() >= lines();
     return hasFurtherPlanes();
+}
+
+/// How many different pairs of angles there are: few where values are taken for angles.
+std::size_t ListSample::pairs() const
+{
+    std::set<std::pair<double, double>> pairs;
+    for (std::size_t at = 0; at < lines(); ++at)
+        pairs.emplace(m_angles[0][at], m_angles[1][at]);
+    return pairs.size();
 }
 
 /// How many lines a text has, about.

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "core/NumberText.h"
+#include "grid/TableBody.h"
 
 namespace penwright {
 namespace {
@@ -166,10 +167,12 @@ TableContent TablePairs::content(bool verticalFirst) const
     const std::size_t vertical = verticalFirst ? 0 : 1;
     const std::size_t horizontal = 1 - vertical;
     TableContent content;
-    appendSorted(m_angles[vertical].inOrder(), content.vertical);
-    appendSorted(m_angles[horizontal].inOrder(), content.horizontal);
-    const std::vector<int> rows = placesOf(m_angles[vertical].inOrder());
-    const std::vector<int> columns = placesOf(m_angles[horizontal].inOrder());
+    const std::vector<double> down = withoutDashes(m_angles[vertical].inOrder());
+    const std::vector<double> across = withoutDashes(m_angles[horizontal].inOrder());
+    appendSorted(down, content.vertical);
+    appendSorted(across, content.horizontal);
+    const std::vector<int> rows = placesOf(down);
+    const std::vector<int> columns = placesOf(across);
     content.values.reset(content.horizontal.size(), content.vertical.size());
     for (const Pair &pair : m_pairs)
         content.values(columns[pair.angles[horizontal]], rows[pair.angles[vertical]]) = pair.value;

@@ -36,6 +36,13 @@ bool isLineOfAngles(const std::vector<std::string_view> &cells)
     return cells.size() > 1 && std::all_of(cells.begin() + 1, cells.end(), isLikeAngle);
 }
 
+/// Whether a line of values begins there, by the next one, which has as many.
+bool opensValues(const std::vector<SampleLine> &lines, std::size_t at)
+{
+    return at + 1 < lines.size() && lines[at].isFull && !lines[at].cells.front().empty() && lines[at + 1].isFull &&
+           lines[at + 1].cells.size() == lines[at].cells.size();
+}
+
 /// Whether a line goes on with the table, if not without a fault.
 bool isNearlyFull(const SampleLine &line, std::size_t width)
 {
@@ -120,7 +127,7 @@ TableSample cutAt(std::string_view text, TableSeparator separator)
     for (TableLine line; lines.next(line);)
         sample.lines.push_back({line.number, line.cells, isFull(line.cells)});
     for (std::size_t at = 1; at < sample.lines.size(); ++at)
-        if (isLineOfAngles(sample.lines[at].cells))
+        if (isLineOfAngles(sample.lines[at].cells) && !opensValues(sample.lines, at))
             takeNamesAbove(sample.lines[at].cells, sample.lines[at - 1].cells, text, separator);
     findWidth(sample);
     if (sample.width > 0)

@@ -8,6 +8,8 @@
 namespace penwright {
 namespace {
 
+constexpr std::size_t kLongestUnit = 24;  // bytes, with the blanks and signs in it
+
 /// The letters, digits and strokes of a text, in small letters, so that "cd / 1.000 lm" is "cd/1000lm".
 std::string squeezed(std::string_view text)
 {
@@ -68,6 +70,19 @@ bool namesUnit(const std::string &text, std::string_view unit)
     return false;
 }
 
+/// Whether kilocandela per kilolumen stand there, which is not "4000 K" above "cd/klm" nor "LVK [cd/klm]".
+bool namesBoth(std::string_view text)
+{
+    const std::string letters = lowerCase(text);
+    for (std::size_t at = letters.find("kcd"); at != std::string::npos; at = letters.find("kcd", at + 1)) {
+        const std::string unit = squeezed(std::string_view(letters).substr(at, kLongestUnit));
+        const bool isBegin = at == 0 || letters[at - 1] < 'a' || letters[at - 1] > 'z';
+        if (isBegin && (unit.starts_with("kcd/klm") || unit.starts_with("kcd/1000lm")))
+            return true;
+    }
+    return false;
+}
+
 ValueUnit intensityOf(std::string_view beginning)
 {
     if (namesKilolumen(beginning))
@@ -99,12 +114,21 @@ bool isLetterOrDigit(char c)
 /// Whether the text before a unit makes it one of a table: "[", "(", ", " or "in".
 bool leadsToUnit(std::string_view before)
 {
-    const std::size_t last = before.find_last_not_of(' ');
+    const std::size_t last = before.find_last_not_of(" \t");
     if (last == std::string_view::npos)
         return false;
     const std::string_view lead = before.substr(0, last + 1);
     const bool isWord = last + 1 < before.size() && (lead.ends_with(" in") || lead.ends_with(" en"));
     return isWord || lead.back() == '[' || lead.back() == '(' || lead.back() == ',';
+}
+
+/// Whether a word behind a comma has another behind it in its cell, as in a name: "Delta, Lux Lab".
+bool goesOnBehindComma(std::string_view before, std::string_view behind)
+{
+    const std::size_t last = before.find_last_not_of(' ');
+    const std::size_t next = behind.find_first_not_of(" \"");
+    return last != std::string_view::npos && before[last] == ',' && next != std::string_view::npos &&
+           std::string_view("()[]\t").find(behind[next]) == std::string_view::npos;
 }
 
 /// Whether a line, in small letters, says that values are in a unit: by itself, not as that of a value in the line.
@@ -119,7 +143,9 @@ bool saysUnit(std::string_view line, std::string_view unit)
         };
         const auto next = std::find_if_not(behind.begin(), behind.end(), isBetween);
         const bool isBeforeValue = next != behind.end() && isDigit(*next);
-        if (isEnd && !isBeforeValue && leadsToUnit(line.substr(0, at)))
+        const std::string_view before = line.substr(0, at);
+        const bool isName = unit.front() == 'l' && goesOnBehindComma(before, behind);
+        if (isEnd && !isBeforeValue && !isName && leadsToUnit(before))
             return true;
     }
     return false;
@@ -135,11 +161,11 @@ bool isRowOfUnit(const std::vector<std::string_view> &cells, std::string_view un
     return cells.size() > 1 && std::all_of(cells.begin() + 1, cells.end(), isUnit);
 }
 
-bool namesOtherUnit(const SampleLine &line)
+bool namesOtherUnit(const SampleLine &line, TableSeparator separator)
 {
     std::string text;
     for (const std::string_view cell : line.cells)
-        text += lowerCase(cell) + " ";
+        text += lowerCase(cell) + (separator == TableSeparator::Blanks ? ' ' : '\t');
     const auto isThere = [&text](std::string_view word) { return text.find(word) != std::string::npos; };
     if (std::any_of(std::begin(kOtherFigures), std::end(kOtherFigures), isThere))
         return false;
@@ -159,9 +185,7 @@ bool namesCandela(const std::string &text)
 
 ValueUnit unitOf(std::string_view beginning, const TableSample &sample, const TableReading &reading)
 {
-    // Kilocandela per kilolumen are neither of both.
-    const std::string letters = squeezed(beginning);
-    if (letters.find("kcd/klm") != std::string::npos || letters.find("kcd/1000lm") != std::string::npos)
+    if (namesBoth(beginning))
         return ValueUnit::Other;
     const ValueUnit unit = intensityOf(beginning);
     if (unit != ValueUnit::Candela || namesCandela(lowerCase(beginning)))
@@ -169,7 +193,7 @@ ValueUnit unitOf(std::string_view beginning, const TableSample &sample, const Ta
     // The names of columns are none of the whole table: those of percents are left out.
     const auto angles = static_cast<std::size_t>(reading.hasAngleRow ? reading.linesToSkip + 1 : 0);
     for (std::size_t at = 0; at < sample.first; ++at)
-        if (sample.lines[at].number != angles && namesOtherUnit(sample.lines[at]))
+        if (sample.lines[at].number != angles && namesOtherUnit(sample.lines[at], sample.separator))
             return ValueUnit::Other;
     return unit;
 }
