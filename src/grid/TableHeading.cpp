@@ -116,8 +116,8 @@ std::size_t headedWidth(const std::vector<std::string_view> &cells, std::size_t 
         std::size_t angles = 0;
         while (angles + named < cells.size() && tableAngle(cells[cells.size() - named - angles - 1], reading))
             ++angles;
-        if (angles + 1 == width)
-            return width + named;
+        if (angles > 0 && angles + named < cells.size() && width > angles && width <= angles + 1 + named)
+            return angles + 1 + named;
     }
     const std::size_t whole = cells.size() + (hasNoCorner(cells, reading) ? 1 : 0);
     return width < whole && width + named >= whole ? whole : width;

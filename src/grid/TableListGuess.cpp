@@ -10,6 +10,7 @@
 
 #include "grid/AngleLook.h"
 #include "grid/TableAngle.h"
+#include "grid/TableBody.h"
 #include "grid/TableLines.h"
 #include "grid/TableNumber.h"
 
@@ -72,8 +73,10 @@ ListSample::ListSample(const TableSample &sample, std::string_view text, const T
     for (std::size_t at = m_first; at < sample.lines.size(); ++at)
         if (isLine(sample.lines[at]))
             readLine(sample.lines[at].cells);
-    for (const std::size_t column : {0, 1})
+    for (const std::size_t column : {0, 1}) {
+        m_angles[column] = withoutDashes(std::move(m_angles[column]));
         m_list[column] = different(m_angles[column]);
+    }
     readNames();
 }
 

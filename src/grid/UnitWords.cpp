@@ -70,6 +70,10 @@ bool namesUnit(const std::string &text, std::string_view unit)
     return false;
 }
 
+/// How kilocandela per kilolumen begin, in small letters without blanks.
+constexpr std::string_view kBothUnits[]{"kcd/klm",   "kcd/1000lm",  "kcd/1000lu",     "kcd/kilolumen",
+                                        "kcdperklm", "kcdper1000l", "kcdperkilolumen"};
+
 /// Whether kilocandela per kilolumen stand there, which is not "4000 K" above "cd/klm" nor "LVK [cd/klm]".
 bool namesBoth(std::string_view text)
 {
@@ -77,7 +81,8 @@ bool namesBoth(std::string_view text)
     for (std::size_t at = letters.find("kcd"); at != std::string::npos; at = letters.find("kcd", at + 1)) {
         const std::string unit = squeezed(std::string_view(letters).substr(at, kLongestUnit));
         const bool isBegin = at == 0 || letters[at - 1] < 'a' || letters[at - 1] > 'z';
-        if (isBegin && (unit.starts_with("kcd/klm") || unit.starts_with("kcd/1000lm")))
+        const auto isBoth = [&unit](std::string_view both) { return unit.starts_with(both); };
+        if (isBegin && std::any_of(std::begin(kBothUnits), std::end(kBothUnits), isBoth))
             return true;
     }
     return false;
@@ -127,8 +132,15 @@ bool goesOnBehindComma(std::string_view before, std::string_view behind)
 {
     const std::size_t last = before.find_last_not_of(' ');
     const std::size_t next = behind.find_first_not_of(" \"");
-    return last != std::string_view::npos && before[last] == ',' && next != std::string_view::npos &&
-           std::string_view("()[]\t").find(behind[next]) == std::string_view::npos;
+    if (last == std::string_view::npos || before[last] != ',' || next == std::string_view::npos)
+        return false;
+    static constexpr std::string_view kWordsOfPlace[]{"at ", "in ", "on ", "bei ", "auf ", "en "};
+    const std::string_view word = behind.substr(next);
+    const bool isOfPlace = std::any_of(std::begin(kWordsOfPlace), std::end(kWordsOfPlace),
+                                       [word](std::string_view place) { return word.starts_with(place); });
+    const bool isWord =
+        (word.front() >= 'a' && word.front() <= 'z') || (word.front() & 0x80) != 0 || word.front() == ',';
+    return isWord && !isOfPlace;
 }
 
 /// Whether a line, in small letters, says that values are in a unit: by itself, not as that of a value in the line.
