@@ -147,7 +147,9 @@ protected:
         ASSERT_TRUE(waitUntil([&] { return std::to_string(display.focus()) == window; }));
         xdotool({"type", "--delay", "1", path});
         typeKeys({"Return"});
-        EXPECT_EQ(pop(), "SendNewDataClose,PenwrightPE,7");
+        EXPECT_EQ(pop(), "SendNewDataClose,PenwrightPE,7")
+            << (tool().hasEnded() ? tool().readAll()
+                                  : "the keyboard is with " + xdotool({"getwindowfocus", "getwindowname"}));
     }
     PhotometricRecord storedRecord()
     {
