@@ -238,10 +238,18 @@ void X11Focus::onFocusWindow(QWindow *focused)
     if (focused == m_window->windowHandle() && QApplication::activeModalWidget())
         QTimer::singleShot(0, this, activateModal);
     // A window manager that notices late that a window is gone gives the focus to the host after it was taken here.
-    else if (m_host && !focused && m_mayTakeBack > 0 && !m_contested.hasExpired() && hasHostTakenIt()) {
-        --m_mayTakeBack;
-        take();
-    }
+    else if (m_host && !focused && isContested())
+        QTimer::singleShot(0, this, [this] {  // behind a press of the host that has been seen before
+            if (!isContested())
+                return;
+            --m_mayTakeBack;
+            take();
+        });
+}
+
+bool X11Focus::isContested() const
+{
+    return m_mayTakeBack > 0 && !m_contested.hasExpired() && hasHostTakenIt();
 }
 
 bool X11Focus::nativeEventFilter(const QByteArray &eventType, void *message, qintptr *)

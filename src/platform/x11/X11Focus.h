@@ -69,6 +69,7 @@ private:
     void onHostFocus(bool gets, int detail);
     void onFocusWindow(QWindow *focused);
     bool hasHostTakenIt() const;
+    bool isContested() const;
 
     QPointer<QWidget> m_window;  ///< events still pass through here while it is being destroyed
     ForeignWindows &m_foreign;
